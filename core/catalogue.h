@@ -1,0 +1,94 @@
+// The words of the catalogue, messages/<module>/<module>.def, one line a message:
+//
+//   MESSAGE(name, id, slot, slot, ...)
+//   NAMED_FIELDS(name, field, field, ...)      for the rare message whose record has other names than f0, f1, ...
+//
+// A slot is U8, U16, U32, U64, String, Bytes, U8Array<N>, U32Array<N>, Table<message> or Vector<message>; the message
+// named has its line further up. Whoever includes a catalogue defines the two words first; KESTO_TAG below is the
+// MESSAGE that turns each line into a type of the message's name, to which the slots of later lines refer.
+#pragma once
+
+#include "core/layout.h"
+
+namespace kesto::catalogue {
+
+using U8 = Scalar<u8>;
+using U16 = Scalar<u16>;
+using U32 = Scalar<u32>;
+using U64 = Scalar<u64>;
+using String = Text;
+using Bytes = Block;
+
+template <u32 N>
+using U8Array = Array<u8, N>;
+
+template <u32 N>
+using U32Array = Array<u32, N>;
+
+template <class Message>
+struct Table {};
+
+// A table whose refusal does not end the read of the message around it.
+template <class Message>
+struct LenientTable {};
+
+template <class Message>
+struct Vector {};
+
+// What a slot of the catalogue is to a layout, and which message it names.
+template <class S>
+struct Meaning {
+    using Slot = S;
+    using Named = void;
+};
+
+template <class Message>
+struct Meaning<Table<Message>> {
+    using Slot = Nested<typename Message::Layout, true>;
+    using Named = Message;
+};
+
+template <class Message>
+struct Meaning<LenientTable<Message>> {
+    using Slot = Nested<typename Message::Layout, false>;
+    using Named = Message;
+};
+
+template <class Message>
+struct Meaning<Vector<Message>> {
+    using Slot = Elements;
+    using Named = Message;
+};
+
+template <class... Slots>
+struct SlotList {
+    using Layout = kesto::Layout<typename Meaning<Slots>::Slot...>;
+
+    // Calls visit.template operator()<Message, kind>() for each slot that names a message, in slot order.
+    template <class Visit>
+    static constexpr void each_named(Visit&& visit)
+    {
+        (
+            [&] {
+                if constexpr (Meaning<Slots>::Slot::kind == Kind::table || Meaning<Slots>::Slot::kind == Kind::vector)
+                    visit.template operator()<typename Meaning<Slots>::Named, Meaning<Slots>::Slot::kind>();
+            }(),
+            ...);
+    }
+
+    static constexpr u32 named = Layout::nested_before(Layout::slots);
+};
+
+}   // namespace kesto::catalogue
+
+// Only the header printer cares for names of fields.
+#define NAMED_FIELDS(...)
+
+// The MESSAGE that makes the types.
+#define KESTO_TAG(message_name, message_id, ...)                      \
+    struct message_name {                                             \
+        static constexpr char name[] = #message_name;                 \
+        static constexpr ::kesto::u32 id = message_id;                \
+        using Slots = ::kesto::catalogue::SlotList<__VA_ARGS__>;      \
+        using Layout = Slots::Layout;                                 \
+    };

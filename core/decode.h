@@ -1,0 +1,157 @@
+// From byte string to record.
+//
+// A template over the layout walks the slots; everything that does not depend on the layout is an ordinary function in
+// decode.cpp. Whatever goes wrong, the record stays safe to release: counts are stored first, pointers are null or own a
+// block.
+#pragma once
+
+#include "core/layout.h"
+#include "core/run.h"
+#include "core/unit.h"
+
+namespace kesto {
+
+struct NestedDecoder;
+
+// A field that owns memory, or a nested record that does.
+struct HeapField {
+    Kind kind;
+    u8 nested;   // tables and vectors: index into the decoder's list of nested messages
+    u16 record_offset;
+};
+
+// What decoding and releasing need to know about one message beyond its layout.
+struct Decoder {
+    Unit* unit;
+    const char* unpack_routine;          // the routine names that logs and memory services are given
+    const char* free_routine;
+    const NestedDecoder* nested;         // one for each table and vector, in slot order
+    const HeapField* heap_fields;        // in slot order
+    u32 heap_field_count;                // 0 for a message without heap parts
+    u32 record_size;
+};
+
+using DecodeElements = bool (*)(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
+
+// A message inside another one.
+struct NestedDecoder {
+    const Decoder* decoder;
+    const char* routine;                 // its name as a nested decoder
+    DecodeElements decode_elements;      // null for a table
+};
+
+// The table that is being decoded.
+struct Frame {
+    Input in;
+    TableView<Input> view;
+    const Decoder* decoder;
+    const char* routine;
+};
+
+// Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
+[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);        // logs a failed allocation
+[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);       // logs a failed allocation
+[[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
+
+// Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
+void release_record(const Decoder& decoder, u8* record);
+
+// The body of X_free__unpacked for a message with heap parts.
+void free_unpacked(void* record, const Decoder& decoder);
+
+// Reports why a byte string was refused before the record was touched.
+[[gnu::cold]] void refuse_parameters(const Decoder& decoder, const u8* bytes, u32 length, const void* record);
+[[gnu::cold]] void refuse_table(const Frame& frame, TableFault fault);
+
+template <class L>
+[[nodiscard]] bool decode_slots(const Frame& frame, u8* record);
+
+template <class L>
+[[nodiscard]] bool decode_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+{
+    Frame frame{in, {}, message.decoder, message.routine};
+    const TableFault fault = open_table(in, table, frame.view);
+    if (fault != TableFault::none) [[unlikely]] {
+        refuse_table(frame, fault);
+        return false;
+    }
+    if (decode_slots<L>(frame, record))
+        return true;
+    if constexpr (L::has_heap_parts)
+        release_record(*message.decoder, record);
+    return false;
+}
+
+template <class L>
+bool decode_elements(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+{
+    for (u32 i = 0; i < count; ++i) {
+        u32 table = 0;
+        if (!element_table(in, cells, i, table))
+            return false;
+        if (!decode_nested<L>(in, table, records + std::size_t{i} * L::record_size, element))
+            return false;
+    }
+    return true;
+}
+
+template <class L, u32 K>
+[[nodiscard]] inline bool decode_slot(const Frame& frame, u8* record)
+{
+    using Slot = typename L::template Slot<K>;
+    const u32 offset = slot_offset(frame.in, frame.view, K);
+    if (offset == 0)
+        return true;   // absent: the record is clear already
+    u8* const field = record + L::record_offset[K];
+    if constexpr (Slot::kind == Kind::scalar) {
+        return read_scalar<typename Slot::Value>(frame.in, frame.view, offset, field);
+    } else if constexpr (Slot::kind == Kind::array) {
+        return read_array<typename Slot::Value>(frame.in, frame.view, offset, Slot::count, field);
+    } else if constexpr (Slot::kind == Kind::text) {
+        return decode_text(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::block) {
+        return decode_block(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::vector) {
+        return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+    } else {
+        u32 table = 0;
+        if (!nested_table(frame.in, frame.view, offset, table))
+            return false;
+        const bool whole =
+            decode_nested<typename Slot::Layout>(frame.in, table, field, frame.decoder->nested[L::nested_before(K)]);
+        return whole || !Slot::fault_ends_read;
+    }
+}
+
+template <class L>
+bool decode_slots(const Frame& frame, u8* record)
+{
+    return each_slot<L>([&]<u32 K>() { return decode_slot<L, K>(frame, record); });
+}
+
+// The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
+template <class L>
+u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
+{
+    // As a signed number, so that a length of 2^31 and more is refused too.
+    if (bytes == nullptr || record == nullptr || static_cast<std::int32_t>(length) < static_cast<std::int32_t>(least_length))
+        [[unlikely]] {
+        refuse_parameters(decoder, bytes, length, record);
+        return L::record_size;
+    }
+    Frame frame{{bytes, length}, {}, &decoder, decoder.unpack_routine};
+    const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
+    if (fault != TableFault::none) [[unlikely]] {
+        refuse_table(frame, fault);
+        return L::record_size;
+    }
+    ensure_memory_services(*decoder.unit);
+    clear_run<L::record_size>(record);
+    if (!decode_slots<L>(frame, record)) {
+        if constexpr (L::has_heap_parts)
+            release_record(decoder, record);
+    }
+    return L::record_size;
+}
+
+}   // namespace kesto

@@ -1,0 +1,152 @@
+// What a list of slots fixes when it is compiled: where each field stands in the record and in the fixed form, the bytes
+// of the fixed form that no field touches, and the runs that record and fixed form have alike.
+//
+// Messages of equal layout share their code: a Layout says nothing about names and ids, and an element of a vector is
+// data (see decode.h, encode.h).
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <tuple>
+
+#include "core/wire.h"
+
+namespace kesto {
+
+enum class Kind : u8 { scalar, text, block, array, table, vector };
+
+constexpr u32 rounded_up(u32 value, u32 multiple) { return (value + multiple - 1) / multiple * multiple; }
+
+constexpr u32 pointer_bytes = sizeof(void*);
+
+// ---- the slots of a layout ----
+
+template <class T>
+struct Scalar {
+    using Value = T;
+    static constexpr Kind kind = Kind::scalar;
+    static constexpr u32 record_size = sizeof(T);
+    static constexpr u32 record_align = sizeof(T);   // a u64 at a multiple of 8 on every target
+    static constexpr u32 fixed_bytes = sizeof(T);
+};
+
+struct Text {
+    static constexpr Kind kind = Kind::text;
+    static constexpr u32 record_size = pointer_bytes;
+    static constexpr u32 record_align = pointer_bytes;
+    static constexpr u32 fixed_bytes = 0;
+};
+
+// A u32 length or count, then a pointer at `counted_pointer`: a block of bytes, or the elements of a vector.
+constexpr u32 counted_pointer = pointer_bytes;
+
+struct Block {
+    static constexpr Kind kind = Kind::block;
+    static constexpr u32 record_size = 2 * pointer_bytes;
+    static constexpr u32 record_align = pointer_bytes;
+    static constexpr u32 fixed_bytes = 0;
+};
+
+struct Elements {
+    static constexpr Kind kind = Kind::vector;
+    static constexpr u32 record_size = 2 * pointer_bytes;
+    static constexpr u32 record_align = pointer_bytes;
+    static constexpr u32 fixed_bytes = 0;
+};
+
+template <class T, u32 N>
+struct Array {
+    using Value = T;
+    static constexpr Kind kind = Kind::array;
+    static constexpr u32 count = N;
+    static constexpr u32 payload = N * sizeof(T);
+    static constexpr u32 record_size = payload;
+    static constexpr u32 record_align = sizeof(T);
+    static constexpr u32 fixed_bytes = cell_bytes + count_bytes + payload;
+};
+
+// `fault_ends_read` is false in the messages that keep going when their nested table is refused.
+template <class L, bool FaultEndsRead>
+struct Nested {
+    using Layout = L;
+    static constexpr Kind kind = Kind::table;
+    static constexpr bool fault_ends_read = FaultEndsRead;
+    static constexpr u32 record_size = L::record_size;
+    static constexpr u32 record_align = L::record_align;
+    static constexpr u32 fixed_bytes = L::fixed_length;
+};
+
+// ---- the layout ----
+
+template <class... Slots>
+struct Layout {
+    static constexpr u32 slots = sizeof...(Slots);
+    template <u32 K>
+    using Slot = std::tuple_element_t<K, std::tuple<Slots...>>;
+
+    static constexpr std::array<Kind, slots> kinds{Slots::kind...};
+
+    static constexpr u32 record_align = [] {
+        u32 most = 1;
+        ((most = Slots::record_align > most ? Slots::record_align : most), ...);
+        return most;
+    }();
+
+    static constexpr std::array<u32, slots> record_offset = [] {
+        std::array<u32, slots> offsets{};
+        u32 k = 0, at = 0;
+        ((offsets[k++] = at = rounded_up(at, Slots::record_align), at += Slots::record_size), ...);
+        return offsets;
+    }();
+
+    static constexpr u32 record_size =
+        rounded_up(record_offset[slots - 1] + Slot<slots - 1>::record_size, record_align);
+
+    static constexpr bool has_heap_parts = [] {
+        bool any = false;
+        ((any = any || Slots::fixed_bytes == 0), ...);
+        return any;
+    }();
+
+    static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
+
+    // How many tables and vectors stand in front of slot k: the index of its entry in a message's list of them.
+    static constexpr u32 nested_before(u32 k)
+    {
+        u32 count = 0;
+        for (u32 i = 0; i < k; ++i)
+            count += kinds[i] == Kind::table || kinds[i] == Kind::vector;
+        return count;
+    }
+
+    // ---- compact form ----
+
+    static constexpr u32 empty_table = vtable_bytes + table_head_bytes;   // a table with nothing to write
+
+    // ---- fixed form; offsets from the table ----
+
+    static constexpr std::array<u32, slots> fixed_offset = [] {
+        std::array<u32, slots> offsets{};
+        u32 k = 0, at = table_head_bytes;
+        ((offsets[k++] = at, at += Slots::fixed_bytes), ...);
+        return offsets;
+    }();
+
+    static constexpr u32 fixed_table_bytes = (table_head_bytes + ... + Slots::fixed_bytes);
+    static constexpr u32 fixed_vtable = root_bytes + rounded_up(fixed_table_bytes, 4);   // its position
+    static constexpr u32 fixed_length = has_heap_parts ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
+};
+
+template <class L>
+concept HeapFree = !L::has_heap_parts;
+
+// Calls visit.template operator()<K>() for each slot; stops and gives false when one of the calls does.
+template <class L, class Visit>
+constexpr bool each_slot(Visit&& visit)
+{
+    return [&]<std::size_t... K>(std::index_sequence<K...>) {
+        return (visit.template operator()<static_cast<u32>(K)>() && ...);
+    }(std::make_index_sequence<L::slots>());
+}
+
+}   // namespace kesto

@@ -1,0 +1,118 @@
+#include "core/send.h"
+
+#include <cstdlib>
+
+namespace kesto {
+
+namespace {
+
+constexpr u32 pool_bytes = 0x10000;   // all byte strings of a compact batch
+
+// Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length 0,
+// the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
+void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
+{
+    u8* const end = encoder.write(buffer, record, encoder.nested);
+    std::memset(end, 0, static_cast<std::size_t>(buffer + size - end));
+}
+
+// The bytes of a batch's one allocation: `data` of them, then the items. 0 where 32 bits do not hold the sum, which
+// takes more records than a 32-bit process has room for; an allocation of the wrapped sum would be overrun.
+u32 batch_bytes(u64 data, u32 count)
+{
+    const u64 bytes = data + u64{count} * sizeof(MeshSendItem);
+    return bytes <= largest_size ? static_cast<u32>(bytes) : 0;
+}
+
+struct Batch {
+    u8* data;              // also the whole allocation
+    MeshSendItem* items;
+};
+
+// Fills `batch` for the given number of data bytes, a multiple of 8, and items.
+[[nodiscard]] bool open_batch(u64 data, u32 count, Batch& batch)
+{
+    const u32 bytes = batch_bytes(data, count);
+    if (bytes == 0 && count != 0)
+        return false;
+    u8* const memory = static_cast<u8*>(std::malloc(bytes));
+    if (memory == nullptr)
+        return false;
+    batch = {memory, reinterpret_cast<MeshSendItem*>(memory + data)};
+    return true;
+}
+
+// Packs one record into the pool, `used` bytes of which are taken.
+[[nodiscard]] bool add_to_pool(const Batch& batch, u32 i, u32& used, const u8* record, const Encoder& encoder)
+{
+    if (used == pool_bytes)
+        return false;
+    const u32 size = encoder.measure(record, encoder.nested);
+    if (size == 0 || size > pool_bytes - used)
+        return false;
+    u8* const at = batch.data + used;
+    write_sent(at, size, record, encoder);
+    batch.items[i] = {at, encoder.id, size};
+    used += size;
+    return true;
+}
+
+}   // namespace
+
+int send_single_compact(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
+{
+    const u32 size = encoder.measure(record, encoder.nested);
+    if (size == 0)
+        return failed;
+    u8* const buffer = static_cast<u8*>(std::malloc(size));
+    if (buffer == nullptr)
+        return failed;
+    ensure_memory_services(*encoder.unit);
+    write_sent(buffer, size, record, encoder);
+    const MeshSendItem item{buffer, encoder.id, size};
+    const int result = hand_over(channel, &item, 1, destination);
+    std::free(buffer);
+    return result;
+}
+
+int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+{
+    Batch batch;
+    if (!open_batch(u64{count} * encoder.fixed_length, count, batch))
+        return failed;
+    ensure_memory_services(*encoder.unit);
+    for (u32 i = 0; i < count; ++i) {
+        u8* const at = batch.data + std::size_t{i} * encoder.fixed_length;
+        encoder.write_fixed(at, records + std::size_t{i} * encoder.record_size);
+        batch.items[i] = {at, encoder.id, encoder.fixed_length};
+    }
+    const int result = hand_over(channel, batch.items, count, destination);
+    std::free(batch.data);
+    return result;
+}
+
+int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+{
+    Batch batch;
+    if (!open_batch(pool_bytes, count, batch))
+        return failed;
+    ensure_memory_services(*encoder.unit);
+    bool all = true;
+    u32 used = 0;
+    for (u32 i = 0; i < count && all; ++i)
+        all = add_to_pool(batch, i, used, records + std::size_t{i} * encoder.record_size, encoder);
+    const int result = all ? hand_over(channel, batch.items, count, destination) : failed;
+    std::free(batch.data);
+    return result;
+}
+
+int send_compact(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+{
+    if (count == 1)
+        return send_single_compact(channel, records, 0, destination, encoder);
+    if (count == 0)
+        return failed;
+    return send_batch_compact(channel, records, count, destination, encoder);
+}
+
+}   // namespace kesto

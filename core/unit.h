@@ -1,0 +1,56 @@
+// The state of a codec unit and what it finds out about its process on first need: memory services and log service.
+//
+// Each module has two units, one that receives and one that sends. Units share nothing.
+#pragma once
+
+#include <pthread.h>
+
+#include <atomic>
+
+#include "core/wire.h"
+#include "platform/osal.h"
+
+namespace kesto {
+
+using Allocate = void* (*)(u32 size, u32 module, const char* caller);
+using Release = void (*)(void* pointer, u32 module, const char* caller);
+using LogWrite = decltype(&RVL_OsalLogWrite);
+
+void* plain_allocate(u32 size, u32 module, const char* caller);
+void plain_release(void* pointer, u32 module, const char* caller);
+
+struct Unit {
+    pthread_mutex_t memory_mutex = PTHREAD_MUTEX_INITIALIZER;
+    std::atomic<u32> memory_ready{0};
+    Allocate allocate = plain_allocate;
+    Release release = plain_release;
+    OsalLogDescriptor log{"KESTO", "KESTO_MARLOCK_SERIAL", 0x6200, 0};
+    pthread_mutex_t log_mutex = PTHREAD_MUTEX_INITIALIZER;
+    LogWrite log_write = nullptr;
+    std::atomic<u32> log_ready{0};
+    u32 byte_order = 0;   // non-zero on a host of the other order: a record of what load and store decided when compiled
+};
+
+// Runs once per unit when the library is loaded.
+inline void start(Unit& unit) { unit.byte_order = host_has_wire_order ? 0 : 1; }
+
+void find_memory_services(Unit& unit);
+
+// After the first call one plain load: the acquire orders the hooks behind the flag that says they are there.
+inline void ensure_memory_services(Unit& unit)
+{
+    if (unit.memory_ready.load(std::memory_order_acquire) == 0) [[unlikely]]
+        find_memory_services(unit);
+}
+
+// ---- the log ----
+
+// The number that a log record gives for its place in the code.
+enum class LogSite : u32 { decode_parameters = 1, table_position, vtable_position, vtable_length, allocation, pack_parameters };
+
+void log_decode_parameters(Unit& unit, const char* routine, const void* bytes, u32 length, const void* record);
+void log_table_fault(Unit& unit, const char* routine, TableFault fault, const Input& in, const TableView<Input>& view);
+void log_allocation(Unit& unit, const char* routine, u32 size);
+void log_pack_parameters(Unit& unit, const char* routine, const void* buffer, u32 capacity, const void* record);
+
+}   // namespace kesto

@@ -1,0 +1,205 @@
+// The wire: how values stand in a byte string, and the only code that reads bytes from outside the process's trust.
+//
+// A position is a u32 index from the first byte of the byte string. The reader's primitives are templates over the input,
+// so that the code that ships can also be run on symbolic words and proved; `Input` is the one that ships.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+namespace kesto {
+
+using u8 = std::uint8_t;
+using u16 = std::uint16_t;
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
+
+// ---- values on the wire: little-endian at any position, whatever the host ----
+
+constexpr bool host_has_wire_order = std::endian::native == std::endian::little;
+
+constexpr u8 wire_order(u8 value) { return value; }
+constexpr u16 wire_order(u16 value) { return host_has_wire_order ? value : __builtin_bswap16(value); }
+constexpr u32 wire_order(u32 value) { return host_has_wire_order ? value : __builtin_bswap32(value); }
+constexpr u64 wire_order(u64 value) { return host_has_wire_order ? value : __builtin_bswap64(value); }
+
+template <class T>
+inline T load(const u8* at)
+{
+    T value;
+    std::memcpy(&value, at, sizeof value);
+    return wire_order(value);
+}
+
+template <class T>
+inline void store(u8* at, T value)
+{
+    value = wire_order(value);
+    std::memcpy(at, &value, sizeof value);
+}
+
+// ---- the table format ----
+
+constexpr u32 root_bytes = 4;          // u32, position of the root table
+constexpr u32 table_head_bytes = 4;    // u32, table position minus vtable position
+constexpr u32 vtable_head_bytes = 4;   // u16 vtable length, u16 table length
+constexpr u32 slot_bytes = 2;          // u16, field position minus table position; 0 for an absent field
+constexpr u32 cell_bytes = 4;          // u32, distance from the cell to what it leads to
+constexpr u32 count_bytes = 4;         // u32, in front of every text, block, array and vector
+constexpr u32 least_length = 4;        // a byte string that can hold a root
+
+// ---- reading foreign bytes ----
+
+// The bytes of one message as they came. Everything below relies on length >= least_length and length < 2^31, which
+// the parameter test of the decoder guarantees.
+struct Input {
+    using Word = u32;
+
+    const u8* bytes;
+    u32 length;
+
+    // Whoever calls these has tested that the n bytes at `at` lie inside.
+    template <class T>
+    u32 load_unchecked(u32 at) const { return load<T>(bytes + at); }
+
+    template <class T>
+    void copy_value_unchecked(u32 at, void* to) const
+    {
+        const T value = load<T>(bytes + at);
+        std::memcpy(to, &value, sizeof value);
+    }
+};
+
+// A table whose vtable has been tested.
+template <class In>
+struct TableView {
+    typename In::Word table;
+    typename In::Word vtable;
+    typename In::Word vtable_length;
+};
+
+enum class TableFault : u8 { none, table_position, vtable_position, vtable_length };
+
+template <class In>
+inline typename In::Word root_table(const In& in)
+{
+    return in.template load_unchecked<u32>(typename In::Word(0));   // every input has least_length bytes
+}
+
+// Tests the table at `table` and its vtable. `view` is filled as far as the tests got, for whoever reports a fault.
+template <class In>
+[[nodiscard]] inline TableFault open_table(const In& in, typename In::Word table, TableView<In>& view)
+{
+    using Word = typename In::Word;
+    const Word last = in.length - least_length;
+    view.table = table;
+    if (table < root_bytes || table > last)
+        return TableFault::table_position;
+    // Subtracts modulo 2^32, so that a vtable behind its table passes the same test.
+    view.vtable = table - in.template load_unchecked<u32>(table);   // table <= length - 4
+    if (view.vtable < root_bytes || view.vtable > last)
+        return TableFault::vtable_position;
+    view.vtable_length = in.template load_unchecked<u16>(view.vtable);   // vtable <= length - 4
+    if (view.vtable_length > in.length - view.vtable)
+        return TableFault::vtable_length;
+    return TableFault::none;
+}
+
+// The offset of slot `k` from its table, 0 when the field is absent. An odd vtable length is legal.
+template <class In>
+inline typename In::Word slot_offset(const In& in, const TableView<In>& view, u32 k)
+{
+    using Word = typename In::Word;
+    if (view.vtable_length < vtable_head_bytes + slot_bytes * (k + 1))
+        return Word(0);
+    return in.template load_unchecked<u16>(view.vtable + (vtable_head_bytes + slot_bytes * k));   // inside the vtable
+}
+
+// Whether the n bytes at `offset` behind the table's start lie inside. n is 8 at the most and an offset has 16 bits.
+template <class In>
+[[nodiscard]] inline bool field_fits(const In& in, const TableView<In>& view, typename In::Word offset, u32 n)
+{
+    return static_cast<bool>(offset + n <= in.length - view.table);
+}
+
+template <class T, class In>
+[[nodiscard]] inline bool read_scalar(const In& in, const TableView<In>& view, typename In::Word offset, void* field)
+{
+    if (!field_fits(in, view, offset, sizeof(T)))
+        return false;
+    in.template copy_value_unchecked<T>(view.table + offset, field);   // field_fits
+    return true;
+}
+
+// Follows the reference cell at `offset` to a count and what it counts, without a test of the count itself.
+template <class In>
+[[nodiscard]] inline bool open_body(const In& in, const TableView<In>& view, typename In::Word offset,
+                                    typename In::Word& payload, typename In::Word& count)
+{
+    using Word = typename In::Word;
+    if (!field_fits(in, view, offset, cell_bytes))
+        return false;
+    const Word cell = view.table + offset;
+    const Word distance = in.template load_unchecked<u32>(cell);   // field_fits
+    if (distance > in.length - cell - count_bytes)   // cell + 4 <= length; also refuses a sum that would wrap
+        return false;
+    const Word body = cell + distance;
+    count = in.template load_unchecked<u32>(body);   // body + 4 <= length
+    payload = body + count_bytes;
+    return true;
+}
+
+// Whether `count` items of `width` bytes lie inside behind `payload`, which open_body gave. No product, no wrap.
+template <class In>
+[[nodiscard]] inline bool payload_fits(const In& in, typename In::Word payload, typename In::Word count, u32 width)
+{
+    return static_cast<bool>(count <= (in.length - payload) / width);
+}
+
+template <class T, class In>
+[[nodiscard]] inline bool read_array(const In& in, const TableView<In>& view, typename In::Word offset, u32 elements,
+                                     u8* field)
+{
+    typename In::Word payload{}, count{};
+    if (!open_body(in, view, offset, payload, count))
+        return false;
+    if (count != elements || !payload_fits(in, payload, count, sizeof(T)))
+        return false;
+    for (u32 i = 0; i < elements; ++i)
+        in.template copy_value_unchecked<T>(payload + i * static_cast<u32>(sizeof(T)), field + i * sizeof(T));
+    return true;
+}
+
+// Follows the reference cell at `offset` to a nested table. The position is tested when that table is opened.
+template <class In>
+[[nodiscard]] inline bool nested_table(const In& in, const TableView<In>& view, typename In::Word offset,
+                                       typename In::Word& table)
+{
+    using Word = typename In::Word;
+    if (!field_fits(in, view, offset, cell_bytes))
+        return false;
+    const Word cell = view.table + offset;
+    const Word target = cell + in.template load_unchecked<u32>(cell);   // field_fits
+    // The distance is unsigned and may carry the sum past 2^32; a target in front of its own cell has wrapped.
+    if (target < cell)
+        return false;
+    table = target;
+    return true;
+}
+
+// The same for element `i` of a vector whose cells payload_fits has tested as a whole.
+template <class In>
+[[nodiscard]] inline bool element_table(const In& in, typename In::Word cells, typename In::Word i,
+                                        typename In::Word& table)
+{
+    using Word = typename In::Word;
+    const Word cell = cells + i * cell_bytes;
+    const Word target = cell + in.template load_unchecked<u32>(cell);   // i < count, and the cells fit
+    if (target < cell)
+        return false;
+    table = target;
+    return true;
+}
+
+}   // namespace kesto

@@ -1,0 +1,33 @@
+/* Inline stand-in for the closed bounds-checked memory operations; see platform/bounded_memory.h.
+ *
+ * A count above the limit does nothing and gives ERANGE. Never called so by the codecs, whose counts are the limits. */
+#ifndef KESTO_PLATFORM_STANDIN_BOUNDED_MEMORY_INLINE_H
+#define KESTO_PLATFORM_STANDIN_BOUNDED_MEMORY_INLINE_H
+
+#include <errno.h>
+#include <stddef.h>
+#include <string.h>
+
+static inline int memset_s(void *destination, size_t limit, int value, size_t count)
+{
+    if (count > limit)
+        return ERANGE;
+    memset(destination, value, count);
+    return 0;
+}
+
+static inline int memcpy_s(void *destination, size_t limit, const void *source, size_t count)
+{
+    if (count > limit)
+        return ERANGE;
+    memcpy(destination, source, count);
+    return 0;
+}
+
+/* The closed library's copy for small counts known at compile time; plain memcpy is exactly that here. */
+static inline int memcpy_sOptAsm(void *destination, size_t limit, const void *source, size_t count)
+{
+    return memcpy_s(destination, limit, source, count);
+}
+
+#endif

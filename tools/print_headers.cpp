@@ -1,0 +1,194 @@
+// Prints the public headers, include/<module>.h, from the catalogue.
+//
+//   print_headers FOLDER    writes FOLDER/<module>.h for every module
+
+#include <cctype>
+#include <cinttypes>
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "tools/catalogue.h"
+
+using namespace kesto::tools;
+
+namespace {
+
+std::string upper(std::string text)
+{
+    for (char& c : text)
+        c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+    return text;
+}
+
+// What every header says once. `@` stands for the module.
+constexpr const char head[] = R"(/* @.h: records and operations of the @ messages. Printed from the catalogue by `./run headers`; do not edit.
+ *
+ * A message X has a record, the plain structure X, an id, X_ID in capitals, and seven operations. In the record, fields
+ * stand in slot order at their natural alignment, a 64-bit one at a multiple of 8 on every target. A text is a pointer to
+ * NUL-terminated bytes; a block of bytes is a length and a pointer; a vector is a count and a pointer to that many
+ * records, end to end. Arrays and nested records lie inline.
+ *
+ * All operations may be called from any thread at any time, on different records. None of them keeps a pointer.
+ *
+ * X__unpack decodes `len` bytes at `buf` into `*rec` and returns the size of the record in bytes.
+ *   WARNING: it returns the same value when decoding fails. After a failure all pointers in `*rec` are null, while scalars,
+ *   lengths and counts keep what was read, unless the parameters, the first table or its vtable were refused: then `*rec`
+ *   is untouched. Start from a zeroed record, and test the pointers, not the counts. `buf` may be foreign bytes of any
+ *   content and alignment; it is not needed after the call. Null for `buf` or `rec`, or a `len` below 4 or above
+ *   2^31 - 1, is refused.
+ *   On success texts, blocks and vectors belong to the caller until X_free__unpacked(rec).
+ *
+ * X_free__unpacked gives back what X__unpack allocated for `*rec` and nulls the pointers; lengths, counts and scalars stay,
+ *   and so does the record itself. Null does nothing, and neither does a second call. Only for what X__unpack filled in.
+ *
+ * X__pack encodes `*rec` in compact form into `buf`. `*len` is the room at `buf` on entry and the length on return. Returns
+ *   0, or -1 for a null `rec`, a room that is too small or a length beyond 32 bits; `*len` then stays as it was.
+ *   `len` must not be null. WARNING: with a null `buf` and enough room it writes nothing and yet returns 0 with `*len` set.
+ *   A zero scalar, a null text and a null or empty block or vector take no room; an empty text is kept apart from a null
+ *   one. A block with a pointer and length 0 makes `*len` 8 larger than what was written.
+ *   A vector with a count must have its pointer; a failed X__unpack leaves a record of which that is not true.
+ *
+ * X__sendsingle, X__sendbatch, X__sendmsg and X__sendtomsg encode records and hand them to the messaging library, on
+ *   `channel`, to `destination` (0 for none). They return that library's result, or -1 when nothing was sent. X__sendmsg
+ *   and X__sendtomsg are the ones to call: they take `n` records that lie end to end at `recs`, refuse n = 0 with -1, and
+ *   use X__sendsingle for one and X__sendbatch for more; a batch goes as a whole or not at all. Messages with a fixed form
+ *   are sent in it: nothing is allocated for one, and one block for a batch of any size. All others are sent in compact
+ *   form, and a batch of them must fit 64 KiB in all, while a single one has no limit. The argument `unused` is not read.
+ *   Records must not be null.
+ *
+ * @_recv_init registers every message's X__unpack and X_free__unpacked with the messaging library, in the order of this
+ *   file; it returns 0 or the library's first other result, after which the later ones are not registered.
+ * @_send_init registers @__send_resource_clean, which does nothing, and returns the library's result.
+ *   Sending works without either, and so do X__pack, X__unpack and X_free__unpacked.
+ */
+#ifndef KESTO_@_H
+#define KESTO_@_H
+
+#include <stdint.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#ifndef KESTO_U64
+#define KESTO_U64
+/* At a multiple of 8 in a structure, also where the compiler's own rule is 4. */
+typedef uint64_t kesto_u64 __attribute__((aligned(8)));
+#endif
+)";
+
+void print_head(std::FILE* file, const std::string& module)
+{
+    bool in_guard = false;
+    for (const char* at = head; *at != '\0'; ++at) {
+        if (*at == '\n' || *at == ' ')
+            in_guard = false;
+        if (std::strncmp(at, "KESTO_@_H", 9) == 0)
+            in_guard = true;
+        if (*at == '@')
+            std::fputs((in_guard ? upper(module) : module).c_str(), file);
+        else
+            std::fputc(*at, file);
+    }
+}
+
+std::string field_declaration(const SlotInfo& slot)
+{
+    const std::string scalar = slot.width == 8 ? "kesto_u64" : "uint" + std::to_string(8 * slot.width) + "_t";
+    switch (slot.kind) {
+    case SlotKind::scalar: return scalar + " " + slot.field;
+    case SlotKind::string: return "char *" + slot.field;
+    case SlotKind::bytes: return "struct { uint32_t length; uint8_t *data; } " + slot.field;
+    case SlotKind::array: return scalar + " " + slot.field + "[" + std::to_string(slot.count) + "]";
+    case SlotKind::table: return slot.nested->name + " " + slot.field;
+    case SlotKind::vector: return "struct { uint32_t count; " + slot.nested->name + " *items; } " + slot.field;
+    }
+    return {};
+}
+
+bool has(const MessageInfo& message, SlotKind kind)
+{
+    for (const SlotInfo& slot : message.slots)
+        if (slot.kind == kind || (slot.kind == SlotKind::table && has(*slot.nested, kind)))
+            return true;
+    return false;
+}
+
+std::string ownership(const MessageInfo& message)
+{
+    std::string parts;
+    const auto add = [&](SlotKind kind, const char* text) {
+        if (has(message, kind))
+            parts += (parts.empty() ? "" : ", ") + std::string(text);
+    };
+    add(SlotKind::string, "text");
+    add(SlotKind::bytes, "bytes");
+    add(SlotKind::vector, "elements");
+    for (const SlotInfo& slot : message.slots)
+        if (slot.kind == SlotKind::vector && slot.nested->has_heap_parts)
+            parts += " and what they own";
+    return parts.empty() ? "Owns no memory." : "Owns its " + parts + ".";
+}
+
+std::string lengths(const MessageInfo& message)
+{
+    const std::string least = std::to_string(empty_length(message));
+    if (message.has_heap_parts)
+        return "Compact form of " + least + " bytes and more.";
+    return "Fixed form of " + std::to_string(message.fixed_length) + " bytes, compact form of " + least + " to " +
+           std::to_string(full_scalars_length(message)) + ".";
+}
+
+void print_message(std::FILE* file, const MessageInfo& message)
+{
+    const char* const name = message.name.c_str();
+    std::fprintf(file, "\n/* %s: %s %s */\n", name, lengths(message).c_str(), ownership(message).c_str());
+    std::fprintf(file, "typedef struct %s {\n", name);
+    for (const SlotInfo& slot : message.slots)
+        std::fprintf(file, "    %s;\n", field_declaration(slot).c_str());
+    std::fprintf(file, "} %s;\n\n", name);
+    std::fprintf(file, "#define %s_ID UINT32_C(0x%08" PRIx32 ")\n\n", upper(message.name).c_str(), message.id);
+    std::fprintf(file, "uint32_t %s__unpack(const uint8_t *buf, uint32_t len, %s *rec);\n", name, name);
+    std::fprintf(file, "void %s_free__unpacked(%s *rec);\n", name, name);
+    std::fprintf(file, "int %s__pack(const %s *rec, uint8_t *buf, uint32_t *len);\n", name, name);
+    std::fprintf(file, "int %s__sendsingle(uint32_t channel, const %s *rec, uint32_t unused, uint32_t destination);\n", name, name);
+    std::fprintf(file, "int %s__sendbatch(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name, name);
+    std::fprintf(file, "int %s__sendmsg(uint32_t channel, const %s *recs, uint32_t n);\n", name, name);
+    std::fprintf(file, "int %s__sendtomsg(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name, name);
+}
+
+bool print_module(const std::string& path, const ModuleInfo& module)
+{
+    std::FILE* const file = std::fopen(path.c_str(), "w");
+    if (file == nullptr) {
+        std::perror(path.c_str());
+        return false;
+    }
+    print_head(file, module.name);
+    for (const MessageInfo* message : module.messages)
+        print_message(file, *message);
+    const char* const name = module.name.c_str();
+    std::fprintf(file, "\nint %s_recv_init(void);\nint %s_send_init(void);\nvoid %s__send_resource_clean(void);\n", name, name, name);
+    std::fputs("\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n", file);
+    const bool written = std::ferror(file) == 0;
+    if (std::fclose(file) != 0 || !written) {
+        std::fprintf(stderr, "%s: could not be written\n", path.c_str());
+        return false;
+    }
+    return true;
+}
+
+}   // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fputs("usage: print_headers FOLDER\n", stderr);
+        return 2;
+    }
+    for (const ModuleInfo& module : modules())
+        if (!print_module(std::string(argv[1]) + "/" + module.name + ".h", module))
+            return 1;
+    return 0;
+}
