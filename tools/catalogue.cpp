@@ -84,16 +84,33 @@ private:
     std::map<std::string, MessageInfo*> known_;
 };
 
+#define KESTO_QUOTED(text) KESTO_QUOTED_EXPANDED(text)
+#define KESTO_QUOTED_EXPANDED(text) #text
+
 #define KESTO_MODULE ifit_dfx
 #define KESTO_CATALOGUE "messages/ifit_dfx/ifit_dfx.def"
+#include "tools/catalogue_module.inc"
+
+#define KESTO_MODULE ifit
+#define KESTO_CATALOGUE "messages/ifit/ifit.def"
+#include "tools/catalogue_module.inc"
+
+#define KESTO_MODULE ifit_sync
+#define KESTO_CATALOGUE "messages/ifit_sync/ifit_sync.def"
+#include "tools/catalogue_module.inc"
+
+#define KESTO_MODULE ntvifit
+#define KESTO_CATALOGUE "messages/ntvifit/ntvifit.def"
 #include "tools/catalogue_module.inc"
 
 const Builder& whole_catalogue()
 {
     static const Builder built = [] {
         Builder builder;
-        builder.begin_module("ifit_dfx");
         ifit_dfx::add(builder);
+        ifit::add(builder);
+        ifit_sync::add(builder);
+        ntvifit::add(builder);
         return builder;
     }();
     return built;

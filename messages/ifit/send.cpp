@@ -1,0 +1,6 @@
+// The send unit of the control messages.
+
+#define KESTO_MODULE ifit
+#define KESTO_CATALOGUE "messages/ifit/ifit.def"
+#define KESTO_HEADER "include/ifit.h"
+#include "core/send_unit.inc"

@@ -1,0 +1,6 @@
+// The send unit of the native telemetry messages.
+
+#define KESTO_MODULE ntvifit
+#define KESTO_CATALOGUE "messages/ntvifit/ntvifit.def"
+#define KESTO_HEADER "include/ntvifit.h"
+#include "core/send_unit.inc"
