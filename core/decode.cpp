@@ -87,6 +87,16 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     return true;
 }
 
+bool decode_bytes(const Frame& frame, u32 offset, u32 count, u8* field)
+{
+    return read_array<u8>(frame.in, frame.view, offset, count, field);
+}
+
+bool decode_words(const Frame& frame, u32 offset, u32 count, u8* field)
+{
+    return read_array<u32>(frame.in, frame.view, offset, count, field);
+}
+
 bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element)
 {
     u32 cells = 0, count = 0;

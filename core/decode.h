@@ -51,6 +51,8 @@ struct Frame {
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);        // logs a failed allocation
 [[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);       // logs a failed allocation
+[[nodiscard]] bool decode_bytes(const Frame& frame, u32 offset, u32 count, u8* field);    // an array of u8
+[[nodiscard]] bool decode_words(const Frame& frame, u32 offset, u32 count, u8* field);    // an array of u32
 [[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
 
 // Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
@@ -63,8 +65,9 @@ void free_unpacked(void* record, const Decoder& decoder);
 [[gnu::cold]] void refuse_parameters(const Decoder& decoder, const u8* bytes, u32 length, const void* record);
 [[gnu::cold]] void refuse_table(const Frame& frame, TableFault fault);
 
+// Shared by every message of one layout, as are the other templates that are not inlined.
 template <class L>
-[[nodiscard]] bool decode_slots(const Frame& frame, u8* record);
+[[nodiscard, gnu::noinline]] bool decode_slots(const Frame& frame, u8* record);
 
 template <class L>
 [[nodiscard]] bool decode_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
@@ -96,7 +99,7 @@ bool decode_elements(const Input& in, u32 cells, u32 count, u8* records, const N
 }
 
 template <class L, u32 K>
-[[nodiscard]] inline bool decode_slot(const Frame& frame, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, u8* record)
 {
     using Slot = typename L::template Slot<K>;
     const u32 offset = slot_offset(frame.in, frame.view, K);
@@ -106,7 +109,10 @@ template <class L, u32 K>
     if constexpr (Slot::kind == Kind::scalar) {
         return read_scalar<typename Slot::Value>(frame.in, frame.view, offset, field);
     } else if constexpr (Slot::kind == Kind::array) {
-        return read_array<typename Slot::Value>(frame.in, frame.view, offset, Slot::count, field);
+        if constexpr (sizeof(typename Slot::Value) == 1)
+            return decode_bytes(frame, offset, Slot::count, field);
+        else
+            return decode_words(frame, offset, Slot::count, field);
     } else if constexpr (Slot::kind == Kind::text) {
         return decode_text(frame, offset, field);
     } else if constexpr (Slot::kind == Kind::block) {
@@ -124,14 +130,15 @@ template <class L, u32 K>
 }
 
 template <class L>
-bool decode_slots(const Frame& frame, u8* record)
+bool decode_slots(const Frame& shared_frame, u8* record)
 {
-    return each_slot<L>([&]<u32 K>() { return decode_slot<L, K>(frame, record); });
+    const Frame frame = shared_frame;   // held in registers: nobody else's stores can change a copy
+    return each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { return decode_slot<L, K>(frame, record); });
 }
 
 // The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
 template <class L>
-u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
+[[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
     // As a signed number, so that a length of 2^31 and more is refused too.
     if (bytes == nullptr || record == nullptr || static_cast<std::int32_t>(length) < static_cast<std::int32_t>(least_length))

@@ -45,10 +45,10 @@ inline const u8* field_pointer(const u8* field) { return field_value<const u8*>(
 
 // The size of one table and all beneath it, without a root.
 template <class L>
-u64 measure_table(const u8* record, const NestedEncoder* nested)
+[[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
     u64 size = L::empty_table;
-    const bool fits = each_slot<L>([&]<u32 K>() {
+    const bool fits = each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
@@ -101,123 +101,174 @@ u32 measure_message(const u8* record, const NestedEncoder* nested)
 
 // ---- the packer ----
 
-inline u32 distance(const u8* from, const u8* to) { return static_cast<u32>(to - from); }
+// The slots of a vtable, gathered in registers and stored behind the fields: a store for each slot would be the dearest
+// part of packing.
+template <u32 N>
+struct SlotWords {
+    using Word = std::conditional_t<sizeof(void*) == 8, u64, u32>;
+    static constexpr u32 in_word = sizeof(Word) / slot_bytes;
+
+    std::array<Word, (N + in_word - 1) / in_word> words{};
+
+    template <u32 K>
+    [[gnu::always_inline]] void set(u32 offset)
+    {
+        words[K / in_word] |= Word{offset} << (8 * slot_bytes * (K % in_word));
+    }
+
+    [[gnu::always_inline]] void store_at(u8* slots) const
+    {
+        for (u32 i = 0; i < N / in_word; ++i)
+            store(slots + i * sizeof(Word), words[i]);
+        for (u32 k = N / in_word * in_word; k < N; ++k)
+            store(slots + k * slot_bytes, static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
+    }
+};
 
 // Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was written.
 template <class L>
-u8* write_table(u8* const vtable, const u8* record, const NestedEncoder* nested)
-{
-    u8* const table = vtable + L::vtable_bytes;
-    u8* cursor = table + table_head_bytes;
+[[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
-    const auto present = [&](u32 k, const u8* at) {
-        store(vtable + vtable_head_bytes + slot_bytes * k, static_cast<u16>(at - table));
-    };
-    const auto absent = [&](u32 k) { store(vtable + vtable_head_bytes + slot_bytes * k, u16{0}); };
+// One table on its way out. `at` is the offset from the table of the next byte to write.
+template <class L>
+struct TableWriter {
+    u8* table;
+    const u8* record;
+    u32 at = table_head_bytes;
+    SlotWords<L::slots> slots{};
+    std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 
-    // The scalars that are not zero.
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
-        if constexpr (Slot::kind == Kind::scalar) {
-            const auto value = field_value<typename Slot::Value>(record + L::record_offset[K]);
+    [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_) : table(table_), record(record_) {}
+
+    template <u32 K>
+    using Slot = typename L::template Slot<K>;
+
+    template <u32 K>
+    [[gnu::always_inline]] const u8* field() const { return record + L::record_offset[K]; }
+
+    template <u32 K>
+    [[gnu::always_inline]] void write_scalar()
+    {
+        if constexpr (Slot<K>::kind == Kind::scalar) {
+            const auto value = field_value<typename Slot<K>::Value>(field<K>());
             if (value != 0) {
-                present(K, cursor);
-                store(cursor, value);
-                cursor += sizeof value;
-            } else {
-                absent(K);
+                store(table + at, value);
+                slots.template set<K>(at);
+                at += sizeof value;
             }
         }
-        return true;
-    });
+    }
 
-    // The cells, to be filled when it is known where they lead.
-    std::array<u8*, L::slots> cells;   // read only for a slot that is not a scalar; null where nothing is written
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
-        const u8* const field = record + L::record_offset[K];
-        if constexpr (Slot::kind != Kind::scalar) {
+    // Reserves a cell, to be filled when it is known where it leads.
+    template <u32 K>
+    [[gnu::always_inline]] void reserve_cell()
+    {
+        if constexpr (Slot<K>::kind != Kind::scalar) {
             bool written = true;
-            if constexpr (Slot::kind == Kind::text)
-                written = field_pointer(field) != nullptr;
-            else if constexpr (Slot::kind == Kind::block || Slot::kind == Kind::vector)
-                written = field_pointer(field + counted_pointer) != nullptr && field_value<u32>(field) != 0;
-            cells[K] = written ? cursor : nullptr;
+            if constexpr (Slot<K>::kind == Kind::text)
+                written = field_pointer(field<K>()) != nullptr;
+            else if constexpr (Slot<K>::kind == Kind::block || Slot<K>::kind == Kind::vector)
+                written = field_pointer(field<K>() + counted_pointer) != nullptr && field_value<u32>(field<K>()) != 0;
+            cells[K] = written ? at : 0;
             if (written) {
-                present(K, cursor);
-                cursor += cell_bytes;
-            } else {
-                absent(K);
+                slots.template set<K>(at);
+                at += cell_bytes;
             }
         }
-        return true;
-    });
+    }
+
+    // Leads slot K's cell to the count that comes next, and writes the count.
+    template <u32 K>
+    [[gnu::always_inline]] void open_body(u32 count)
+    {
+        store(table + cells[K], at - cells[K]);
+        store(table + at, count);
+        at += count_bytes;
+    }
+
+    [[gnu::always_inline]] void write_bytes(const u8* bytes, u32 length)
+    {
+        memcpy_sOptAsm(table + at, length, bytes, length);
+        at += length;
+    }
 
     // The bodies that belong to the table itself.
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
-        const u8* const field = record + L::record_offset[K];
-        if constexpr (Slot::kind == Kind::array) {
-            store(cells[K], distance(cells[K], cursor));
-            store(cursor, u32{Slot::count});
-            cursor += count_bytes;
-            if constexpr (host_has_wire_order || sizeof(typename Slot::Value) == 1)
-                copy_run<Slot::payload>(cursor, field);
+    template <u32 K>
+    [[gnu::always_inline]] void write_body()
+    {
+        if constexpr (Slot<K>::kind == Kind::array) {
+            using Value = typename Slot<K>::Value;
+            open_body<K>(Slot<K>::count);
+            if constexpr (host_has_wire_order || sizeof(Value) == 1)
+                copy_run<Slot<K>::payload>(table + at, field<K>());
             else
-                for (u32 i = 0; i < Slot::payload; i += sizeof(typename Slot::Value))
-                    store(cursor + i, field_value<typename Slot::Value>(field + i));
-            cursor += Slot::payload;
-        } else if constexpr (Slot::kind == Kind::text) {
-            if (cells[K] != nullptr) {
-                const u8* const text = field_pointer(field);
+                for (u32 i = 0; i < Slot<K>::payload; i += sizeof(Value))
+                    store(table + at + i, field_value<Value>(field<K>() + i));
+            at += Slot<K>::payload;
+        } else if constexpr (Slot<K>::kind == Kind::text) {
+            if (cells[K] != 0) {
+                const u8* const text = field_pointer(field<K>());
                 const u32 length = static_cast<u32>(std::strlen(reinterpret_cast<const char*>(text)));
-                store(cells[K], distance(cells[K], cursor));
-                store(cursor, length);
-                memcpy_sOptAsm(cursor + count_bytes, length, text, length);
-                cursor += count_bytes + std::size_t{length};
-                *cursor++ = 0;
+                open_body<K>(length);
+                write_bytes(text, length);
+                table[at++] = 0;
             }
-        } else if constexpr (Slot::kind == Kind::block) {
-            if (cells[K] != nullptr) {
-                const u32 length = field_value<u32>(field);
-                store(cells[K], distance(cells[K], cursor));
-                store(cursor, length);
-                memcpy_sOptAsm(cursor + count_bytes, length, field_pointer(field + counted_pointer), length);
-                cursor += count_bytes + std::size_t{length};
+        } else if constexpr (Slot<K>::kind == Kind::block) {
+            if (cells[K] != 0) {
+                const u32 length = field_value<u32>(field<K>());
+                open_body<K>(length);
+                write_bytes(field_pointer(field<K>() + counted_pointer), length);
             }
-        } else if constexpr (Slot::kind == Kind::vector) {
-            if (cells[K] != nullptr) {
-                const u32 count = field_value<u32>(field);
-                store(cells[K], distance(cells[K], cursor));
-                store(cursor, count);
-                cells[K] = cursor + count_bytes;   // from here on the first element's cell
-                cursor += count_bytes + std::size_t{cell_bytes} * count;
+        } else if constexpr (Slot<K>::kind == Kind::vector) {
+            if (cells[K] != 0) {
+                const u32 count = field_value<u32>(field<K>());
+                open_body<K>(count);
+                cells[K] = at;   // from here on the first element's cell
+                at += cell_bytes * count;
             }
         }
-        return true;
-    });
+    }
 
-    store(vtable, static_cast<u16>(L::vtable_bytes));
-    store(vtable + 2, static_cast<u16>(cursor - table));   // truncated beyond 64 KiB: no reader looks at it
-    store(table, u32{L::vtable_bytes});
-
-    // What lies beneath.
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
-        const u8* const field = record + L::record_offset[K];
-        if constexpr (Slot::kind == Kind::table) {
-            store(cells[K], distance(cells[K], cursor + Slot::Layout::vtable_bytes));
-            cursor = write_table<typename Slot::Layout>(cursor, field, nested[L::nested_before(K)].nested);
-        } else if constexpr (Slot::kind == Kind::vector) {
-            if (cells[K] != nullptr) {
-                const NestedEncoder& element = nested[L::nested_before(K)];
-                cursor = element.write_elements(cells[K], field_value<u32>(field), cursor,
-                                                field_pointer(field + counted_pointer), element.nested);
-            }
+    // What lies beneath the table, from `end` on. Returns the new end.
+    template <u32 K>
+    [[gnu::always_inline]] u8* write_beneath(u8* end, const NestedEncoder* nested)
+    {
+        if constexpr (Slot<K>::kind == Kind::table) {
+            using Inner = typename Slot<K>::Layout;
+            u8* const cell = table + cells[K];
+            store(cell, static_cast<u32>(end + Inner::vtable_bytes - cell));
+            return write_table<Inner>(end, field<K>(), nested[L::nested_before(K)].nested);
+        } else if constexpr (Slot<K>::kind == Kind::vector) {
+            if (cells[K] == 0)
+                return end;
+            const NestedEncoder& element = nested[L::nested_before(K)];
+            return element.write_elements(table + cells[K], field_value<u32>(field<K>()), end,
+                                          field_pointer(field<K>() + counted_pointer), element.nested);
+        } else {
+            return end;
         }
+    }
+};
+
+template <class L>
+u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+{
+    TableWriter<L> writer(vtable + L::vtable_bytes, record);
+    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template write_scalar<K>(); return true; });
+    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template reserve_cell<K>(); return true; });
+    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template write_body<K>(); return true; });
+
+    // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
+    store(vtable, L::vtable_bytes | writer.at << 16);
+    writer.slots.store_at(vtable + vtable_head_bytes);
+    store(writer.table, u32{L::vtable_bytes});
+
+    u8* end = writer.table + writer.at;
+    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
+        end = writer.template write_beneath<K>(end, nested);
         return true;
     });
-    return cursor;
+    return end;
 }
 
 template <class L>
@@ -225,7 +276,7 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
 {
     for (u32 i = 0; i < count; ++i) {
         u8* const cell = cells + std::size_t{cell_bytes} * i;
-        store(cell, distance(cell, at + L::vtable_bytes));
+        store(cell, static_cast<u32>(at + L::vtable_bytes - cell));
         at = write_table<L>(at, records + std::size_t{i} * L::record_size, nested);
     }
     return at;

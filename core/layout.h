@@ -142,9 +142,9 @@ concept HeapFree = !L::has_heap_parts;
 
 // Calls visit.template operator()<K>() for each slot; stops and gives false when one of the calls does.
 template <class L, class Visit>
-constexpr bool each_slot(Visit&& visit)
+[[gnu::always_inline]] constexpr bool each_slot(Visit&& visit)
 {
-    return [&]<std::size_t... K>(std::index_sequence<K...>) {
+    return [&]<std::size_t... K>(std::index_sequence<K...>) __attribute__((always_inline)) {
         return (visit.template operator()<static_cast<u32>(K)>() && ...);
     }(std::make_index_sequence<L::slots>());
 }

@@ -28,7 +28,7 @@ constexpr int failed = -1;
 
 // The body of X__pack.
 template <class L>
-int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+[[gnu::noinline]] int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
 {
     const u32 size = measure_message<L>(record, encoder.nested);
     if (size == 0 || *length < size)
@@ -53,7 +53,7 @@ inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 dest
 // The bodies of X__sendsingle, X__sendbatch, and of X__sendmsg and X__sendtomsg together. Records lie end to end.
 
 template <HeapFree L>
-int send_single_fixed(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
+[[gnu::noinline]] int send_single_fixed(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
 {
     u8 buffer[L::fixed_length];
     ensure_memory_services(*encoder.unit);
@@ -67,7 +67,7 @@ int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination,
 int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
 
 template <HeapFree L>
-int send_fixed(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+[[gnu::noinline]] int send_fixed(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
 {
     if (count == 1)
         return send_single_fixed<L>(channel, records, 0, destination, encoder);

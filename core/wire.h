@@ -59,15 +59,26 @@ struct Input {
     const u8* bytes;
     u32 length;
 
-    // Whoever calls these has tested that the n bytes at `at` lie inside.
+    // Whoever calls these has tested that the value, `behind` bytes behind the position `at`, lies inside. The two are
+    // added as addresses, so that the compiler may hold the first and fold the second.
     template <class T>
-    u32 load_unchecked(u32 at) const { return load<T>(bytes + at); }
+    u32 load_unchecked(u32 at, u32 behind = 0) const { return load<T>(bytes + at + behind); }
 
     template <class T>
-    void copy_value_unchecked(u32 at, void* to) const
+    void copy_value_unchecked(u32 at, u32 behind, void* to) const
     {
-        const T value = load<T>(bytes + at);
+        const T value = load<T>(bytes + at + behind);
         std::memcpy(to, &value, sizeof value);
+    }
+
+    template <class T>
+    void copy_values_unchecked(u32 at, u32 count, u8* to) const
+    {
+        if constexpr (host_has_wire_order || sizeof(T) == 1)
+            std::memcpy(to, bytes + at, count * sizeof(T));
+        else
+            for (u32 i = 0; i < count; ++i)
+                copy_value_unchecked<T>(at, i * u32{sizeof(T)}, to + i * sizeof(T));
     }
 };
 
@@ -77,6 +88,7 @@ struct TableView {
     typename In::Word table;
     typename In::Word vtable;
     typename In::Word vtable_length;
+    typename In::Word room;            // bytes from the table to the end of the input
 };
 
 enum class TableFault : u8 { none, table_position, vtable_position, vtable_length };
@@ -94,6 +106,7 @@ template <class In>
     using Word = typename In::Word;
     const Word last = in.length - least_length;
     view.table = table;
+    view.room = in.length - table;
     if (table < root_bytes || table > last)
         return TableFault::table_position;
     // Subtracts modulo 2^32, so that a vtable behind its table passes the same test.
@@ -113,22 +126,22 @@ inline typename In::Word slot_offset(const In& in, const TableView<In>& view, u3
     using Word = typename In::Word;
     if (view.vtable_length < vtable_head_bytes + slot_bytes * (k + 1))
         return Word(0);
-    return in.template load_unchecked<u16>(view.vtable + (vtable_head_bytes + slot_bytes * k));   // inside the vtable
+    return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // inside the vtable
 }
 
 // Whether the n bytes at `offset` behind the table's start lie inside. n is 8 at the most and an offset has 16 bits.
 template <class In>
-[[nodiscard]] inline bool field_fits(const In& in, const TableView<In>& view, typename In::Word offset, u32 n)
+[[nodiscard]] inline bool field_fits(const TableView<In>& view, typename In::Word offset, u32 n)
 {
-    return static_cast<bool>(offset + n <= in.length - view.table);
+    return static_cast<bool>(offset + n <= view.room);
 }
 
 template <class T, class In>
 [[nodiscard]] inline bool read_scalar(const In& in, const TableView<In>& view, typename In::Word offset, void* field)
 {
-    if (!field_fits(in, view, offset, sizeof(T)))
+    if (!field_fits(view, offset, sizeof(T)))
         return false;
-    in.template copy_value_unchecked<T>(view.table + offset, field);   // field_fits
+    in.template copy_value_unchecked<T>(view.table, offset, field);   // field_fits
     return true;
 }
 
@@ -138,7 +151,7 @@ template <class In>
                                     typename In::Word& payload, typename In::Word& count)
 {
     using Word = typename In::Word;
-    if (!field_fits(in, view, offset, cell_bytes))
+    if (!field_fits(view, offset, cell_bytes))
         return false;
     const Word cell = view.table + offset;
     const Word distance = in.template load_unchecked<u32>(cell);   // field_fits
@@ -166,8 +179,7 @@ template <class T, class In>
         return false;
     if (count != elements || !payload_fits(in, payload, count, sizeof(T)))
         return false;
-    for (u32 i = 0; i < elements; ++i)
-        in.template copy_value_unchecked<T>(payload + i * static_cast<u32>(sizeof(T)), field + i * sizeof(T));
+    in.template copy_values_unchecked<T>(payload, elements, field);   // payload_fits
     return true;
 }
 
@@ -177,7 +189,7 @@ template <class In>
                                        typename In::Word& table)
 {
     using Word = typename In::Word;
-    if (!field_fits(in, view, offset, cell_bytes))
+    if (!field_fits(view, offset, cell_bytes))
         return false;
     const Word cell = view.table + offset;
     const Word target = cell + in.template load_unchecked<u32>(cell);   // field_fits

@@ -1,0 +1,134 @@
+// Every message against the independent reference: bytes of both forms, and what the decoder makes of valid, strangely
+// laid out, truncated and damaged byte strings, with every log, allocation and release in order.
+
+#include <gtest/gtest.h>
+
+#include "reference/generate.h"
+#include "reference/strange.h"
+#include "tests/support/against_reference.h"
+
+namespace kesto::test {
+
+namespace {
+
+using reference::Density;
+using reference::Message;
+using reference::Random;
+using reference::Record;
+
+class EveryMessage : public testing::TestWithParam<const Message*> {
+protected:
+    const Message& message() const { return *GetParam(); }
+
+    Random random(std::uint64_t salt) const { return Random(salt << 32 | message().id); }
+
+    std::vector<ByteString> both_forms(const Record& record) const
+    {
+        std::vector<ByteString> forms{reference::compact_form(record)};
+        if (message().fixed_length != 0)
+            forms.push_back(reference::fixed_form(record));
+        return forms;
+    }
+
+    void expect_decodes_alike(const ByteString& bytes)
+    {
+        const std::string fault = check_.check(message(), bytes);
+        ASSERT_EQ(fault, "") << hex(bytes);
+    }
+
+    void expect_decodes_to(const Record& record, const ByteString& bytes)
+    {
+        const Record decoded = reference::as_decoded(record);
+        check_.expected = &decoded;
+        expect_decodes_alike(bytes);
+        check_.expected = nullptr;
+    }
+
+    DecodeCheck check_;
+};
+
+std::vector<const Message*> all_messages()
+{
+    std::vector<const Message*> all;
+    for (const Message& message : transcribed().messages)
+        all.push_back(&message);
+    return all;
+}
+
+std::string name_of_case(const testing::TestParamInfo<const Message*>& info) { return info.param->name; }
+
+INSTANTIATE_TEST_SUITE_P(All, EveryMessage, testing::ValuesIn(all_messages()), name_of_case);
+
+TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
+{
+    Random chance = random(1);
+    for (int round = 0; round < 12; ++round)
+        for (const Density density : reference::densities) {
+            const Record record = reference::random_record(message(), density, chance);
+            ASSERT_EQ(check_encoders(record), "") << to_text(record);
+            for (const ByteString& bytes : both_forms(record))
+                ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, bytes)) << to_text(record);
+        }
+}
+
+TEST_P(EveryMessage, decodes_strange_but_valid_layouts)
+{
+    Random chance = random(2);
+    for (int round = 0; round < 60; ++round) {
+        const Record record = reference::random_record(message(), reference::densities[round % 4], chance);
+        ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, reference::strange_layout(record, chance))) << to_text(record);
+    }
+}
+
+TEST_P(EveryMessage, truncation_at_any_byte_releases_every_block)
+{
+    Random chance = random(3);
+    const Record record = reference::random_record(message(), Density::full, chance);
+    std::vector<ByteString> wholes = both_forms(record);
+    wholes.push_back(reference::strange_layout(record, chance));
+    for (const ByteString& whole : wholes)
+        for (std::size_t length = 0; length < whole.size(); ++length)
+            ASSERT_NO_FATAL_FAILURE(
+                expect_decodes_alike({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)}));
+}
+
+TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
+{
+    Random chance = random(4);
+    for (int round = 0; round < 400; ++round) {
+        const Record record = reference::random_record(message(), round % 2 == 0 ? Density::full : Density::sparse, chance);
+        ByteString bytes = round % 3 == 0   ? reference::strange_layout(record, chance)
+                           : round % 3 == 1 ? both_forms(record).back()
+                                            : reference::compact_form(record);
+        const std::uint32_t length = static_cast<std::uint32_t>(bytes.size());
+        for (std::uint32_t changes = 1 + chance.below(3); changes != 0; --changes) {
+            const std::uint32_t at = chance.below(length - 3);
+            const std::uint32_t values[] = {0, 1, 3, 4, 5, chance.below(256), chance.below(length + 2), length - at,
+                                            0x3FFFFFFF, 0x40000000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
+            const std::uint32_t value = values[chance.below(std::size(values))];
+            const std::uint32_t width = 1 + chance.below(4);
+            for (std::uint32_t i = 0; i < width; ++i)
+                bytes[at + i] = static_cast<std::uint8_t>(value >> (8 * i));
+        }
+        ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes));
+    }
+}
+
+// Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left behind.
+TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
+{
+    Random chance = random(5);
+    const ByteString bytes = reference::compact_form(reference::random_record(message(), Density::full, chance));
+    for (const bool all_after : {false, true}) {
+        for (std::uint32_t number = 0;; ++number) {
+            check_.faults = {number, all_after};
+            ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes)) << "allocation " << number;
+            if (!check_.outcome().failure)
+                break;   // there are no more
+        }
+    }
+}
+
+}   // namespace
+
+}   // namespace kesto::test

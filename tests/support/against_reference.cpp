@@ -1,0 +1,194 @@
+#include "tests/support/against_reference.h"
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <sstream>
+
+#include "reference/memory.h"
+#include "tests/support/mesh_double.h"
+#include "tests/support/services_double.h"
+
+namespace kesto::test {
+
+namespace {
+
+constexpr std::uint8_t untouched = 0xC3;
+constexpr std::size_t largest_record = 4096;
+
+std::string first_difference(const ByteString& is, const ByteString& expected)
+{
+    if (is == expected)
+        return {};
+    const std::size_t at = static_cast<std::size_t>(
+        std::mismatch(is.begin(), is.begin() + static_cast<std::ptrdiff_t>(std::min(is.size(), expected.size())), expected.begin()).first - is.begin());
+    return "first difference at position " + std::to_string(at) + "\n  is       " + hex(is) + "\n  expected " + hex(expected);
+}
+
+}   // namespace
+
+const reference::Catalogue& transcribed()
+{
+    static const reference::Catalogue catalogue = [] {
+        const char* const path = KESTO_TEST_DATA "/messages.txt";
+        std::ifstream file(path);
+        std::stringstream text;
+        text << file.rdbuf();
+        reference::Catalogue read;
+        std::string error;
+        if (!file || !read.add(text.str(), error)) {
+            std::fprintf(stderr, "%s: %s\n", path, error.c_str());
+            std::exit(1);
+        }
+        return read;
+    }();
+    return catalogue;
+}
+
+std::string hex(const ByteString& bytes)
+{
+    std::string text;
+    char two[3];
+    for (const std::uint8_t byte : bytes) {
+        std::snprintf(two, sizeof two, "%02x", byte);
+        text += two;
+    }
+    return text;
+}
+
+GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
+{
+    const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    mapped_ = (most + page - 1) / page * page + page;
+    void* const memory = mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED || mprotect(static_cast<std::uint8_t*>(memory) + mapped_ - page, page, PROT_NONE) != 0) {
+        std::perror("guarded buffer");
+        std::exit(1);
+    }
+    start_ = static_cast<std::uint8_t*>(memory);
+    end_ = start_ + mapped_ - page;
+}
+
+GuardedBuffer::~GuardedBuffer() { munmap(start_, mapped_); }
+
+DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), storage_(largest_record)
+{
+    for (const reference::Message& message : transcribed().messages)
+        operations_.push_back(&operations(message.name));
+}
+
+std::string DecodeCheck::check(const reference::Message& message, const ByteString& bytes)
+{
+    std::uint8_t* const placed = buffer_.place(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), placed);
+    return check(message, placed, static_cast<std::uint32_t>(bytes.size()));
+}
+
+std::string DecodeCheck::check(const reference::Message& message, const std::uint8_t* bytes, std::uint32_t length)
+{
+    ++decodes_;
+    const Operations& library = *operations_[message.index];
+    reference::DecodeOptions options;
+    options.faults = faults;
+    reference::decode(message, bytes, length, options, outcome_);
+
+    services().start();
+    services().faults = faults;
+    std::uint8_t* const record = storage_.place(library.record_size);
+    std::memset(record - 8, untouched, library.record_size + 8);
+    const std::uint32_t returned = library.unpack(bytes, length, record);
+    std::string fault = compare(library, returned);
+    if (!fault.empty())
+        fault = message.name + ": " + fault + "\n  reference: " + to_text(outcome_.failure);
+    return fault;
+}
+
+std::string DecodeCheck::compare(const Operations& library, std::uint32_t returned)
+{
+    std::uint8_t* const record = storage_.place(library.record_size);
+    if (returned != library.record_size || returned != outcome_.record_size)
+        return "returned " + std::to_string(returned);
+    if (std::any_of(record - 8, record, [](std::uint8_t byte) { return byte != untouched; }))
+        return "wrote in front of the record";
+    std::string fault = services().difference(outcome_.trace);
+    if (!fault.empty())
+        return "decoding: " + fault;
+    if (outcome_.untouched) {
+        const bool touched = std::any_of(record, record + returned, [](std::uint8_t byte) { return byte != untouched; });
+        return touched ? "the record was touched" : "";
+    }
+    fault = reference::difference(outcome_.record, record);
+    if (!fault.empty())
+        return "record: " + fault;
+
+    if (expected != nullptr)
+        fault = outcome_.failure ? "refused" : reference::difference(*expected, record);
+    if (!fault.empty())
+        return "expected record: " + fault;
+
+    const std::uint32_t live = services().live_blocks();
+    if (outcome_.failure && live != 0)
+        return std::to_string(live) + " blocks left after a failure";
+    reference::free_unpacked(outcome_.record, outcome_.trace);
+    library.free_unpacked(record);
+    fault = services().difference(outcome_.trace);
+    if (!fault.empty())
+        return "freeing: " + fault;
+    fault = reference::difference(outcome_.record, record);
+    if (!fault.empty())
+        return "freed record: " + fault;
+    return services().live_blocks() == 0 ? "" : "blocks left after the free";
+}
+
+std::string check_encoders(const reference::Record& record)
+{
+    const reference::Message& message = *record.message;
+    const Operations& library = operations(message.name);
+    const reference::RecordMemory memory(record);
+    const ByteString compact = reference::compact_form(record);
+    const std::uint32_t size = reference::reported_size(reference::exact_size(record));
+    services().start();
+
+    // Packed into a buffer of just the size: what the size counts and the packer does not write is left alone.
+    static const GuardedBuffer buffer(1 << 20);
+    std::uint8_t* const packed = buffer.place(size);
+    std::memset(packed, untouched, size);
+    std::uint32_t length = size;
+    if (library.pack(memory.data(), packed, &length) != 0 || length != size)
+        return message.name + ": packed " + std::to_string(length) + " bytes, expected " + std::to_string(size);
+    ByteString expected = compact;
+    expected.resize(size, untouched);
+    std::string fault = first_difference({packed, packed + size}, expected);
+    if (!fault.empty())
+        return message.name + ", packed: " + fault;
+    length = size - 1;
+    if (library.pack(memory.data(), packed, &length) != -1 || length != size - 1)
+        return message.name + ": packed with a byte too few";
+
+    // Sent: in fixed form where there is one, else compact with zeros for those bytes.
+    if (message.fixed_length != 0) {
+        expected = reference::fixed_form(record);
+    } else {
+        expected = compact;
+        expected.resize(size, 0);
+    }
+    mesh().reset();
+    mesh().send_result = 7;
+    if (library.sendsingle(3, memory.data(), 0, 0) != 7 || mesh().sends.size() != 1 || mesh().sends[0].sent.size() != 1)
+        return message.name + ": not sent once";
+    const SendCall& call = mesh().sends[0];
+    if (call.to_destination || call.channel != 3 || call.sent[0].id != message.id)
+        return message.name + ": sent with other arguments";
+    fault = first_difference(call.sent[0].bytes, expected);
+    if (!fault.empty())
+        return message.name + ", sent: " + fault;
+    fault = services().difference({});
+    return fault.empty() ? "" : message.name + ", encoding: " + fault;
+}
+
+}   // namespace kesto::test

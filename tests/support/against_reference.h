@@ -1,0 +1,72 @@
+// Holds the library against the reference, one message and one byte string or record at a time.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "reference/decode.h"
+#include "reference/encode.h"
+#include "tests/support/operations.h"
+
+namespace kesto::test {
+
+using ByteString = std::vector<std::uint8_t>;
+
+// The list of messages that was transcribed on its own, tests/data/messages.txt.
+const reference::Catalogue& transcribed();
+
+std::string hex(const ByteString& bytes);
+
+// A buffer that ends where memory does, so that a read behind it ends the process.
+class GuardedBuffer {
+public:
+    explicit GuardedBuffer(std::size_t most);
+    ~GuardedBuffer();
+    GuardedBuffer(const GuardedBuffer&) = delete;
+    GuardedBuffer& operator=(const GuardedBuffer&) = delete;
+
+    // The last `size` bytes in front of the end.
+    std::uint8_t* place(std::size_t size) const { return end_ - size; }
+    std::size_t most() const { return most_; }
+
+private:
+    std::size_t most_;
+    std::size_t mapped_;
+    std::uint8_t* start_;
+    std::uint8_t* end_;
+};
+
+// Decodes byte strings with the library and with the reference and compares records, logs, allocations and releases, of
+// the decoder and of the free after it.
+class DecodeCheck {
+public:
+    explicit DecodeCheck(std::size_t most_bytes = 1 << 20);
+
+    reference::AllocationFaults faults;
+    const reference::Record* expected = nullptr;   // when set, what a decode must succeed with
+
+    // Both give what differs, empty where nothing does. `bytes` may be changed in place between calls of the second.
+    std::string check(const reference::Message& message, const ByteString& bytes);
+    std::string check(const reference::Message& message, const std::uint8_t* bytes, std::uint32_t length);
+
+    // What the reference made of the last one.
+    const reference::Outcome& outcome() const { return outcome_; }
+    std::uint64_t decodes() const { return decodes_; }
+
+    const GuardedBuffer& buffer() const { return buffer_; }
+
+private:
+    std::string compare(const Operations& library, std::uint32_t returned);
+
+    GuardedBuffer buffer_;
+    GuardedBuffer storage_;
+    reference::Outcome outcome_;
+    std::vector<const Operations*> operations_;   // by the message's number
+    std::uint64_t decodes_ = 0;
+};
+
+// Packs and sends a record with the library and compares all bytes with the reference's. Empty where nothing differs.
+std::string check_encoders(const reference::Record& record);
+
+}   // namespace kesto::test

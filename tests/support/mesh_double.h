@@ -1,0 +1,45 @@
+// The test process's own MESH: keeps what it was given, in order, and answers as told.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "platform/mesh.h"
+
+namespace kesto::test {
+
+struct SentItem {
+    const std::uint8_t* data;             // the address that was sent; the bytes behind it are gone by now
+    std::uint32_t id;
+    std::vector<std::uint8_t> bytes;
+};
+
+struct SendCall {
+    bool to_destination;                  // MESH_SendToMsg
+    std::uint32_t channel;
+    std::uint32_t destination;            // 0 for MESH_SendMsg
+    const MeshSendItem* items;            // the address of the array
+    std::vector<SentItem> sent;
+};
+
+struct Registered {
+    std::uint32_t id;
+    MeshUnpack unpack;
+    MeshFree free;
+};
+
+struct MeshDouble {
+    std::vector<SendCall> sends;
+    std::vector<Registered> registrations;
+    std::vector<MeshClean> clean_hooks;
+    int send_result = 0;
+    int register_result = 0;              // what the registration of number `register_fails_at` gives
+    std::uint32_t register_fails_at = 0xFFFFFFFF;
+    int clean_result = 0;
+
+    void reset() { *this = {}; }
+};
+
+MeshDouble& mesh();
+
+}   // namespace kesto::test

@@ -1,0 +1,36 @@
+// The seven operations of every message by name, as the public headers declare them, with records as untyped memory.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace kesto::test {
+
+struct Operations {
+    const char* name;
+    std::uint32_t id;
+    std::uint32_t record_size;
+    std::uint32_t (*unpack)(const std::uint8_t* buf, std::uint32_t len, void* rec);
+    void (*free_unpacked)(void* rec);
+    int (*pack)(const void* rec, std::uint8_t* buf, std::uint32_t* len);
+    int (*sendsingle)(std::uint32_t channel, const void* rec, std::uint32_t unused, std::uint32_t destination);
+    int (*sendbatch)(std::uint32_t channel, const void* recs, std::uint32_t n, std::uint32_t destination);
+    int (*sendmsg)(std::uint32_t channel, const void* recs, std::uint32_t n);
+    int (*sendtomsg)(std::uint32_t channel, const void* recs, std::uint32_t n, std::uint32_t destination);
+};
+
+struct Module {
+    const char* name;
+    std::span<const Operations> messages;   // in the order of the catalogue
+    int (*recv_init)();
+    int (*send_init)();
+    void (*send_resource_clean)();
+};
+
+std::span<const Module> modules();
+
+// Ends the process for a name that no message has.
+const Operations& operations(std::string_view name);
+
+}   // namespace kesto::test
