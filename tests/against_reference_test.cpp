@@ -5,27 +5,24 @@
 
 #include "reference/generate.h"
 #include "reference/strange.h"
-#include "tests/support/against_reference.h"
+#include "tests/support/every_message.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 namespace {
 
 using reference::Density;
-using reference::Message;
 using reference::Random;
 using reference::Record;
 
-class EveryMessage : public testing::TestWithParam<const Message*> {
+class EveryMessage : public EveryMessageTest {
 protected:
-    const Message& message() const { return *GetParam(); }
-
     Random random(std::uint64_t salt) const { return Random(salt << 32 | message().id); }
 
     std::vector<ByteString> both_forms(const Record& record) const
     {
         std::vector<ByteString> forms{reference::compact_form(record)};
-        if (message().fixed_length != 0)
+        if (fixed())
             forms.push_back(reference::fixed_form(record));
         return forms;
     }
@@ -47,17 +44,7 @@ protected:
     DecodeCheck check_;
 };
 
-std::vector<const Message*> all_messages()
-{
-    std::vector<const Message*> all;
-    for (const Message& message : transcribed().messages)
-        all.push_back(&message);
-    return all;
-}
-
-std::string name_of_case(const testing::TestParamInfo<const Message*>& info) { return info.param->name; }
-
-INSTANTIATE_TEST_SUITE_P(All, EveryMessage, testing::ValuesIn(all_messages()), name_of_case);
+KESTO_FOR_EVERY_MESSAGE(EveryMessage);
 
 TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
 {
@@ -131,4 +118,4 @@ TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
 
 }   // namespace
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

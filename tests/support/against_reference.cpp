@@ -7,14 +7,13 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <sstream>
 
 #include "reference/memory.h"
+#include "tests/support/figures.h"
 #include "tests/support/mesh_double.h"
 #include "tests/support/services_double.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 namespace {
 
@@ -35,14 +34,10 @@ std::string first_difference(const ByteString& is, const ByteString& expected)
 const reference::Catalogue& transcribed()
 {
     static const reference::Catalogue catalogue = [] {
-        const char* const path = KESTO_TEST_DATA "/messages.txt";
-        std::ifstream file(path);
-        std::stringstream text;
-        text << file.rdbuf();
         reference::Catalogue read;
         std::string error;
-        if (!file || !read.add(text.str(), error)) {
-            std::fprintf(stderr, "%s: %s\n", path, error.c_str());
+        if (!load_catalogue(read, error)) {
+            std::fprintf(stderr, "%s\n", error.c_str());
             std::exit(1);
         }
         return read;
@@ -191,4 +186,4 @@ std::string check_encoders(const reference::Record& record)
     return fault.empty() ? "" : message.name + ", encoding: " + fault;
 }
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

@@ -9,7 +9,7 @@
 #include "reference/encode.h"
 #include "tests/support/operations.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 using ByteString = std::vector<std::uint8_t>;
 
@@ -69,4 +69,4 @@ private:
 // Packs and sends a record with the library and compares all bytes with the reference's. Empty where nothing differs.
 std::string check_encoders(const reference::Record& record);
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

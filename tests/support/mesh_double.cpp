@@ -1,6 +1,6 @@
 #include "tests/support/mesh_double.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 MeshDouble& mesh()
 {
@@ -13,6 +13,9 @@ namespace {
 int send(bool to_destination, std::uint32_t channel, const MeshSendItem* items, std::uint32_t count,
          std::uint32_t destination)
 {
+    ++mesh().send_calls;
+    if (!mesh().keeps_sends)
+        return mesh().send_result;
     SendCall call{to_destination, channel, destination, items, {}};
     for (std::uint32_t i = 0; i < count; ++i)
         call.sent.push_back({items[i].data, items[i].id, {items[i].data, items[i].data + items[i].length}});
@@ -22,18 +25,18 @@ int send(bool to_destination, std::uint32_t channel, const MeshSendItem* items, 
 
 }   // namespace
 
-}   // namespace kesto::test
+}   // namespace kesto::tests
 
-using kesto::test::mesh;
+using kesto::tests::mesh;
 
 int MESH_SendMsg(std::uint32_t channel, const MeshSendItem* items, std::uint32_t count)
 {
-    return kesto::test::send(false, channel, items, count, 0);
+    return kesto::tests::send(false, channel, items, count, 0);
 }
 
 int MESH_SendToMsg(std::uint32_t channel, const MeshSendItem* items, std::uint32_t count, std::uint32_t destination)
 {
-    return kesto::test::send(true, channel, items, count, destination);
+    return kesto::tests::send(true, channel, items, count, destination);
 }
 
 int MESH_RegIDLFuncHook(std::uint32_t id, MeshUnpack unpack, MeshFree free_record)

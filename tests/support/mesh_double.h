@@ -6,7 +6,7 @@
 
 #include "platform/mesh.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 struct SentItem {
     const std::uint8_t* data;             // the address that was sent; the bytes behind it are gone by now
@@ -29,6 +29,8 @@ struct Registered {
 };
 
 struct MeshDouble {
+    bool keeps_sends = true;              // false: counts them and allocates nothing
+    std::uint32_t send_calls = 0;
     std::vector<SendCall> sends;
     std::vector<Registered> registrations;
     std::vector<MeshClean> clean_hooks;
@@ -42,4 +44,4 @@ struct MeshDouble {
 
 MeshDouble& mesh();
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

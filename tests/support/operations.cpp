@@ -9,7 +9,7 @@
 #include "ifit_sync.h"
 #include "ntvifit.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 namespace {
 
@@ -69,4 +69,4 @@ const Operations& operations(std::string_view name)
     std::abort();
 }
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

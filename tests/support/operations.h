@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace kesto::test {
+namespace kesto::tests {
 
 struct Operations {
     const char* name;
@@ -33,4 +33,4 @@ std::span<const Module> modules();
 // Ends the process for a name that no message has.
 const Operations& operations(std::string_view name);
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

@@ -6,7 +6,7 @@
 
 #include "platform/osal.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 ServicesDouble& services()
 {
@@ -110,9 +110,9 @@ std::string ServicesDouble::difference(const reference::Trace& expected) const
     return {};
 }
 
-}   // namespace kesto::test
+}   // namespace kesto::tests
 
-using kesto::test::services;
+using kesto::tests::services;
 
 extern "C" {
 

@@ -10,7 +10,7 @@
 
 #include "reference/decode.h"
 
-namespace kesto::test {
+namespace kesto::tests {
 
 class ServicesDouble {
 public:
@@ -53,4 +53,4 @@ private:
 
 ServicesDouble& services();
 
-}   // namespace kesto::test
+}   // namespace kesto::tests

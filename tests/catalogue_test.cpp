@@ -1,0 +1,153 @@
+// The catalogue against the list that was transcribed on its own, the figures against the library, and what is printed or
+// exported against what was committed.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <set>
+
+#include "reference/memory.h"
+#include "tests/support/against_reference.h"
+#include "tests/support/figures.h"
+#include "tests/support/mesh_double.h"
+#include "tools/catalogue.h"
+
+namespace kesto::tests {
+
+namespace {
+
+std::string run(const std::string& command)
+{
+    std::string output;
+    std::FILE* const pipe = popen(command.c_str(), "r");
+    for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
+        output += static_cast<char>(c);
+    if (pipe == nullptr || pclose(pipe) != 0)
+        ADD_FAILURE() << "failed: " << command;
+    return output;
+}
+
+bool alike(const tools::SlotInfo& slot, const reference::Slot& expected)
+{
+    if (static_cast<int>(slot.kind) != static_cast<int>(expected.kind))
+        return false;
+    if (slot.nested != nullptr)
+        return slot.nested->name == expected.nested->name && slot.fault_ends_read != expected.outcome_ignored;
+    return slot.width == expected.width && slot.count == expected.count;
+}
+
+static_assert(static_cast<int>(tools::SlotKind::vector) == static_cast<int>(reference::Kind::vector) &&
+              static_cast<int>(tools::SlotKind::array) == static_cast<int>(reference::Kind::array));
+
+TEST(Catalogue, is_the_transcribed_list)
+{
+    std::size_t next = 0;
+    for (const tools::ModuleInfo& module : tools::modules())
+        for (const tools::MessageInfo* message : module.messages) {
+            ASSERT_LT(next, transcribed().messages.size());
+            const reference::Message& expected = transcribed().messages[next++];
+            ASSERT_EQ(message->name, expected.name);
+            EXPECT_EQ(message->module, expected.module);
+            EXPECT_EQ(message->id, expected.id) << message->name;
+            EXPECT_EQ(message->fixed_length, expected.fixed_length) << message->name;
+            EXPECT_EQ(message->has_heap_parts, expected.owns_heap) << message->name;
+            EXPECT_EQ(tools::empty_length(*message), expected.compact_zero) << message->name;
+            if (!message->has_heap_parts) {
+                EXPECT_EQ(tools::full_scalars_length(*message), expected.compact_full) << message->name;
+            }
+            ASSERT_EQ(message->slots.size(), expected.slots.size()) << message->name;
+            for (std::size_t k = 0; k < expected.slots.size(); ++k)
+                EXPECT_TRUE(alike(message->slots[k], expected.slots[k])) << message->name << " slot " << k;
+            for (const std::uint32_t width : {4u, 8u}) {
+                const tools::RecordLayout layout = tools::record_layout(*message, width);
+                EXPECT_EQ(layout.size, expected.layout(width).size) << message->name;
+                EXPECT_EQ(layout.offsets, expected.layout(width).offsets) << message->name;
+            }
+        }
+    EXPECT_EQ(next, transcribed().messages.size());
+}
+
+TEST(Figures, hold_for_the_bytes_that_the_library_writes)
+{
+    std::vector<Figure> figures;
+    std::string error;
+    ASSERT_TRUE(load_figures(transcribed(), figures, error)) << error;
+    int held = 0;
+    for (const Figure& figure : figures) {
+        if (!figure.about_bytes())
+            continue;
+        const Operations& library = operations(figure.message->name);
+        for (const reference::Record& record : figure.records()) {
+            const reference::RecordMemory memory(record);
+            ByteString written;
+            std::uint32_t reported = 0;
+            if (figure.fixed_form) {
+                mesh().reset();
+                (void)library.sendsingle(0, memory.data(), 0, 0);
+                written = mesh().sends.at(0).sent.at(0).bytes;
+                reported = static_cast<std::uint32_t>(written.size());
+            } else {
+                // Packed over two fillings: what differs at the end was counted and not written.
+                ByteString over_zeros(1 << 16, 0), over_ones(1 << 16, 0xFF);
+                for (ByteString* bytes : {&over_zeros, &over_ones}) {
+                    reported = 1 << 16;
+                    ASSERT_EQ(library.pack(memory.data(), bytes->data(), &reported), 0) << figure.where();
+                    bytes->resize(reported);
+                }
+                while (!over_zeros.empty() && over_zeros.back() != over_ones.back()) {
+                    over_zeros.pop_back();
+                    over_ones.pop_back();
+                }
+                ASSERT_EQ(over_zeros, over_ones) << figure.where();
+                written = over_zeros;
+            }
+            EXPECT_EQ(fault_in_bytes(figure, record, written, reported), "") << figure.where();
+            ++held;
+        }
+    }
+    EXPECT_GT(held, 250);
+}
+
+TEST(Headers, are_what_the_printer_prints_today)
+{
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("kesto_headers_" + std::to_string(getpid()));
+    std::filesystem::create_directory(folder);
+    (void)run(KESTO_PRINT_HEADERS " " + folder.string());
+    for (const tools::ModuleInfo& module : tools::modules()) {
+        const std::string committed = read_file(KESTO_SOURCE_DIR "/include/" + module.name + ".h");
+        EXPECT_TRUE(committed == read_file((folder / (module.name + ".h")).string()))
+            << "include/" << module.name << ".h is not current: ./run headers";
+    }
+    std::filesystem::remove_all(folder);
+}
+
+TEST(Library, exports_its_operations_and_nothing_else)
+{
+    std::set<std::string> expected;
+    for (const reference::Message& message : transcribed().messages)
+        for (const char* operation : {"__unpack", "_free__unpacked", "__pack", "__sendsingle", "__sendbatch", "__sendmsg", "__sendtomsg"})
+            expected.insert(message.name + operation);
+    for (const char* module : {"ifit_dfx", "ifit", "ifit_sync", "ntvifit"})
+        for (const char* operation : {"_recv_init", "_send_init", "__send_resource_clean"})
+            expected.insert(module + std::string(operation));
+    ASSERT_EQ(expected.size(), 1657u);
+
+    std::set<std::string> exported;
+    const std::string listing = run("nm -D --defined-only --format=posix " KESTO_LIBRARY);
+    for (std::size_t at = 0; at < listing.size(); at = listing.find('\n', at) + 1)
+        exported.insert(listing.substr(at, listing.find(' ', at) - at));
+    EXPECT_EQ(exported, expected);
+
+    if (KESTO_SANITIZED_BUILD)
+        return;   // the sanitizer's run-time comes along
+    const std::string needed = run("readelf -d " KESTO_LIBRARY);
+    EXPECT_EQ(needed.find("libstdc++"), std::string::npos);
+    EXPECT_EQ(needed.find("libzervamesh"), std::string::npos);   // MESH comes from the process
+}
+
+}   // namespace
+
+}   // namespace kesto::tests

@@ -1,0 +1,249 @@
+// What callers see of encoding beyond the bytes: X__pack's refusals, the four send operations, registration.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "ifit.h"
+#include "ifit_dfx.h"
+#include "ntvifit.h"
+#include "reference/generate.h"
+#include "reference/memory.h"
+#include "tests/support/every_message.h"
+#include "tests/support/malloc_double.h"
+#include "tests/support/mesh_double.h"
+#include "tests/support/services_double.h"
+
+namespace kesto::tests {
+
+namespace {
+
+using reference::Density;
+using reference::Message;
+using reference::Record;
+using reference::RecordMemory;
+
+constexpr std::uint32_t pool = 65536;
+
+class EverySend : public EveryMessageTest {
+protected:
+    void SetUp() override
+    {
+        mesh().reset();
+        services().start();
+    }
+
+    std::vector<Record> records(std::uint32_t count) const
+    {
+        reference::Random random(message().id);
+        std::vector<Record> made;
+        for (std::uint32_t i = 0; i < count; ++i)
+            made.push_back(reference::random_record(message(), i % 2 == 0 ? Density::full : Density::sparse, random));
+        return made;
+    }
+};
+
+KESTO_FOR_EVERY_MESSAGE(EverySend);
+
+TEST_P(EverySend, a_count_of_one_goes_single_two_and_more_as_one_batch_none_not_at_all)
+{
+    const std::vector<Record> made = records(3);
+    const RecordMemory memory(made);
+    mesh().send_result = 42;
+    EXPECT_EQ(library().sendmsg(1, memory.data(), 0), -1);
+    EXPECT_EQ(library().sendtomsg(1, memory.data(), 0, 9), -1);
+    EXPECT_TRUE(mesh().sends.empty());
+    EXPECT_EQ(library().sendmsg(1, memory.data(), 1), 42);
+    EXPECT_EQ(library().sendtomsg(2, memory.data(), 3, 9), 42);
+    EXPECT_EQ(library().sendtomsg(3, memory.data(), 2, 0), 42);
+    EXPECT_EQ(library().sendsingle(4, memory.data(), 1234, 8), 42);
+    EXPECT_EQ(library().sendbatch(5, memory.data(), 3, 0), 42);
+    ASSERT_EQ(mesh().sends.size(), 5u);
+    const struct { bool to; std::uint32_t channel, destination; std::size_t count; } expected[] = {
+        {false, 1, 0, 1}, {true, 2, 9, 3}, {false, 3, 0, 2}, {true, 4, 8, 1}, {false, 5, 0, 3}};
+    for (std::size_t i = 0; i < 5; ++i) {
+        const SendCall& call = mesh().sends[i];
+        EXPECT_EQ(call.to_destination, expected[i].to);
+        EXPECT_EQ(call.channel, expected[i].channel);
+        EXPECT_EQ(call.destination, expected[i].destination);
+        ASSERT_EQ(call.sent.size(), expected[i].count);
+        for (std::size_t k = 0; k < call.sent.size(); ++k) {
+            ByteString bytes = fixed() ? reference::fixed_form(made[k]) : reference::compact_form(made[k]);
+            bytes.resize(fixed() ? message().fixed_length : reference::reported_size(reference::exact_size(made[k])), 0);
+            EXPECT_EQ(hex(call.sent[k].bytes), hex(bytes));
+            EXPECT_EQ(call.sent[k].id, message().id);
+        }
+    }
+    EXPECT_EQ(services().difference({}), "");   // send buffers never come from the services
+}
+
+TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
+{
+    if (!malloc_double_works)
+        GTEST_SKIP() << "malloc belongs to the sanitizer";
+    const std::vector<Record> made = records(3);
+    const RecordMemory memory(made);
+    const std::size_t item = sizeof(MeshSendItem);
+    mesh().keeps_sends = false;
+    for (const std::uint32_t n : {1u, 3u}) {
+        std::size_t size = n == 1 ? reference::reported_size(reference::exact_size(made[0])) : pool + n * item;
+        if (fixed())
+            size = n == 1 ? 0 : n * (message().fixed_length + item);
+        const std::uint32_t blocks = size == 0 ? 0 : 1;
+        {
+            const WatchMalloc watch;
+            EXPECT_EQ(library().sendmsg(1, memory.data(), n), 0);
+        }
+        EXPECT_EQ(malloc_watch.mallocs, blocks) << n;
+        EXPECT_EQ(malloc_watch.frees, blocks) << n;
+        EXPECT_EQ(malloc_watch.sizes[0], size) << n;
+        mesh().send_calls = 0;
+        {
+            const WatchMalloc watch(0, true);
+            EXPECT_EQ(library().sendmsg(1, memory.data(), n), blocks == 0 ? 0 : -1);
+        }
+        EXPECT_EQ(malloc_watch.frees, 0u);
+        EXPECT_EQ(mesh().send_calls, 1 - blocks);
+    }
+}
+
+TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
+{
+    const RecordMemory memory(records(1));
+    std::uint32_t length = 1000;
+    std::uint8_t byte = 0;
+    EXPECT_EQ(library().pack(nullptr, &byte, &length), -1);
+    EXPECT_EQ(length, 1000u);
+    length = 13;
+    EXPECT_EQ(library().pack(memory.data(), nullptr, &length), -1);   // too small: no log line either
+    EXPECT_EQ(length, 13u);
+    EXPECT_EQ(services().difference({}), "");
+
+    length = pool;
+    EXPECT_EQ(library().pack(memory.data(), nullptr, &length), 0);
+    EXPECT_EQ(length, reference::reported_size(reference::exact_size(records(1)[0])));
+    reference::Event log;
+    log.routine = {&message(), reference::RoutineKind::pack};
+    log.format = reference::Format::pack_parameters;
+    log.arguments = {0, pool, 1};
+    EXPECT_EQ(services().difference({log}), "");
+}
+
+TEST_P(EverySend, compact_send_of_a_null_record_sends_nothing)
+{
+    if (fixed())
+        GTEST_SKIP() << "a fixed form has no null test";
+    EXPECT_EQ(library().sendsingle(1, nullptr, 0, 0), -1);
+    EXPECT_EQ(library().sendmsg(1, nullptr, 1), -1);
+    EXPECT_TRUE(mesh().sends.empty());
+}
+
+// A direct batch of none is not refused: MESH gets it.
+TEST_P(EverySend, an_empty_batch_reaches_mesh)
+{
+    mesh().send_result = 5;
+    EXPECT_EQ(library().sendbatch(1, nullptr, 0, 0), 5);
+    ASSERT_EQ(mesh().sends.size(), 1u);
+    EXPECT_TRUE(mesh().sends[0].sent.empty());
+}
+
+// Two records that fill the 64 KiB to the byte, and one byte more.
+TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
+{
+    const std::uint32_t overhead = 18 + 8;   // of a frame with zero numbers around its block
+    std::vector<std::uint8_t> block(pool);
+    ifit_dfx_query_comm_param_mesh frames[2] = {};
+    for (const std::uint32_t more : {0u, 1u}) {
+        mesh().reset();
+        for (auto& frame : frames) {
+            frame.f2.data = block.data();
+            frame.f2.length = pool / 2 - overhead;
+        }
+        frames[1].f2.length += more;
+        const int result = ifit_dfx_query_comm_param_mesh__sendmsg(1, frames, 2);
+        EXPECT_EQ(result, more == 0 ? 0 : -1);
+        EXPECT_EQ(mesh().sends.size(), more == 0 ? 1u : 0u);
+    }
+    EXPECT_EQ(mesh().sends.size(), 0u);   // nothing of the second batch, not even the record that fitted
+
+    mesh().reset();
+    ifit_dfx_query_comm_param_mesh three[3] = {frames[0], frames[0], {}};
+    EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);   // the pool is full before the third
+
+    frames[0].f2.length = pool;   // a single message has no such limit
+    EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, frames, 1), 0);
+    ASSERT_EQ(mesh().sends.size(), 1u);
+    EXPECT_EQ(mesh().sends[0].sent[0].bytes.size(), pool + overhead);
+}
+
+TEST(BatchPool, fixed_batches_lie_end_to_end_and_may_be_larger)
+{
+    mesh().reset();
+    const std::uint32_t count = 3000;
+    const std::vector<ifit_color_intf_mesh> rows(count);
+    EXPECT_EQ(ifit_color_intf_mesh__sendmsg(1, rows.data(), count), 0);
+    const SendCall& call = mesh().sends.at(0);
+    ASSERT_EQ(call.sent.size(), count);
+    for (std::uint32_t i = 0; i < count; ++i)
+        EXPECT_EQ(call.sent[i].data, call.sent[0].data + std::size_t{i} * 40);
+    EXPECT_EQ(static_cast<const void*>(call.items), call.sent[0].data + std::size_t{count} * 40);
+}
+
+// Sums of sizes beyond 32 bits: texts and blocks that are counted again and again. Needs no memory but the pointers.
+TEST(Sizes, beyond_32_bits_are_refused)
+{
+    std::vector<ntvifit_entry_to_mdtlm> entries(3);
+    std::uint8_t byte = 0;
+    for (ntvifit_entry_to_mdtlm& entry : entries)
+        entry.f17 = {0x7FFFFFFF, &byte};
+    ntvifit_entry_list_mdtlm list = {};
+    list.f0.items = entries.data();
+    for (const std::uint32_t count : {2u, 3u}) {   // just beyond, and where 32 bits would have wrapped to a small size
+        list.f0.count = count;
+        std::uint32_t length = 0xFFFFFFFF;
+        EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
+        EXPECT_EQ(length, 0xFFFFFFFF);
+        EXPECT_EQ(ntvifit_entry_list_mdtlm__sendmsg(1, &list, 1), -1);
+    }
+    list.f0.count = 1;
+    std::uint32_t length = 0xFFFFFFFF;
+    EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), 0);   // null buffer: nothing is written
+    EXPECT_EQ(length, 16u + 4 + 8 + 60 + 8 + 0x7FFFFFFF);
+}
+
+TEST(Registration, gives_every_hook_in_order_and_stops_at_the_first_failure)
+{
+    for (const Module& module : modules()) {
+        mesh().reset();
+        EXPECT_EQ(module.recv_init(), 0);
+        std::vector<const Message*> expected;
+        for (const Message& message : transcribed().messages)
+            if (message.module == module.name)
+                expected.push_back(&message);
+        ASSERT_EQ(mesh().registrations.size(), expected.size()) << module.name;
+        for (std::size_t i = 0; i < expected.size(); ++i) {
+            const Operations& library = operations(expected[i]->name);
+            const Registered& registered = mesh().registrations[i];
+            EXPECT_EQ(registered.id, expected[i]->id) << expected[i]->name;
+            EXPECT_EQ(reinterpret_cast<void*>(registered.unpack), reinterpret_cast<void*>(library.unpack));
+            EXPECT_EQ(reinterpret_cast<void*>(registered.free), reinterpret_cast<void*>(library.free_unpacked));
+        }
+        for (std::uint32_t k = 0; k < expected.size(); ++k) {
+            mesh().reset();
+            mesh().register_fails_at = k;
+            mesh().register_result = -17;
+            EXPECT_EQ(module.recv_init(), -17) << module.name;
+            EXPECT_EQ(mesh().registrations.size(), k + 1) << module.name;
+        }
+        mesh().reset();
+        mesh().clean_result = 3;
+        EXPECT_EQ(module.send_init(), 3);
+        ASSERT_EQ(mesh().clean_hooks.size(), 1u);
+        EXPECT_EQ(mesh().clean_hooks[0], module.send_resource_clean);
+        module.send_resource_clean();
+    }
+}
+
+}   // namespace
+
+}   // namespace kesto::tests

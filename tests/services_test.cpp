@@ -1,0 +1,242 @@
+// What a codec unit makes of the services that its process offers: each case in a process of its own, as a unit looks
+// once.
+//
+// The program has its own dlsym, so that a case can offer and count as it likes.
+
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/osal.h"
+#include "tests/support/malloc_double.h"
+#include "tests/support/unit_uses.h"
+
+namespace
+{
+
+using kesto::tests::malloc_watch;
+using kesto::tests::one_byte_block;
+using kesto::tests::one_empty_text;
+using kesto::tests::Use;
+using kesto::tests::use_every_unit;
+using kesto::tests::uses;
+using kesto::tests::WatchMalloc;
+
+struct Offer {
+    const char* name;
+    int use_flag;   // what RVL_OsalMemUseFlagGet answers; -1 for no such service
+    bool allocate;
+    bool release;
+    bool log;
+    bool services_used;   // expected
+};
+
+const Offer offers[] = {
+    {"nothing", -1, false, false, false, false},    {"memory_without_the_flag", -1, true, true, true, false},
+    {"flag_0", 0, true, true, true, false},         {"flag_2", 2, true, true, true, false},
+    {"flag_1_alone", 1, false, false, true, false}, {"no_release", 1, true, false, true, false},
+    {"no_allocate", 1, false, true, true, false},   {"memory_without_log", 1, true, true, false, true},
+    {"everything", 1, true, true, true, true},
+};
+
+const Offer* offer = &offers[0];
+std::atomic<int> lookups_of_flag, lookups_of_allocate, lookups_of_release, lookups_of_log;
+std::atomic<int> allocated, released, logged;
+
+std::uint32_t use_flag(std::uint32_t module)
+{
+    return module == 12 ? static_cast<std::uint32_t>(offer->use_flag) : 0;
+}
+
+void* service_allocate(std::uint32_t size, std::uint32_t, const char*)
+{
+    ++allocated;
+    return std::malloc(size);
+}
+
+void service_release(void* pointer, std::uint32_t, const char*)
+{
+    ++released;
+    std::free(pointer);
+}
+
+std::uint32_t service_log(const OsalLogDescriptor*, std::uint32_t, std::uint32_t, const char*, std::uint32_t,
+                          const char*, const char*, ...)
+{
+    ++logged;
+    return 1;
+}
+
+// In the child of a case: prints what is not as expected and ends the process.
+class Verdict
+{
+public:
+    void expect(const char* what, int is, int expected)
+    {
+        if (is != expected) {
+            std::fprintf(stderr, "%s: %d, expected %d\n", what, is, expected);
+            failed_ = true;
+        }
+    }
+    [[noreturn]] void end() const { std::_Exit(failed_ ? 1 : 0); }
+
+private:
+    bool failed_ = false;
+};
+
+// Runs a case in a process of its own.
+template <class Case>
+void expect_in_child(Case run)
+{
+    const auto child = [&] {
+        Verdict verdict;
+        run(verdict);
+        verdict.end();
+    };
+    EXPECT_EXIT(child(), testing::ExitedWithCode(0), "^$");
+}
+
+void expect_one_lookup_for_each_unit(Verdict& verdict)
+{
+    verdict.expect("look-ups of the flag", lookups_of_flag, 8);
+    verdict.expect("look-ups of allocate", lookups_of_allocate, offer->use_flag == 1 ? 8 : 0);
+    verdict.expect("look-ups of release", lookups_of_release, offer->use_flag == 1 ? 8 : 0);
+    verdict.expect("look-ups of the log", lookups_of_log, 8);
+}
+
+class EveryOffer : public testing::TestWithParam<Offer>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(All, EveryOffer, testing::ValuesIn(offers),
+                         [](const auto& test) { return std::string(test.param.name); });
+
+TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
+{
+    expect_in_child([&](Verdict& verdict) {
+        offer = &GetParam();
+        for (const Use& use : uses) {
+            const WatchMalloc watch;
+            const int before = allocated;
+            use.receive();
+            verdict.expect("allocations", static_cast<int>(malloc_watch.mallocs), 1);
+            verdict.expect("of them by the service", allocated - before, offer->services_used ? 1 : 0);
+            use.send();
+        }
+        use_every_unit();   // the second time looks nothing up
+        expect_one_lookup_for_each_unit(verdict);
+        verdict.expect("allocated by the service", allocated, offer->services_used ? 8 : 0);
+        verdict.expect("released by the service", released, offer->services_used ? 8 : 0);
+        verdict.expect("log lines", logged, offer->log ? 16 : 0);
+    });
+}
+
+TEST(Services, that_come_after_the_first_use_are_not_seen)
+{
+    expect_in_child([&](Verdict& verdict) {
+        uses[0].receive();
+        offer = &offers[8];
+        uses[0].receive();
+        verdict.expect("seen by the unit in use", allocated + logged, 0);
+        uses[1].receive();
+        verdict.expect("seen by another unit", allocated + logged, 2);
+    });
+}
+
+TEST(Services, are_not_looked_up_without_need)
+{
+    expect_in_child([&](Verdict& verdict) {
+        ifit_dfx_datetime_mesh record{};
+        ifit_dfx_datetime_mesh_free__unpacked(&record);
+        const std::uint8_t refused[] = {3, 0, 0, 0};
+        ifit_dfx_datetime_mesh__unpack(refused, sizeof refused, &record);   // before memory is needed
+        verdict.expect("memory", lookups_of_flag, 0);
+        verdict.expect("log", lookups_of_log, 1);
+        const std::vector<std::uint8_t>& bytes = one_empty_text;
+        ifit_dfx_query_glbdata_item_mesh text{};
+        ifit_dfx_query_glbdata_item_mesh__unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &text);
+        verdict.expect("memory", lookups_of_flag, 1);
+        std::uint32_t length = 10;
+        ifit_dfx_query_comm_param_mesh__pack(nullptr, nullptr, &length);
+        verdict.expect("memory of the send unit", lookups_of_flag, 1);
+        verdict.expect("log", lookups_of_log, 1);
+    });
+}
+
+TEST(Services, are_looked_up_once_by_threads_that_come_together)
+{
+    for (int round = 0; round < 20; ++round)
+        expect_in_child([&](Verdict& verdict) {
+            offer = &offers[8];
+            std::atomic<int> waiting = 8;
+            std::vector<std::thread> threads;
+            for (int i = 0; i < 8; ++i)
+                threads.emplace_back([&] {
+                    --waiting;
+                    while (waiting != 0) {}
+                    use_every_unit();
+                });
+            for (std::thread& thread : threads)
+                thread.join();
+            expect_one_lookup_for_each_unit(verdict);
+            verdict.expect("allocated by the service", allocated, 32);
+            verdict.expect("released by the service", released, 32);
+        });
+}
+
+// With the plain pair the library's own malloc fails: null pointer, kept count, the log line, nothing left behind.
+TEST(Services, plain_allocation_may_fail)
+{
+    expect_in_child([&](Verdict& verdict) {
+        offer = &offers[1];
+        ntvifit_app_data record{};
+        const WatchMalloc watch(0);
+        ntvifit_app_data__unpack(one_byte_block.data(), static_cast<std::uint32_t>(one_byte_block.size()), &record);
+        verdict.expect("length", static_cast<int>(record.f1.length), 1);
+        verdict.expect("pointer", record.f1.data != nullptr, 0);
+        verdict.expect("log lines", logged, 1);
+        verdict.expect("mallocs", static_cast<int>(malloc_watch.mallocs), 1);
+    });
+}
+
+}   // namespace
+
+// ---- the process's dlsym and MESH ----
+
+extern "C" {
+
+void* dlsym(void* handle, const char* name) noexcept
+{
+    const auto found = [](bool offered, auto* function) {
+        return offered ? reinterpret_cast<void*>(function) : nullptr;
+    };
+    if (handle != RTLD_DEFAULT)
+        return nullptr;
+    if (std::strcmp(name, "RVL_OsalMemUseFlagGet") == 0) {
+        ++lookups_of_flag;
+        return found(offer->use_flag >= 0, use_flag);
+    }
+    if (std::strcmp(name, "RVL_OsalMemCacheAlloc") == 0) {
+        ++lookups_of_allocate;
+        return found(offer->allocate, service_allocate);
+    }
+    if (std::strcmp(name, "RVL_OsalMemFree") == 0) {
+        ++lookups_of_release;
+        return found(offer->release, service_release);
+    }
+    if (std::strcmp(name, "RVL_OsalLogWrite") == 0) {
+        ++lookups_of_log;
+        return found(offer->log, service_log);
+    }
+    return nullptr;
+}
+
+}   // extern "C"

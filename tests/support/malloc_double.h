@@ -1,0 +1,44 @@
+// Watches the process's malloc and free while armed, and lets a malloc fail. The library's plain allocations are seen so.
+//
+// Not in sanitized builds, whose run-time has its own malloc: there `malloc_double_works` is false.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kesto::tests {
+
+#ifdef KESTO_SANITIZED
+constexpr bool malloc_double_works = false;
+#else
+constexpr bool malloc_double_works = true;
+#endif
+
+struct MallocWatch {
+    bool armed = false;
+    std::uint32_t fail_at = 0xFFFFFFFF;   // number of the malloc that gives null
+    bool all_after = false;               // and all that follow
+
+    std::uint32_t mallocs = 0;
+    std::uint32_t frees = 0;              // of other than null
+    std::size_t sizes[8] = {};            // what the first ones asked for
+};
+
+// Not synchronised: for tests of one thread.
+extern MallocWatch malloc_watch;
+
+// Watches from its construction to its end.
+struct WatchMalloc {
+    explicit WatchMalloc(std::uint32_t fail_at = 0xFFFFFFFF, bool all_after = false)
+    {
+        malloc_watch = {};
+        malloc_watch.fail_at = fail_at;
+        malloc_watch.all_after = all_after;
+        malloc_watch.armed = true;
+    }
+    ~WatchMalloc() { malloc_watch.armed = false; }
+    WatchMalloc(const WatchMalloc&) = delete;
+    WatchMalloc& operator=(const WatchMalloc&) = delete;
+};
+
+}   // namespace kesto::tests

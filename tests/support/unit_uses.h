@@ -1,0 +1,67 @@
+// Each of the eight codec units used once.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "ifit.h"
+#include "ifit_dfx.h"
+#include "ifit_sync.h"
+#include "ntvifit.h"
+
+namespace kesto::tests {
+
+// One receive and one send operation of each module, in such a way that each unit logs and each receive unit allocates.
+struct Use {
+    void (*receive)();
+    void (*send)();
+};
+
+template <class Record>
+void receive_with(std::uint32_t (*unpack)(const std::uint8_t*, std::uint32_t, Record*), void (*free_unpacked)(Record*),
+                  const std::vector<std::uint8_t>& bytes)
+{
+    Record record{};
+    unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &record);
+    free_unpacked(&record);
+    unpack(bytes.data(), 3, &record);   // logs
+}
+
+template <class Record>
+void send_with(int (*pack)(const Record*, std::uint8_t*, std::uint32_t*))
+{
+    const Record record{};
+    std::uint8_t buffer[512];
+    std::uint32_t length = sizeof buffer;
+    pack(&record, buffer, &length);
+    length = sizeof buffer;
+    pack(&record, nullptr, &length);   // logs
+}
+
+inline const std::vector<std::uint8_t> one_empty_text = {10, 0, 0, 0, 6, 0, 8, 0, 4, 0, 6, 0, 0, 0, 4, 0, 0, 0, 0, 0, 0, 0};
+inline const std::vector<std::uint8_t> one_byte_block = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8, 0, 0, 0,
+                                                  4,  0, 0, 0, 1, 0, 0, 0, 7};
+// A list of one element, whose vtable is the 4 at position 16: no slots.
+inline const std::vector<std::uint8_t> one_element = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8,  0, 0, 0,
+                                               4,  0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 12, 0, 0, 0};
+
+inline const Use uses[] = {
+    {[] { receive_with(ifit_dfx_query_glbdata_item_mesh__unpack, ifit_dfx_query_glbdata_item_mesh_free__unpacked, one_empty_text); },
+     [] { send_with(ifit_dfx_query_stat_rec_mesh__pack); }},
+    {[] { receive_with(ifit_mcp_mesh_update__unpack, ifit_mcp_mesh_update_free__unpacked, one_element); },
+     [] { send_with(ifit_mcp_mesh_update__pack); }},
+    {[] { receive_with(ifit_sync_mcp_mesh_update__unpack, ifit_sync_mcp_mesh_update_free__unpacked, one_element); },
+     [] { send_with(ifit_sync_mcp_mesh__pack); }},
+    {[] { receive_with(ntvifit_app_data__unpack, ntvifit_app_data_free__unpacked, one_byte_block); },
+     [] { send_with(ntvifit_app_data__pack); }},
+};
+
+inline void use_every_unit()
+{
+    for (const Use& use : uses) {
+        use.receive();
+        use.send();
+    }
+}
+
+}   // namespace kesto::tests
