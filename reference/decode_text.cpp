@@ -1,4 +1,5 @@
 #include "reference/decode.h"
+#include "reference/text.h"
 
 namespace kesto::reference
 {
@@ -35,9 +36,9 @@ std::string to_text(const Path& path)
     std::string out;
     for (u32 i = 0; i < path.length; ++i) {
         const Path::Step& step = path.steps[i];
-        out += (i == 0 ? "f" : ".f") + std::to_string(step.slot);
+        out += join({i == 0 ? "f" : ".f", std::to_string(step.slot)});
         if (step.element >= 0)
-            out += "[" + std::to_string(step.element) + "]";
+            out += join({"[", std::to_string(step.element), "]"});
     }
     return out;
 }
@@ -48,7 +49,7 @@ std::string to_text(const Failure& failure)
         return "none";
     std::string out = name_of(failure.routine) + ": " + name_of(failure.refusal);
     if (failure.path.length != 0)
-        out += " at " + to_text(failure.path);
+        out += join({" at ", to_text(failure.path)});
     return out + ", position " + std::to_string(failure.position) + ", value " + std::to_string(failure.value) +
            ", limit " + std::to_string(failure.limit);
 }

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "reference/text.h"
 #include "reference/view.h"
 
 namespace kesto::reference
@@ -76,7 +77,7 @@ std::string difference_in_octets(const std::vector<u8>& expected, const u8* octe
     for (std::size_t i = 0; i < expected.size(); ++i) {
         if (expected[i] == octets[i])
             continue;
-        return "[" + std::to_string(i) + "]: " + std::to_string(expected[i]) + ", " + std::to_string(octets[i]);
+        return join({"[", std::to_string(i), "]: ", std::to_string(expected[i]), ", ", std::to_string(octets[i])});
     }
     return {};
 }
@@ -86,7 +87,7 @@ std::string difference_in_heap_part(const Slot& slot, const Field& expected, con
     if (expected.present != view.present(k))
         return expected.present ? " is null" : " is not null";
     if (slot.kind != Kind::string && expected.number != view.count(k)) {
-        return ": " + std::to_string(expected.number) + ", " + std::to_string(view.count(k));
+        return join({": ", std::to_string(expected.number), ", ", std::to_string(view.count(k))});
     }
     if (!expected.present)
         return {};
@@ -101,7 +102,7 @@ std::string difference_in_heap_part(const Slot& slot, const Field& expected, con
     for (u32 i = 0; i < expected.number; ++i) {
         const std::string found = difference_from(expected.records[i], view.element(k, i));
         if (!found.empty())
-            return "[" + std::to_string(i) + "]." + found;
+            return join({"[", std::to_string(i), "].", found});
     }
     return {};
 }
@@ -111,11 +112,11 @@ std::string difference_in_field(const Slot& slot, const Field& expected, const M
     if (slot.kind == Kind::scalar) {
         if (expected.number == view.scalar(k))
             return {};
-        return ": " + std::to_string(expected.number) + ", " + std::to_string(view.scalar(k));
+        return join({": ", std::to_string(expected.number), ", ", std::to_string(view.scalar(k))});
     }
     if (slot.kind == Kind::table) {
         const std::string found = difference_from(expected.records[0], view.nested(k));
-        return found.empty() ? found : "." + found;
+        return found.empty() ? found : join({".", found});
     }
     if (slot.kind != Kind::array)
         return difference_in_heap_part(slot, expected, view, k);
@@ -124,8 +125,8 @@ std::string difference_in_field(const Slot& slot, const Field& expected, const M
     for (u32 i = 0; i < slot.count; ++i) {
         if (expected.words[i] == view.word(k, i))
             continue;
-        return "[" + std::to_string(i) + "]: " + std::to_string(expected.words[i]) + ", " +
-               std::to_string(view.word(k, i));
+        return join(
+            {"[", std::to_string(i), "]: ", std::to_string(expected.words[i]), ", ", std::to_string(view.word(k, i))});
     }
     return {};
 }
@@ -135,7 +136,7 @@ std::string difference_from(const Record& expected, const MemoryView& view)
     for (std::size_t k = 0; k < expected.fields.size(); ++k) {
         const std::string found = difference_in_field(view.message().slots[k], expected.fields[k], view, k);
         if (!found.empty())
-            return "f" + std::to_string(k) + found;
+            return join({"f", std::to_string(k), found});
     }
     return {};
 }

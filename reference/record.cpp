@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "reference/text.h"
+
 namespace kesto::reference
 {
 namespace
@@ -22,7 +24,7 @@ void clear(Field& field, const Slot& slot)
 template <typename Left, typename Right>
 std::string differ(const char* what, Left left, Right right)
 {
-    return std::string(what) + ": " + std::to_string(left) + ", " + std::to_string(right);
+    return join({what, ": ", std::to_string(left), ", ", std::to_string(right)});
 }
 
 template <typename Element>
@@ -33,7 +35,7 @@ std::string difference_of(const std::vector<Element>& left, const std::vector<El
     if (left.size() != right.size())
         return differ(" size", left.size(), right.size());
     const auto at = std::mismatch(left.begin(), left.end(), right.begin());
-    return "[" + std::to_string(at.first - left.begin()) + differ("]", *at.first, *at.second);
+    return join({"[", std::to_string(at.first - left.begin()), differ("]", *at.first, *at.second)});
 }
 
 std::string difference_of_field(const Slot& slot, const Field& left, const Field& right)
@@ -53,7 +55,7 @@ std::string difference_of_field(const Slot& slot, const Field& left, const Field
         found = difference(left.records[i], right.records[i]);
         if (found.empty())
             continue;
-        return (slot.kind == Kind::vector ? "[" + std::to_string(i) + "]." : ".") + found;
+        return slot.kind == Kind::vector ? join({"[", std::to_string(i), "].", found}) : join({".", found});
     }
     return {};
 }
@@ -88,7 +90,7 @@ std::string difference(const Record& left, const Record& right)
     for (std::size_t k = 0; k < left.fields.size(); ++k) {
         const std::string found = difference_of_field(left.message->slots[k], left.fields[k], right.fields[k]);
         if (!found.empty())
-            return "f" + std::to_string(k) + found;
+            return join({"f", std::to_string(k), found});
     }
     return {};
 }

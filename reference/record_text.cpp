@@ -1,6 +1,7 @@
 #include <charconv>
 
 #include "reference/record.h"
+#include "reference/text.h"
 
 namespace kesto::reference
 {
@@ -201,10 +202,10 @@ void add_field(std::string& out, const Slot& slot, const Field& field)
     } else if (slot.kind == Kind::array) {
         out += '<';
         for (std::size_t i = 0; i < field.words.size(); ++i)
-            out += (i == 0 ? "" : " ") + std::to_string(field.words[i]);
+            out += join({i == 0 ? "" : " ", std::to_string(field.words[i])});
         out += '>';
     } else if (!field.present) {
-        out += field.number == 0 ? "null" : "null*" + std::to_string(field.number);
+        out += field.number == 0 ? "null" : join({"null*", std::to_string(field.number)});
     } else if (slot.kind == Kind::string) {
         add_characters(out, field.octets);
     } else if (slot.kind == Kind::bytes) {
@@ -212,7 +213,7 @@ void add_field(std::string& out, const Slot& slot, const Field& field)
     } else {
         out += '[';
         for (std::size_t i = 0; i < field.records.size(); ++i)
-            out += (i == 0 ? "" : " ") + to_text(field.records[i]);
+            out += join({i == 0 ? "" : " ", to_text(field.records[i])});
         out += ']';
     }
 }

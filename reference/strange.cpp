@@ -135,7 +135,8 @@ Bytes body_of(const Slot& slot, const Field& field)
 {
     Bytes body;
     append(body, slot.kind == Kind::array ? slot.count : field.octets.size(), 4);
-    body.insert(body.end(), field.octets.begin(), field.octets.end());
+    for (const u8 octet : field.octets)
+        body.push_back(octet);
     for (const u32 word : field.words)
         append(body, word, 4);
     return body;

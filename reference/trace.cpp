@@ -1,5 +1,7 @@
 #include "reference/trace.h"
 
+#include "reference/text.h"
+
 namespace kesto::reference
 {
 namespace
@@ -30,7 +32,7 @@ std::string argument_text(char conversion, u32 argument)
     if (conversion == 's')
         return argument == 0 ? "null" : "nonNull";
     if (conversion == 'd' && argument > 0x7fffffffU)
-        return "-" + std::to_string(0U - argument);
+        return join({"-", std::to_string(0U - argument)});
     return std::to_string(argument);
 }
 
@@ -79,7 +81,7 @@ std::string to_text(const Event& event)
     const std::string& routine = name_of(event.routine);
     if (event.act == Act::log)
         return routine + " logs " + std::to_string(code_of(event.format)) + " " + log_text(event);
-    const std::string block = event.block < 0 ? "null" : "block " + std::to_string(event.block);
+    const std::string block = event.block < 0 ? "null" : join({"block ", std::to_string(event.block)});
     if (event.act == Act::release)
         return routine + " releases " + block;
     return routine + " allocates " + block + ", size " + std::to_string(event.size) + (event.failed ? ", in vain" : "");

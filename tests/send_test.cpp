@@ -213,7 +213,7 @@ TEST(Sizes, beyond_32_bits_are_refused)
 
 TEST(Registration, gives_every_hook_in_order_and_stops_at_the_first_failure)
 {
-    for (const Module& module : modules()) {
+    for (const tools::ModuleOperations& module : tools::module_operations()) {
         mesh().reset();
         EXPECT_EQ(module.recv_init(), 0);
         std::vector<const Message*> expected;

@@ -8,7 +8,7 @@
 #include <cstring>
 #include <string>
 
-#include "tools/catalogue.h"
+#include "tools/print_files.h"
 
 using namespace kesto::tools;
 
@@ -158,37 +158,16 @@ void print_message(std::FILE* file, const MessageInfo& message)
     std::fprintf(file, "int %s__sendtomsg(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name, name);
 }
 
-bool print_module(const std::string& path, const ModuleInfo& module)
+void print_module(std::FILE* file, const ModuleInfo& module)
 {
-    std::FILE* const file = std::fopen(path.c_str(), "w");
-    if (file == nullptr) {
-        std::perror(path.c_str());
-        return false;
-    }
     print_head(file, module.name);
     for (const MessageInfo* message : module.messages)
         print_message(file, *message);
     const char* const name = module.name.c_str();
     std::fprintf(file, "\nint %s_recv_init(void);\nint %s_send_init(void);\nvoid %s__send_resource_clean(void);\n", name, name, name);
     std::fputs("\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n", file);
-    const bool written = std::ferror(file) == 0;
-    if (std::fclose(file) != 0 || !written) {
-        std::fprintf(stderr, "%s: could not be written\n", path.c_str());
-        return false;
-    }
-    return true;
 }
 
 }   // namespace
 
-int main(int argc, char** argv)
-{
-    if (argc != 2) {
-        std::fputs("usage: print_headers FOLDER\n", stderr);
-        return 2;
-    }
-    for (const ModuleInfo& module : modules())
-        if (!print_module(std::string(argv[1]) + "/" + module.name + ".h", module))
-            return 1;
-    return 0;
-}
+int main(int argc, char** argv) { return print_files(argc, argv, ".h", print_module); }

@@ -71,7 +71,7 @@ GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 
 GuardedBuffer::~GuardedBuffer() { munmap(start_, mapped_); }
 
-DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), storage_(largest_record)
+DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), packed_(most_bytes), storage_(largest_record)
 {
     for (const reference::Message& message : transcribed().messages)
         operations_.push_back(&operations(message.name));
@@ -125,6 +125,10 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
         fault = outcome_.failure ? "refused" : reference::difference(*expected, record);
     if (!fault.empty())
         return "expected record: " + fault;
+    if (packs_again && !outcome_.failure)
+        fault = pack_again(library, record);
+    if (!fault.empty())
+        return "packed again: " + fault;
 
     const std::uint32_t live = services().live_blocks();
     if (outcome_.failure && live != 0)
@@ -138,6 +142,20 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
     if (!fault.empty())
         return "freed record: " + fault;
     return services().live_blocks() == 0 ? "" : "blocks left after the free";
+}
+
+std::string DecodeCheck::pack_again(const Operations& library, const std::uint8_t* record)
+{
+    if (!reference::is_encodable(outcome_.record))   // a table whose refusal is ignored may leave such a record
+        return {};
+    const std::uint64_t size = reference::exact_size(outcome_.record);
+    if (size > packed_.most())
+        return {};
+    std::uint32_t length = static_cast<std::uint32_t>(size);
+    std::uint8_t* const packed = packed_.place(length);
+    if (library.pack(record, packed, &length) != 0 || length != size)
+        return "length " + std::to_string(length) + ", expected " + std::to_string(size);
+    return first_difference({packed, packed + size}, reference::compact_form(outcome_.record));
 }
 
 std::string check_encoders(const reference::Record& record)

@@ -7,9 +7,12 @@
 
 #include "reference/decode.h"
 #include "reference/encode.h"
-#include "tests/support/operations.h"
+#include "tools/operations.h"
 
 namespace kesto::tests {
+
+using tools::operations;
+using tools::Operations;
 
 using ByteString = std::vector<std::uint8_t>;
 
@@ -45,6 +48,7 @@ public:
 
     reference::AllocationFaults faults;
     const reference::Record* expected = nullptr;   // when set, what a decode must succeed with
+    bool packs_again = false;                      // also packs what was decoded, of up to most_bytes
 
     // Both give what differs, empty where nothing does. `bytes` may be changed in place between calls of the second.
     std::string check(const reference::Message& message, const ByteString& bytes);
@@ -58,8 +62,10 @@ public:
 
 private:
     std::string compare(const Operations& library, std::uint32_t returned);
+    std::string pack_again(const Operations& library, const std::uint8_t* record);
 
     GuardedBuffer buffer_;
+    GuardedBuffer packed_;
     GuardedBuffer storage_;
     reference::Outcome outcome_;
     std::vector<const Operations*> operations_;   // by the message's number

@@ -8,7 +8,7 @@ MallocWatch malloc_watch;
 
 }   // namespace kesto::tests
 
-#ifndef KESTO_SANITIZED
+#if !KESTO_SANITIZED
 
 using kesto::tests::malloc_watch;
 

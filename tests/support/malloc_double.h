@@ -8,7 +8,7 @@
 
 namespace kesto::tests {
 
-#ifdef KESTO_SANITIZED
+#if KESTO_SANITIZED
 constexpr bool malloc_double_works = false;
 #else
 constexpr bool malloc_double_works = true;

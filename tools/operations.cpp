@@ -1,4 +1,4 @@
-#include "tests/support/operations.h"
+#include "tools/operations.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -9,7 +9,7 @@
 #include "ifit_sync.h"
 #include "ntvifit.h"
 
-namespace kesto::tests {
+namespace kesto::tools {
 
 namespace {
 
@@ -48,7 +48,7 @@ const Operations ntvifit_messages[] = {
 #include "messages/ntvifit/ntvifit.def"
 };
 
-const Module all[] = {
+const ModuleOperations all[] = {
     {"ifit_dfx", ifit_dfx_messages, ifit_dfx_recv_init, ifit_dfx_send_init, ifit_dfx__send_resource_clean},
     {"ifit", ifit_messages, ifit_recv_init, ifit_send_init, ifit__send_resource_clean},
     {"ifit_sync", ifit_sync_messages, ifit_sync_recv_init, ifit_sync_send_init, ifit_sync__send_resource_clean},
@@ -57,11 +57,11 @@ const Module all[] = {
 
 }   // namespace
 
-std::span<const Module> modules() { return all; }
+std::span<const ModuleOperations> module_operations() { return all; }
 
 const Operations& operations(std::string_view name)
 {
-    for (const Module& module : all)
+    for (const ModuleOperations& module : all)
         for (const Operations& message : module.messages)
             if (name == message.name)
                 return message;
@@ -69,4 +69,4 @@ const Operations& operations(std::string_view name)
     std::abort();
 }
 
-}   // namespace kesto::tests
+}   // namespace kesto::tools

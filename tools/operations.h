@@ -5,7 +5,7 @@
 #include <span>
 #include <string_view>
 
-namespace kesto::tests {
+namespace kesto::tools {
 
 struct Operations {
     const char* name;
@@ -20,7 +20,7 @@ struct Operations {
     int (*sendtomsg)(std::uint32_t channel, const void* recs, std::uint32_t n, std::uint32_t destination);
 };
 
-struct Module {
+struct ModuleOperations {
     const char* name;
     std::span<const Operations> messages;   // in the order of the catalogue
     int (*recv_init)();
@@ -28,9 +28,9 @@ struct Module {
     void (*send_resource_clean)();
 };
 
-std::span<const Module> modules();
+std::span<const ModuleOperations> module_operations();
 
 // Ends the process for a name that no message has.
 const Operations& operations(std::string_view name);
 
-}   // namespace kesto::tests
+}   // namespace kesto::tools

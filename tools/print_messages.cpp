@@ -1,0 +1,252 @@
+// Prints the message reference, docs/messages/<module>.md, from the catalogue: text for a terminal that a code host shows
+// with tables and links.
+//
+//   print_messages FOLDER    writes FOLDER/<module>.md for every module
+
+#include <algorithm>
+#include <cinttypes>
+#include <cstdio>
+#include <map>
+#include <set>
+#include <string>
+
+#include "tools/print_files.h"
+
+using namespace kesto::tools;
+
+namespace {
+
+constexpr std::size_t page_width = 120;
+
+// ---- tables whose source is aligned ----
+
+struct Column {
+    std::string title;
+    bool numbers = false;   // stand at the right edge
+};
+
+using Row = std::vector<std::string>;
+
+void print_row(std::FILE* file, const std::vector<Column>& columns, const std::vector<std::size_t>& widths, const Row& row)
+{
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const int width = static_cast<int>(widths[i]);
+        std::fprintf(file, columns[i].numbers ? "| %*s " : "| %-*s ", width, row[i].c_str());
+    }
+    std::fputs("|\n", file);
+}
+
+void print_table(std::FILE* file, const std::vector<Column>& columns, const std::vector<Row>& rows)
+{
+    std::vector<std::size_t> widths;
+    Row titles, rules;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        std::size_t width = columns[i].title.size();
+        for (const Row& row : rows)
+            width = std::max(width, row[i].size());
+        width = std::max<std::size_t>(width, 2);
+        widths.push_back(width);
+        titles.push_back(columns[i].title);
+        rules.push_back(columns[i].numbers ? std::string(width - 1, '-') + ":" : std::string(width, '-'));
+    }
+    print_row(file, columns, widths, titles);
+    print_row(file, columns, widths, rules);
+    for (const Row& row : rows)
+        print_row(file, columns, widths, row);
+}
+
+// ---- what the pages say of a message ----
+
+// Equal for messages whose records and byte strings look alike down to the last nested message.
+std::string shape(const MessageInfo& message)
+{
+    std::string text;
+    for (const SlotInfo& slot : message.slots) {
+        if (slot.nested == nullptr)
+            text += slot_text(slot) + " ";
+        else
+            text += (slot.kind == SlotKind::vector ? "vector" : slot.fault_ends_read ? "table" : "lenient table") + std::string("(") +
+                    shape(*slot.nested) + ") ";
+    }
+    return text;
+}
+
+struct Relations {
+    std::map<std::string, std::vector<const MessageInfo*>> by_shape;
+    std::map<const MessageInfo*, std::vector<const MessageInfo*>> users;   // the messages that nest this one
+};
+
+const Relations& relations()
+{
+    static const Relations found = [] {
+        Relations all;
+        for (const ModuleInfo& module : modules())
+            for (const MessageInfo* message : module.messages) {
+                all.by_shape[shape(*message)].push_back(message);
+                std::set<const MessageInfo*> nested;
+                for (const SlotInfo& slot : message->slots)
+                    if (slot.nested != nullptr && nested.insert(slot.nested).second)
+                        all.users[slot.nested].push_back(message);
+            }
+        return all;
+    }();
+    return found;
+}
+
+std::string id_text(const MessageInfo& message)
+{
+    char text[11];
+    std::snprintf(text, sizeof text, "0x%08" PRIx32, message.id);
+    return text;
+}
+
+std::string form_text(const MessageInfo& message)
+{
+    return message.has_heap_parts ? "compact" : "fixed " + std::to_string(message.fixed_length);
+}
+
+// A name that leads to its message on a code host; the targets stand at the end of the page.
+std::string link(const MessageInfo& message) { return "[" + message.name + "]"; }
+
+void print_links(std::FILE* file, const char* what, const std::vector<const MessageInfo*>& messages, const MessageInfo& self)
+{
+    std::string line = std::string("- ") + what;
+    bool any = false;
+    for (const MessageInfo* message : messages) {
+        if (message == &self)
+            continue;
+        const std::string item = (any ? ", " : " ") + link(*message);
+        if (line.size() + item.size() + 1 > page_width) {
+            std::fprintf(file, "%s,\n", line.c_str());
+            line = "  " + link(*message);
+        } else {
+            line += item;
+        }
+        any = true;
+    }
+    if (any)
+        std::fprintf(file, "%s.\n", line.c_str());
+}
+
+// The fields, in as many columns of rows as fit beside each other and are worth it.
+void print_fields(std::FILE* file, const MessageInfo& message)
+{
+    const RecordLayout on_32 = record_layout(message, 4), on_64 = record_layout(message, 8);
+    const bool same = on_32.offsets == on_64.offsets;
+
+    std::vector<Column> group{{"Field"}, {"Slot"}, {same ? "At" : "At/32", true}};
+    if (!same)
+        group.push_back({"At/64", true});
+    std::vector<Row> fields;
+    std::vector<std::size_t> widths(group.size());
+    for (std::size_t k = 0; k < message.slots.size(); ++k) {
+        const SlotInfo& slot = message.slots[k];
+        Row row{slot.field, slot_text(slot), std::to_string(on_32.offsets[k])};
+        if (!same)
+            row.push_back(std::to_string(on_64.offsets[k]));
+        for (std::size_t i = 0; i < row.size(); ++i)
+            widths[i] = std::max({widths[i], row[i].size(), group[i].title.size()});
+        fields.push_back(row);
+    }
+
+    std::size_t group_width = 0;
+    for (const std::size_t width : widths)
+        group_width += width + 3;
+    constexpr std::size_t rows_worth_it = 8;
+    const std::size_t groups = std::clamp<std::size_t>((page_width - 1) / group_width, 1, (fields.size() - 1) / rows_worth_it + 1);
+    const std::size_t height = (fields.size() + groups - 1) / groups;
+
+    std::vector<Column> columns;
+    std::vector<Row> rows(height);
+    for (std::size_t g = 0; g * height < fields.size(); ++g) {
+        columns.insert(columns.end(), group.begin(), group.end());
+        for (std::size_t i = 0; i < height; ++i) {
+            const Row row = g * height + i < fields.size() ? fields[g * height + i] : Row(group.size());
+            rows[i].insert(rows[i].end(), row.begin(), row.end());
+        }
+    }
+    print_table(file, columns, rows);
+}
+
+void print_message(std::FILE* file, const MessageInfo& message)
+{
+    std::fprintf(file, "\n## %s\n\n", message.name.c_str());
+    std::fprintf(file, "- Id %s. ", id_text(message).c_str());
+    if (message.has_heap_parts)
+        std::fprintf(file, "Compact form of %u bytes and more. ", empty_length(message));
+    else
+        std::fprintf(file, "Fixed form of %u bytes, compact form of %u to %u. ", message.fixed_length, empty_length(message),
+                     full_scalars_length(message));
+    const std::uint32_t on_32 = record_layout(message, 4).size, on_64 = record_layout(message, 8).size;
+    if (on_32 == on_64)
+        std::fprintf(file, "Record of %u bytes.\n", on_32);
+    else
+        std::fprintf(file, "Record of %u bytes, %u with 64-bit pointers.\n", on_32, on_64);
+    for (const SlotInfo& slot : message.slots)
+        if (!slot.fault_ends_read)
+            std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on behind it.\n", slot.field.c_str());
+    print_links(file, "Same layout:", relations().by_shape.at(shape(message)), message);
+    if (const auto users = relations().users.find(&message); users != relations().users.end())
+        print_links(file, "Nested in:", users->second, message);
+    std::fputs("\n", file);
+    print_fields(file, message);
+}
+
+// ---- the page ----
+
+// `@` stands for the module.
+constexpr const char head[] = R"(# Messages of @
+
+Printed from `messages/@/@.def` by `./run headers`; do not edit. C declarations: `include/@.h`.
+The format of the bytes: [wire-format.md](../wire-format.md).
+
+- **Fixed form**: its length, the same for every record. A message that has one is sent in it.
+- **Compact form**: what `X__pack` writes, and what is sent where there is no fixed form. The first length is that of an
+  all-zero record, the second that of a record without a zero scalar. Texts, blocks and vectors add to the first.
+- **At**: where the field stands in the record; **At/32** and **At/64** where the width of pointers makes a difference.
+- **Same layout**: messages whose records and byte strings look alike all the way down. Only the id tells them apart.
+- **Nested in**: messages that have this one as a table or as the elements of a vector.
+
+## Contents
+
+In the order of registration. Zero: length of an all-zero record's compact form. Rec/32, Rec/64: size of the record.
+
+)";
+
+void print_page(std::FILE* file, const ModuleInfo& module)
+{
+    for (const char* at = head; *at != '\0'; ++at) {
+        if (*at == '@')
+            std::fputs(module.name.c_str(), file);
+        else
+            std::fputc(*at, file);
+    }
+    std::vector<Row> contents;
+    std::set<const MessageInfo*> elsewhere;
+    for (const MessageInfo* message : module.messages) {
+        contents.push_back({link(*message), id_text(*message), form_text(*message), std::to_string(empty_length(*message)),
+                            std::to_string(message->slots.size()), std::to_string(record_layout(*message, 4).size),
+                            std::to_string(record_layout(*message, 8).size)});
+        for (const MessageInfo* other : relations().by_shape.at(shape(*message)))
+            if (other->module != module.name)
+                elsewhere.insert(other);
+    }
+    print_table(file,
+                {{"Message"}, {"Id"}, {"Form"}, {"Zero", true}, {"Slots", true}, {"Rec/32", true}, {"Rec/64", true}},
+                contents);
+
+    for (const MessageInfo* message : module.messages)
+        print_message(file, *message);
+
+    std::fputs("\n", file);
+    for (const MessageInfo* message : module.messages)
+        std::fprintf(file, "%s: #%s\n", link(*message).c_str(), message->name.c_str());
+    for (const ModuleInfo& other : modules())
+        for (const MessageInfo* message : other.messages)
+            if (elsewhere.contains(message))
+                std::fprintf(file, "%s: %s.md#%s\n", link(*message).c_str(), other.name.c_str(), message->name.c_str());
+}
+
+}   // namespace
+
+int main(int argc, char** argv) { return print_files(argc, argv, ".md", print_page); }
