@@ -111,17 +111,26 @@ TEST(Figures, hold_for_the_bytes_that_the_library_writes)
     EXPECT_GT(held, 250);
 }
 
-TEST(Headers, are_what_the_printer_prints_today)
+TEST(Printed, headers_and_pages_are_what_the_printers_print_today)
 {
-    const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("kesto_headers_" + std::to_string(getpid()));
+    const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("kesto_printed_" + std::to_string(getpid()));
     std::filesystem::create_directory(folder);
     (void)run(KESTO_PRINT_HEADERS " " + folder.string());
-    for (const tools::ModuleInfo& module : tools::modules()) {
-        const std::string committed = read_file(KESTO_SOURCE_DIR "/include/" + module.name + ".h");
-        EXPECT_TRUE(committed == read_file((folder / (module.name + ".h")).string()))
-            << "include/" << module.name << ".h is not current: ./run headers";
-    }
+    (void)run(KESTO_PRINT_MESSAGES " " + folder.string());
+    for (const tools::ModuleInfo& module : tools::modules())
+        for (const auto& [committed_in, suffix] : {std::pair{"include/", ".h"}, std::pair{"docs/messages/", ".md"}}) {
+            const std::string committed = read_file(KESTO_SOURCE_DIR "/" + (committed_in + module.name) + suffix);
+            EXPECT_TRUE(committed == read_file((folder / (module.name + suffix)).string()))
+                << committed_in << module.name << suffix << " is not current: ./run headers";
+        }
     std::filesystem::remove_all(folder);
+}
+
+TEST(Readme, shows_the_first_program_as_it_is)
+{
+    const std::string program = read_file(KESTO_SOURCE_DIR "/examples/first_program.c");
+    EXPECT_FALSE(program.empty());
+    EXPECT_NE(read_file(KESTO_SOURCE_DIR "/README.md").find("```c\n" + program + "```\n"), std::string::npos);
 }
 
 TEST(Library, exports_its_operations_and_nothing_else)
@@ -141,7 +150,7 @@ TEST(Library, exports_its_operations_and_nothing_else)
         exported.insert(listing.substr(at, listing.find(' ', at) - at));
     EXPECT_EQ(exported, expected);
 
-    if (KESTO_SANITIZED_BUILD)
+    if (KESTO_SANITIZED)
         return;   // the sanitizer's run-time comes along
     const std::string needed = run("readelf -d " KESTO_LIBRARY);
     EXPECT_EQ(needed.find("libstdc++"), std::string::npos);

@@ -1,0 +1,360 @@
+// What each primitive of core/wire.h relies on and what it promises, as programs that run on symbolic and on real words.
+//
+// What one promises and the next relies on is one function, with the role as its argument: so the contracts chain.
+// Expected results are formed as the wire format says them, in 64 bits, where nothing wraps. Each program returns a number
+// for what it came to, so that a proof that has lost its subject shows.
+#pragma once
+
+#include "tests/proof/symbolic.h"
+
+namespace kesto::proof {
+
+// ---- what is known between two primitives ----
+
+template <class World>
+using View = TableView<typename World::In>;
+
+template <class World>
+void opened_view(World& world, Role role, const View<World>& view)
+{
+    const auto length = wide(world.input().length);
+    world.state(role, view.table >= root_bytes, "the table is not in the root");
+    world.state(role, wide(view.table) + table_head_bytes <= length, "the table's head lies inside");
+    world.state(role, view.vtable >= root_bytes, "the vtable is not in the root");
+    world.state(role, wide(view.vtable) + vtable_head_bytes <= length, "the vtable's head lies inside");
+    world.state(role, view.vtable_length <= 0xffff, "a vtable length has 16 bits");
+    world.state(role, wide(view.vtable) + wide(view.vtable_length) <= length, "the vtable lies inside");
+    world.state(role, wide(view.table) + wide(view.room) == length, "the room is what is behind the table's start");
+}
+
+template <class World>
+View<World> any_opened_view(World& world)
+{
+    View<World> view{world.any(), world.any(), world.any(), world.any()};
+    opened_view(world, Role::relied_on, view);
+    return view;
+}
+
+template <class World, class Word>
+void slot_value(World& world, Role role, const Word& offset)
+{
+    world.state(role, offset <= 0xffff, "a slot has 16 bits");
+}
+
+template <class World>
+auto any_slot_value(World& world)
+{
+    const auto offset = world.any();
+    slot_value(world, Role::relied_on, offset);
+    return offset;
+}
+
+// A vtable's length has 16 bits, and so has no place for more slots.
+template <class World>
+auto any_slot_number(World& world)
+{
+    const auto k = world.any();
+    world.state(Role::relied_on, k < 0x8000, "a slot number is below 2^15");
+    return k;
+}
+
+template <class World, class Word>
+void opened_body(World& world, Role role, const Word& payload)
+{
+    world.state(role, wide(payload) <= wide(world.input().length), "the payload starts inside or at the end");
+}
+
+template <class World, class Word>
+void fitting_payload(World& world, Role role, const Word& payload, const Word& count, u32 width)
+{
+    world.state(role, wide(payload) + wide(count) * width <= wide(world.input().length), "the payload lies inside");
+}
+
+template <class World, class Word>
+auto cell_lies_inside(World& world, const View<World>& view, const Word& offset)
+{
+    return wide(view.table) + wide(offset) + cell_bytes <= wide(world.input().length);
+}
+
+// Where a cell leads to, without a wrap.
+template <class World, class Number>
+auto target_of(World& world, const Number& cell)
+{
+    return cell + wide(world.input().template content<u32>(cell));
+}
+
+// ---- the contracts ----
+
+template <class Reader>
+struct RootTable {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto table = Reader::root_table(in);
+        world.state(Role::promised, table == in.template content<u32>(0), "the root is the first word");
+        return 0;
+    }
+};
+
+// For any table position at all.
+template <class Reader>
+struct OpenTable {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto table = world.any();
+        View<World> view{};
+        const TableFault fault = Reader::open_table(in, table, view);
+
+        const auto length = wide(in.length);
+        const auto vtable = table - in.template content<u32>(wide(table));   // modulo 2^32, as the format says
+        const auto vtable_length = in.template content<u16>(wide(vtable));
+        const auto table_legal = (wide(table) >= 4) & (wide(table) + 4 <= length);
+        const auto vtable_legal = (wide(vtable) >= 4) & (wide(vtable) + 4 <= length);
+        const auto vtable_whole = wide(vtable) + wide(vtable_length) <= length;
+        world.state(Role::promised, (fault == TableFault::table_position) == !table_legal, "table position");
+        world.state(Role::promised, (fault == TableFault::vtable_position) == (table_legal & !vtable_legal), "vtable position");
+        world.state(Role::promised, (fault == TableFault::vtable_length) == (table_legal & vtable_legal & !vtable_whole),
+                    "vtable length");
+
+        // The log of a fault prints these.
+        world.state(Role::promised, view.table == table, "the view has the table");
+        if (fault == TableFault::vtable_length || fault == TableFault::none) {
+            world.state(Role::promised, view.vtable == vtable, "the view has the vtable");
+            world.state(Role::promised, view.vtable_length == vtable_length, "the view has the vtable's length");
+        }
+        if (fault == TableFault::none)
+            opened_view(world, Role::promised, view);
+        return static_cast<int>(fault);
+    }
+};
+
+template <class Reader>
+struct SlotOffset {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const View<World> view = any_opened_view(world);
+        const auto k = any_slot_number(world);
+        const auto offset = Reader::slot_offset(in, view, k);
+        slot_value(world, Role::promised, offset);
+        if (wide(view.vtable_length) > wide(k) * 2 + 5) {
+            const auto written = in.template content<u16>(wide(view.vtable) + wide(k) * 2 + 4);
+            world.state(Role::promised, offset == written, "a slot inside the vtable is what stands there");
+            return 1;
+        }
+        world.state(Role::promised, offset == 0, "a slot behind the vtable is absent");
+        return 0;
+    }
+};
+
+template <class T>
+struct ScalarOf {
+    template <class Reader>
+    struct Read {
+        template <class World>
+        int operator()(World& world) const
+        {
+            const auto in = world.input();
+            const View<World> view = any_opened_view(world);
+            const auto offset = any_slot_value(world);
+            const bool accepted = Reader::template read_scalar<T>(in, view, offset, nullptr);
+            const auto fits = wide(view.table) + wide(offset) + sizeof(T) <= wide(in.length);
+            world.state(Role::promised, accepted == fits, "a scalar is read if and only if it lies inside");
+            return accepted;
+        }
+    };
+};
+
+template <class Reader>
+struct OpenBody {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const View<World> view = any_opened_view(world);
+        const auto offset = any_slot_value(world);
+        const auto payload_before = world.any(), count_before = world.any();
+        auto payload = payload_before, count = count_before;
+        const bool accepted = Reader::open_body(in, view, offset, payload, count);
+
+        const auto cell_fits = cell_lies_inside(world, view, offset);
+        const auto body = target_of(world, wide(view.table) + wide(offset));
+        world.state(Role::promised, accepted == (cell_fits & (body + count_bytes <= wide(in.length))),
+                    "a body is opened if and only if its cell and its count lie inside");
+        if (!accepted) {
+            world.state(Role::promised, (payload == payload_before) & (count == count_before), "a refusal writes nothing");
+            return 0;
+        }
+        world.state(Role::promised, wide(payload) == body + count_bytes, "the payload is behind the count");
+        world.state(Role::promised, count == in.template content<u32>(body), "the count is what stands there");
+        opened_body(world, Role::promised, payload);
+        return 1;
+    }
+};
+
+template <u32 width>
+struct ItemsOf {
+    template <class Reader>
+    struct Fit {
+        template <class World>
+        int operator()(World& world) const
+        {
+            const auto in = world.input();
+            const auto payload = world.any(), count = world.any();
+            opened_body(world, Role::relied_on, payload);
+            const bool accepted = Reader::payload_fits(in, payload, count, width);
+            const auto fits = wide(payload) + wide(count) * width <= wide(in.length);
+            world.state(Role::promised, accepted == fits, "a payload is accepted if and only if it lies inside");
+            if (!accepted)
+                return 0;
+            fitting_payload(world, Role::promised, payload, count, width);
+            in.touch(wide(payload), wide(count) * width);   // what the decoder copies of a text or a block
+            world.state(Role::promised, wide(count) * width < 0xffffffff, "a NUL more does not wrap");
+            return 1;
+        }
+    };
+};
+
+// For any number of elements that the record has.
+template <class T>
+struct ArrayOf {
+    template <class Reader>
+    struct Read {
+        template <class World>
+        int operator()(World& world) const
+        {
+            const auto in = world.input();
+            const View<World> view = any_opened_view(world);
+            const auto offset = any_slot_value(world);
+            const auto elements = world.any();
+            const bool accepted = Reader::template read_array<T>(in, view, offset, elements, nullptr);
+
+            const auto cell_fits = cell_lies_inside(world, view, offset);
+            const auto body = target_of(world, wide(view.table) + wide(offset));
+            const auto count = in.template content<u32>(body);
+            const auto fits = body + count_bytes + wide(elements) * sizeof(T) <= wide(in.length);
+            world.state(Role::promised, accepted == (cell_fits & fits & (count == elements)),
+                        "an array is read if and only if its count is exact and it lies inside");
+            return accepted;
+        }
+    };
+};
+
+template <class World, class Word>
+int follow(World& world, bool accepted, const decltype(wide(Word()))& cell, const Word& before, const Word& table)
+{
+    if (!accepted) {
+        world.state(Role::promised, table == before, "a refusal writes nothing");
+        return 0;
+    }
+    world.state(Role::promised, wide(table) == target_of(world, cell), "the table is where the cell leads to");
+    world.state(Role::promised, wide(table) >= cell, "the table is not in front of its cell");
+    return 1;
+}
+
+template <class Reader>
+struct NestedTable {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const View<World> view = any_opened_view(world);
+        const auto offset = any_slot_value(world);
+        const auto before = world.any();
+        auto table = before;
+        const bool accepted = Reader::nested_table(in, view, offset, table);
+        const auto cell = wide(view.table) + wide(offset);
+        world.state(Role::promised,
+                    accepted == (cell_lies_inside(world, view, offset) & (target_of(world, cell) <= 0xffffffff)),
+                    "a nested table is found if and only if its cell lies inside and leads to a position");
+        return follow(world, accepted, cell, before, table);
+    }
+};
+
+template <class Reader>
+struct ElementTable {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto cells = world.any(), count = world.any(), i = world.any();
+        fitting_payload(world, Role::relied_on, cells, count, cell_bytes);
+        world.state(Role::relied_on, i < count, "an element of the vector");
+        const auto before = world.any();
+        auto table = before;
+        const bool accepted = Reader::element_table(in, cells, i, table);
+        const auto cell = wide(cells) + wide(i) * 4;
+        world.state(Role::promised, accepted == (target_of(world, cell) <= 0xffffffff),
+                    "an element is found if and only if its cell leads to a position");
+        return follow(world, accepted, cell, before, table);
+    }
+};
+
+// ---- all of them, as the decoder calls them ----
+
+// From the root to any field of any kind, through a nested table or an element if there is one. Relies on nothing but the
+// length, and a counterexample is a byte string that somebody could send.
+template <class Reader>
+struct Message {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        return table(world, in, Reader::root_table(in), 1);
+    }
+
+private:
+    template <class World, class Word>
+    static int table(World& world, const typename World::In& in, const Word& position, int deeper)
+    {
+        View<World> view{};
+        if (Reader::open_table(in, position, view) != TableFault::none)
+            return 0;
+        const auto offset = Reader::slot_offset(in, view, any_slot_number(world));
+        if (offset == 0)
+            return 1;
+        const auto kind = world.any();
+        if (kind == 0)
+            return 2 + Reader::template read_scalar<u8>(in, view, offset, nullptr);
+        if (kind == 1)
+            return 4 + Reader::template read_scalar<u16>(in, view, offset, nullptr);
+        if (kind == 2)
+            return 6 + Reader::template read_scalar<u32>(in, view, offset, nullptr);
+        if (kind == 3)
+            return 8 + Reader::template read_scalar<u64>(in, view, offset, nullptr);
+        if (kind == 4)
+            return 10 + Reader::template read_array<u8>(in, view, offset, world.any(), nullptr);
+        if (kind == 5)
+            return 12 + Reader::template read_array<u32>(in, view, offset, world.any(), nullptr);
+        if (kind == 6) {
+            Word nested{};
+            if (!Reader::nested_table(in, view, offset, nested) || deeper == 0)
+                return 14;
+            return 20 + table(world, in, nested, deeper - 1);
+        }
+        Word payload{}, count{};
+        if (!Reader::open_body(in, view, offset, payload, count))
+            return 15;
+        if (kind == 7) {
+            if (!Reader::payload_fits(in, payload, count, 1))
+                return 16;
+            in.touch(wide(payload), wide(count));
+            return 17;
+        }
+        if (!Reader::payload_fits(in, payload, count, cell_bytes))
+            return 18;
+        const auto i = world.any();
+        if (i >= count)
+            return 19;
+        Word element{};
+        if (!Reader::element_table(in, payload, i, element) || deeper == 0)
+            return 14;
+        return 40 + table(world, in, element, deeper - 1);
+    }
+};
+
+}   // namespace kesto::proof
