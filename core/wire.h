@@ -121,7 +121,7 @@ template <class In>
 
 // The offset of slot `k` from its table, 0 when the field is absent. An odd vtable length is legal.
 template <class In>
-inline typename In::Word slot_offset(const In& in, const TableView<In>& view, u32 k)
+inline typename In::Word slot_offset(const In& in, const TableView<In>& view, typename In::Word k)
 {
     using Word = typename In::Word;
     if (view.vtable_length < vtable_head_bytes + slot_bytes * (k + 1))
@@ -171,8 +171,8 @@ template <class In>
 }
 
 template <class T, class In>
-[[nodiscard]] inline bool read_array(const In& in, const TableView<In>& view, typename In::Word offset, u32 elements,
-                                     u8* field)
+[[nodiscard]] inline bool read_array(const In& in, const TableView<In>& view, typename In::Word offset,
+                                     typename In::Word elements, u8* field)
 {
     typename In::Word payload{}, count{};
     if (!open_body(in, view, offset, payload, count))
