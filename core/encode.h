@@ -151,7 +151,7 @@ struct TableWriter {
     {
         if constexpr (Slot<K>::kind == Kind::scalar) {
             const auto value = field_value<typename Slot<K>::Value>(field<K>());
-            if (value != 0) {
+            if (value != 0) [[likely]] {
                 store(table + at, value);
                 slots.template set<K>(at);
                 at += sizeof value;
