@@ -121,7 +121,7 @@ template <class L, u32 K>
 [[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const u8* slots, u8* record)
 {
     using Slot = typename L::template Slot<K>;
-    const u32 offset = load<u16>(slots + slot_bytes * K);
+    const u32 offset = load<u16>(slots + std::size_t{slot_bytes} * K);
     if (offset == 0) [[unlikely]]
         return true;   // absent: the record is clear already
     u8* const field = record + L::record_offset[K];
@@ -153,7 +153,7 @@ template <class L>
 bool decode_slots(const Frame& shared_frame, const u8* slots, u8* record)
 {
     const Frame frame = shared_frame;   // held in registers: nobody else's stores can change a copy
-    return each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { return decode_slot<L, K>(frame, slots, record); });
+    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, slots, record); });
 }
 
 // The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.

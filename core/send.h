@@ -19,7 +19,7 @@ struct LayoutEncoder {
 template <class L>
 constexpr LayoutEncoder layout_encoder = [] {
     LayoutEncoder made{measure_message<L>, write_message<L>, nullptr, 0, L::record_size};
-    if constexpr (HeapFree<L>) {
+    if constexpr (!L::has_heap_parts) {
         made.write_fixed = write_fixed<L>;
         made.fixed_length = L::fixed_length;
     }

@@ -18,9 +18,10 @@ struct Sending {
     static constexpr auto nested = [] {
         std::array<NestedEncoder, Slots::named> list{};
         u32 next = 0;
-        Slots::each_named([&]<class Named, Kind kind>() {
+        Slots::each_named([&](auto slot) {
+            using Named = typename decltype(slot)::Message;
             NestedEncoder& entry = list[next++];
-            if constexpr (kind == Kind::vector)
+            if constexpr (slot.kind == Kind::vector)
                 entry = {measure_elements<typename Named::Layout>, write_elements<typename Named::Layout>, nullptr};
             entry.nested = Sending<Named, unit>::nested.data();
         });

@@ -143,7 +143,7 @@ inline void fill_up_slots(const In& in, const TableView<In>& view, u32 slots, u8
         u16 offset = 0;
         if (holds_slots(view, k + 1))
             in.template copy_value_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k, &offset);
-        store(copy + slot_bytes * k, offset);
+        store(copy + std::size_t{slot_bytes} * k, offset);
     }
 }
 
