@@ -60,18 +60,25 @@ struct Meaning<Vector<Message>> {
     using Named = Message;
 };
 
+// A message that stands in another one, and how.
+template <class NamedMessage, Kind slot_kind>
+struct NamedSlot {
+    using Message = NamedMessage;
+    static constexpr Kind kind = slot_kind;
+};
+
 template <class... Slots>
 struct SlotList {
     using Layout = kesto::Layout<typename Meaning<Slots>::Slot...>;
 
-    // Calls visit.template operator()<Message, kind>() for each slot that names a message, in slot order.
+    // Calls visit(NamedSlot) for each slot that names a message, in slot order.
     template <class Visit>
     static constexpr void each_named(Visit&& visit)
     {
         (
             [&] {
                 if constexpr (Meaning<Slots>::Slot::kind == Kind::table || Meaning<Slots>::Slot::kind == Kind::vector)
-                    visit.template operator()<typename Meaning<Slots>::Named, Meaning<Slots>::Slot::kind>();
+                    visit(NamedSlot<typename Meaning<Slots>::Named, Meaning<Slots>::Slot::kind>());
             }(),
             ...);
     }

@@ -162,9 +162,30 @@ void free_unpacked(void* record, const Decoder& decoder)
         release_record(decoder, static_cast<u8*>(record));
 }
 
-void refuse_parameters(const Decoder& decoder, const u8* bytes, u32 length, const void* record)
+bool open_message(Frame& frame, const u8* bytes, u32 length, const void* record, const Decoder& decoder)
 {
-    log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
+    // As a signed number, so that a length of 2^31 and more is refused too.
+    constexpr auto least = static_cast<std::int32_t>(least_length);
+    if (bytes == nullptr || record == nullptr || static_cast<std::int32_t>(length) < least) [[unlikely]] {
+        log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
+        return false;
+    }
+    frame = {{bytes, length}, {}, &decoder, decoder.unpack_routine};
+    const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
+    if (fault != TableFault::none) [[unlikely]] {
+        refuse_table(frame, fault);
+        return false;
+    }
+    ensure_memory_services(*decoder.unit);
+    return true;
+}
+
+bool decode_short_vtable(const Frame& frame, u32 slots, u8* record, DecodeSlots decode)
+{
+    u8 filled_up[slot_bytes * most_slots];   // the slots that are missing are absent
+    for (u32 k = 0; k < slots; ++k)
+        store(filled_up + std::size_t{slot_bytes} * k, static_cast<u16>(slot_offset(frame.in, frame.view, k)));
+    return decode(frame, filled_up, record);
 }
 
 void refuse_table(const Frame& frame, TableFault fault)

@@ -61,13 +61,32 @@ void release_record(const Decoder& decoder, u8* record);
 // The body of X_free__unpacked for a message with heap parts.
 void free_unpacked(void* record, const Decoder& decoder);
 
-// Reports why a byte string was refused before the record was touched.
-[[gnu::cold]] void refuse_parameters(const Decoder& decoder, const u8* bytes, u32 length, const void* record);
+// The tests that come before a record is touched, each with its log line. False when one of them failed; else `frame` holds
+// the root table and the memory services are there.
+[[nodiscard]] bool open_message(Frame& frame, const u8* bytes, u32 length, const void* record, const Decoder& decoder);
+
+// Reports a table that was refused.
 [[gnu::cold]] void refuse_table(const Frame& frame, TableFault fault);
 
-// Shared by every message of one layout, as are the other templates that are not inlined.
+// Decodes all slots of the frame's table; `slots` are its vtable's, none missing.
+using DecodeSlots = bool (*)(const Frame& frame, const u8* slots, u8* record);
+
+constexpr u32 most_slots = 64;
+
+// The same for a vtable that holds fewer slots than the message.
+[[nodiscard, gnu::cold]] bool decode_short_vtable(const Frame& frame, u32 slots, u8* record, DecodeSlots decode);
+
 template <class L>
-[[nodiscard, gnu::noinline]] bool decode_slots(const Frame& frame, u8* record);
+bool decode_slots(const Frame& frame, const u8* slots, u8* record);
+
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool decode_table(const Frame& frame, u8* record)
+{
+    static_assert(L::slots <= most_slots);
+    if (!holds_slots(frame.view, L::slots)) [[unlikely]]
+        return decode_short_vtable(frame, L::slots, record, decode_slots<L>);
+    return decode_slots<L>(frame, slots_unchecked(frame.in, frame.view, L::slots), record);
+}
 
 template <class L>
 [[nodiscard]] bool decode_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
@@ -78,7 +97,7 @@ template <class L>
         refuse_table(frame, fault);
         return false;
     }
-    if (decode_slots<L>(frame, record))
+    if (decode_table<L>(frame, record)) [[likely]]
         return true;
     if constexpr (L::has_heap_parts)
         release_record(*message.decoder, record);
@@ -99,11 +118,11 @@ bool decode_elements(const Input& in, u32 cells, u32 count, u8* records, const N
 }
 
 template <class L, u32 K>
-[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const u8* slots, u8* record)
 {
     using Slot = typename L::template Slot<K>;
-    const u32 offset = slot_offset(frame.in, frame.view, K);
-    if (offset == 0)
+    const u32 offset = load<u16>(slots + std::size_t{slot_bytes} * K);
+    if (offset == 0) [[unlikely]]
         return true;   // absent: the record is clear already
     u8* const field = record + L::record_offset[K];
     if constexpr (Slot::kind == Kind::scalar) {
@@ -129,34 +148,25 @@ template <class L, u32 K>
     }
 }
 
+// Shared by every message of one layout, as are the other templates that are not inlined.
 template <class L>
-bool decode_slots(const Frame& shared_frame, u8* record)
+bool decode_slots(const Frame& shared_frame, const u8* slots, u8* record)
 {
     const Frame frame = shared_frame;   // held in registers: nobody else's stores can change a copy
-    return each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { return decode_slot<L, K>(frame, record); });
+    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, slots, record); });
 }
 
 // The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
 template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    // As a signed number, so that a length of 2^31 and more is refused too.
-    if (bytes == nullptr || record == nullptr || static_cast<std::int32_t>(length) < static_cast<std::int32_t>(least_length))
-        [[unlikely]] {
-        refuse_parameters(decoder, bytes, length, record);
-        return L::record_size;
-    }
-    Frame frame{{bytes, length}, {}, &decoder, decoder.unpack_routine};
-    const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
-    if (fault != TableFault::none) [[unlikely]] {
-        refuse_table(frame, fault);
-        return L::record_size;
-    }
-    ensure_memory_services(*decoder.unit);
-    clear_run<L::record_size>(record);
-    if (!decode_slots<L>(frame, record)) {
-        if constexpr (L::has_heap_parts)
-            release_record(decoder, record);
+    Frame frame;
+    if (open_message(frame, bytes, length, record, decoder)) [[likely]] {
+        clear_run<L::record_size>(record);
+        if (!decode_table<L>(frame, record)) {
+            if constexpr (L::has_heap_parts)
+                release_record(decoder, record);
+        }
     }
     return L::record_size;
 }

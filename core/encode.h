@@ -48,7 +48,8 @@ template <class L>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
     u64 size = L::empty_table;
-    const bool fits = each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
+    const bool fits = each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
@@ -121,7 +122,7 @@ struct SlotWords {
         for (u32 i = 0; i < N / in_word; ++i)
             store(slots + i * sizeof(Word), words[i]);
         for (u32 k = N / in_word * in_word; k < N; ++k)
-            store(slots + k * slot_bytes, static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
+            store(slots + std::size_t{slot_bytes} * k, static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
     }
 };
 
@@ -151,7 +152,7 @@ struct TableWriter {
     {
         if constexpr (Slot<K>::kind == Kind::scalar) {
             const auto value = field_value<typename Slot<K>::Value>(field<K>());
-            if (value != 0) {
+            if (value != 0) [[likely]] {
                 store(table + at, value);
                 slots.template set<K>(at);
                 at += sizeof value;
@@ -254,9 +255,9 @@ template <class L>
 u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     TableWriter<L> writer(vtable + L::vtable_bytes, record);
-    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template write_scalar<K>(); return true; });
-    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template reserve_cell<K>(); return true; });
-    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) { writer.template write_body<K>(); return true; });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template write_scalar<k>(); return true; });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template reserve_cell<k>(); return true; });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template write_body<k>(); return true; });
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
@@ -264,8 +265,8 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     store(writer.table, u32{L::vtable_bytes});
 
     u8* end = writer.table + writer.at;
-    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
-        end = writer.template write_beneath<K>(end, nested);
+    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        end = writer.template write_beneath<k>(end, nested);
         return true;
     });
     return end;

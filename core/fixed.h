@@ -37,10 +37,11 @@ constexpr void place_fixed(u8* bytes)
     put(table, root_bytes - L::fixed_vtable, 4);
     put(vtable, L::vtable_bytes, 2);
     put(vtable + 2, L::fixed_table_bytes, 2);
-    each_slot<L>([&]<u32 K>() {
+    each_slot<L>([&](auto k) {
+        constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         u8* const field = table + L::fixed_offset[K];
-        put(vtable + vtable_head_bytes + slot_bytes * K, L::fixed_offset[K], 2);
+        put(vtable + vtable_head_bytes + std::size_t{slot_bytes} * K, L::fixed_offset[K], 2);
         if constexpr (Slot::kind == Kind::array) {
             put(field, cell_bytes, 4);
             put(field + cell_bytes, Slot::count, 4);
@@ -55,7 +56,8 @@ constexpr void place_fixed(u8* bytes)
 template <class L, class Visit>
 constexpr void each_fixed_field(Visit&& visit, u32 record = 0, u32 root = 0)
 {
-    each_slot<L>([&]<u32 K>() {
+    each_slot<L>([&](auto k) {
+        constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         const u32 from = record + L::record_offset[K];
         const u32 at = root + root_bytes + L::fixed_offset[K];
@@ -95,7 +97,7 @@ constexpr void each_fixed_run(Visit&& visit)
 
 }   // namespace detail
 
-template <HeapFree L>
+template <class L>
 struct FixedForm {
     static constexpr u32 length = L::fixed_length;
     static_assert(length <= fixed_buffer_bytes);
@@ -121,25 +123,24 @@ struct FixedForm {
 };
 
 // Writes all L::fixed_length bytes.
-template <HeapFree L>
+template <class L>
 void write_fixed(u8* buffer, const u8* record)
 {
     using Form = FixedForm<L>;
     copy_run<Form::length>(buffer, Form::image.data());
-    [&]<std::size_t... I>(std::index_sequence<I...>) {
-        const auto copy = [&]<u32 R>() {
-            constexpr Run run = Form::runs[R];
-            u8* const to = buffer + run.position;
-            const u8* const from = record + run.record_offset;
-            if constexpr (host_has_wire_order || run.width == 1)
-                copy_run<run.bytes>(to, from);
-            else
-                for (u32 i = 0; i < run.bytes; i += run.width)
-                    for (u32 j = 0; j < run.width; ++j)
-                        to[i + j] = from[i + run.width - 1 - j];
-        };
-        (copy.template operator()<static_cast<u32>(I)>(), ...);
-    }(std::make_index_sequence<Form::run_count>());
+    const auto copy = [&](auto r) {
+        constexpr Run run = Form::runs[r];
+        u8* const to = buffer + run.position;
+        const u8* const from = record + run.record_offset;
+        if constexpr (host_has_wire_order || run.width == 1)
+            copy_run<run.bytes>(to, from);
+        else
+            for (u32 i = 0; i < run.bytes; i += run.width)
+                for (u32 j = 0; j < run.width; ++j)
+                    to[i + j] = from[i + run.width - 1 - j];
+        return true;
+    };
+    detail::each_number(copy, std::make_integer_sequence<u32, Form::run_count>());
 }
 
 }   // namespace kesto

@@ -9,7 +9,7 @@
 #include <cstddef>
 #include <tuple>
 
-#include "core/wire.h"
+#include "core/run.h"
 
 namespace kesto {
 
@@ -137,16 +137,11 @@ struct Layout {
     static constexpr u32 fixed_length = has_heap_parts ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
 };
 
-template <class L>
-concept HeapFree = !L::has_heap_parts;
-
-// Calls visit.template operator()<K>() for each slot; stops and gives false when one of the calls does.
+// Calls visit(k) for each slot, k being its number as a constant; stops and gives false when one of the calls does.
 template <class L, class Visit>
 [[gnu::always_inline]] constexpr bool each_slot(Visit&& visit)
 {
-    return [&]<std::size_t... K>(std::index_sequence<K...>) __attribute__((always_inline)) {
-        return (visit.template operator()<static_cast<u32>(K)>() && ...);
-    }(std::make_index_sequence<L::slots>());
+    return detail::each_number(visit, std::make_integer_sequence<u32, L::slots>());
 }
 
 }   // namespace kesto

@@ -23,9 +23,10 @@ struct Receiving {
     static constexpr auto nested = [] {
         std::array<NestedDecoder, Message::Slots::named> list{};
         u32 next = 0;
-        Message::Slots::each_named([&]<class Named, Kind kind>() {
+        Message::Slots::each_named([&](auto slot) {
+            using Named = typename decltype(slot)::Message;
             list[next++] = {&Receiving<Named, unit>::decoder, Receiving<Named, unit>::nested_routine.data(),
-                            kind == Kind::vector ? &decode_elements<typename Named::Layout> : nullptr};
+                            slot.kind == Kind::vector ? &decode_elements<typename Named::Layout> : nullptr};
         });
         return list;
     }();
@@ -33,7 +34,8 @@ struct Receiving {
     template <class Visit>
     static constexpr void each_heap_field(Visit&& visit)
     {
-        each_slot<L>([&]<u32 K>() {
+        each_slot<L>([&](auto k) {
+            constexpr u32 K = k;
             using Slot = typename L::template Slot<K>;
             if constexpr (Slot::fixed_bytes == 0)
                 visit(HeapField{Slot::kind, static_cast<u8>(L::nested_before(K)), static_cast<u16>(L::record_offset[K])});

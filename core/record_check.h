@@ -29,7 +29,16 @@ struct FieldOffset {
     KESTO_FIELD_NAME(tens##6, f##tens##6) KESTO_FIELD_NAME(tens##7, f##tens##7)        \
     KESTO_FIELD_NAME(tens##8, f##tens##8) KESTO_FIELD_NAME(tens##9, f##tens##9)
 
-KESTO_TEN_FIELD_NAMES()
+KESTO_FIELD_NAME(0, f0)
+KESTO_FIELD_NAME(1, f1)
+KESTO_FIELD_NAME(2, f2)
+KESTO_FIELD_NAME(3, f3)
+KESTO_FIELD_NAME(4, f4)
+KESTO_FIELD_NAME(5, f5)
+KESTO_FIELD_NAME(6, f6)
+KESTO_FIELD_NAME(7, f7)
+KESTO_FIELD_NAME(8, f8)
+KESTO_FIELD_NAME(9, f9)
 KESTO_TEN_FIELD_NAMES(1)
 KESTO_TEN_FIELD_NAMES(2)
 KESTO_TEN_FIELD_NAMES(3)
@@ -50,7 +59,7 @@ constexpr bool record_matches()
 {
     return sizeof(Record) == L::record_size && alignof(Record) == L::record_align &&
            FieldOffset<Record, L::slots>::value == no_field &&
-           each_slot<L>([]<u32 K>() { return FieldOffset<Record, K>::value == L::record_offset[K]; });
+           each_slot<L>([](auto k) { return FieldOffset<Record, k>::value == L::record_offset[k]; });
 }
 
 }   // namespace kesto::detail

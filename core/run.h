@@ -12,6 +12,13 @@ namespace kesto {
 
 namespace detail {
 
+// Calls visit(i) for each number, as a constant; stops and gives false when one of the calls does.
+template <class Visit, u32... I>
+[[gnu::always_inline]] constexpr bool each_number(Visit&& visit, std::integer_sequence<u32, I...>)
+{
+    return (visit(std::integral_constant<u32, I>()) && ...);
+}
+
 constexpr u32 move_bytes = 16;
 
 // The moves of a run of N bytes: whole ones, then one that ends with the run and overlaps the one before it.
@@ -19,9 +26,7 @@ template <u32 N, class Move>
 inline void each_move(Move&& move)
 {
     static_assert(N >= move_bytes);
-    [&]<std::size_t... I>(std::index_sequence<I...>) {
-        (move(static_cast<u32>(I) * move_bytes), ...);
-    }(std::make_index_sequence<N / move_bytes>());
+    each_number([&](auto i) { move(u32{i} * move_bytes); return true; }, std::make_integer_sequence<u32, N / move_bytes>());
     if constexpr (N % move_bytes != 0)
         move(N - move_bytes);
 }

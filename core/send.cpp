@@ -6,13 +6,20 @@ namespace kesto {
 
 namespace {
 
+constexpr int failed = -1;
 constexpr u32 pool_bytes = 0x10000;   // all byte strings of a compact batch
+
+// Hands items to MESH; a destination of 0 means none.
+int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination)
+{
+    return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
+}
 
 // Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length 0,
 // the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
 void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
 {
-    u8* const end = encoder.write(buffer, record, encoder.nested);
+    u8* const end = encoder.layout->write(buffer, record, encoder.nested);
     std::memset(end, 0, static_cast<std::size_t>(buffer + size - end));
 }
 
@@ -47,7 +54,7 @@ struct Batch {
 {
     if (used == pool_bytes)
         return false;
-    const u32 size = encoder.measure(record, encoder.nested);
+    const u32 size = encoder.layout->measure(record, encoder.nested);
     if (size == 0 || size > pool_bytes - used)
         return false;
     u8* const at = batch.data + used;
@@ -57,11 +64,18 @@ struct Batch {
     return true;
 }
 
-}   // namespace
-
-int send_single_compact(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
+int send_single_fixed(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
 {
-    const u32 size = encoder.measure(record, encoder.nested);
+    u8 buffer[fixed_buffer_bytes];
+    ensure_memory_services(*encoder.unit);
+    encoder.layout->write_fixed(buffer, record);
+    const MeshSendItem item{buffer, encoder.id, encoder.layout->fixed_length};
+    return hand_over(channel, &item, 1, destination);
+}
+
+int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+{
+    const u32 size = encoder.layout->measure(record, encoder.nested);
     if (size == 0)
         return failed;
     u8* const buffer = static_cast<u8*>(std::malloc(size));
@@ -78,13 +92,13 @@ int send_single_compact(u32 channel, const u8* record, u32 /*unused*/, u32 desti
 int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
 {
     Batch batch;
-    if (!open_batch(u64{count} * encoder.fixed_length, count, batch))
+    if (!open_batch(u64{count} * encoder.layout->fixed_length, count, batch))
         return failed;
     ensure_memory_services(*encoder.unit);
     for (u32 i = 0; i < count; ++i) {
-        u8* const at = batch.data + std::size_t{i} * encoder.fixed_length;
-        encoder.write_fixed(at, records + std::size_t{i} * encoder.record_size);
-        batch.items[i] = {at, encoder.id, encoder.fixed_length};
+        u8* const at = batch.data + std::size_t{i} * encoder.layout->fixed_length;
+        encoder.layout->write_fixed(at, records + std::size_t{i} * encoder.layout->record_size);
+        batch.items[i] = {at, encoder.id, encoder.layout->fixed_length};
     }
     const int result = hand_over(channel, batch.items, count, destination);
     std::free(batch.data);
@@ -100,19 +114,51 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
     bool all = true;
     u32 used = 0;
     for (u32 i = 0; i < count && all; ++i)
-        all = add_to_pool(batch, i, used, records + std::size_t{i} * encoder.record_size, encoder);
+        all = add_to_pool(batch, i, used, records + std::size_t{i} * encoder.layout->record_size, encoder);
     const int result = all ? hand_over(channel, batch.items, count, destination) : failed;
     std::free(batch.data);
     return result;
 }
 
-int send_compact(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+}   // namespace
+
+int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+{
+    const u32 size = encoder.layout->measure(record, encoder.nested);
+    if (size == 0 || *length < size)
+        return failed;
+    if (buffer == nullptr) [[unlikely]] {
+        // required: a log line, and yet success with the size
+        log_pack_parameters(*encoder.unit, encoder.pack_routine, buffer, *length, record);
+    } else {
+        ensure_memory_services(*encoder.unit);
+        encoder.layout->write(buffer, record, encoder.nested);
+    }
+    *length = size;
+    return 0;
+}
+
+int send_single(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
+{
+    if (encoder.layout->write_fixed != nullptr)
+        return send_single_fixed(channel, record, destination, encoder);
+    return send_single_compact(channel, record, destination, encoder);
+}
+
+int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+{
+    if (encoder.layout->write_fixed != nullptr)
+        return send_batch_fixed(channel, records, count, destination, encoder);
+    return send_batch_compact(channel, records, count, destination, encoder);
+}
+
+int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
 {
     if (count == 1)
-        return send_single_compact(channel, records, 0, destination, encoder);
+        return send_single(channel, records, 0, destination, encoder);
     if (count == 0)
         return failed;
-    return send_batch_compact(channel, records, count, destination, encoder);
+    return send_batch(channel, records, count, destination, encoder);
 }
 
 }   // namespace kesto

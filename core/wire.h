@@ -64,6 +64,9 @@ struct Input {
     template <class T>
     u32 load_unchecked(u32 at, u32 behind = 0) const { return load<T>(bytes + at + behind); }
 
+    // All n bytes lie inside.
+    const u8* bytes_unchecked(u32 at, u32 behind, u32 /*n*/) const { return bytes + at + behind; }
+
     template <class T>
     void copy_value_unchecked(u32 at, u32 behind, void* to) const
     {
@@ -119,14 +122,28 @@ template <class In>
     return TableFault::none;
 }
 
-// The offset of slot `k` from its table, 0 when the field is absent. An odd vtable length is legal.
+// Whether the vtable has as many slots. An odd length is legal.
+template <class In>
+inline bool holds_slots(const TableView<In>& view, typename In::Word slots)
+{
+    return static_cast<bool>(view.vtable_length >= vtable_head_bytes + slot_bytes * slots);
+}
+
+// The slots of a vtable that holds so many: for each the field's offset from the table, 0 when it is absent.
+template <class In>
+inline const u8* slots_unchecked(const In& in, const TableView<In>& view, typename In::Word slots)
+{
+    return in.bytes_unchecked(view.vtable, vtable_head_bytes, slot_bytes * slots);   // holds_slots
+}
+
+// Slot `k` of a vtable of any length.
 template <class In>
 inline typename In::Word slot_offset(const In& in, const TableView<In>& view, typename In::Word k)
 {
     using Word = typename In::Word;
-    if (view.vtable_length < vtable_head_bytes + slot_bytes * (k + 1))
+    if (!holds_slots(view, k + 1))
         return Word(0);
-    return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // inside the vtable
+    return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // holds_slots
 }
 
 // Whether the n bytes at `offset` behind the table's start lie inside. n is 8 at the most and an offset has 16 bits.
