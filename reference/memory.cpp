@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 #include <cstring>
+#include <cstring>
 
 #include "reference/text.h"
 #include "reference/view.h"
@@ -163,9 +164,15 @@ RecordMemory::~RecordMemory()
 u8* RecordMemory::block(std::size_t size)
 {
     // One byte at least, for a pointer beside a length of 0 must not be null.
-    void* const block = std::calloc(size == 0 ? 1 : size, 1);
+    // What no field covers is as malloc gave it, or filled with something, so that its way into a byte string shows.
+    if (size == 0)
+        size = 1;
+    void* const block = std::malloc(size);
     if (block == nullptr)
         std::abort();
+#if !KESTO_MEMORY_SANITIZER
+    std::memset(block, 0x5A, size);
+#endif
     blocks_.push_back(block);
     return static_cast<u8*>(block);
 }
@@ -201,9 +208,11 @@ void RecordMemory::fill_heap_part(const Slot& slot, const Field& field, u8* at)
         for (std::size_t i = 0; i < field.records.size(); ++i)
             fill(field.records[i], content + stride * i);
     } else if (field.present) {
-        content = block(field.octets.size() + (slot.kind == Kind::string ? 1 : 0));   // cleared: the NUL is there
+        content = block(field.octets.size() + (slot.kind == Kind::string ? 1 : 0));
         for (std::size_t i = 0; i < field.octets.size(); ++i)
             content[i] = field.octets[i];
+        if (slot.kind == Kind::string)
+            content[field.octets.size()] = 0;
     }
     if (slot.kind == Kind::string) {
         store(at, content);
