@@ -109,7 +109,9 @@ struct SlotWords {
     using Word = std::conditional_t<sizeof(void*) == 8, u64, u32>;
     static constexpr u32 in_word = sizeof(Word) / slot_bytes;
 
-    std::array<Word, (N + in_word - 1) / in_word> words{};
+    std::array<Word, (N + in_word - 1) / in_word> words;
+
+    [[gnu::always_inline]] SlotWords() { clear_run<sizeof words>(words.data()); }
 
     template <u32 K>
     [[gnu::always_inline]] void set(u32 offset)
@@ -136,7 +138,7 @@ struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    SlotWords<L::slots> slots{};
+    SlotWords<L::slots> slots;
     std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 
     [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_) : table(table_), record(record_) {}
