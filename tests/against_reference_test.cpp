@@ -6,6 +6,7 @@
 #include "reference/generate.h"
 #include "reference/strange.h"
 #include "tests/support/every_message.h"
+#include "tests/support/services_double.h"
 
 namespace kesto::tests {
 
@@ -99,6 +100,34 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
         }
         ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes));
     }
+}
+
+// Null pointers and lengths below 4 or, as signed numbers, negative: one log line, and no look at what the others lead to.
+TEST_P(EveryMessage, refused_parameters_touch_nothing)
+{
+    const ByteString bytes = reference::compact_form(reference::zero_record(message()));
+    std::vector<std::uint8_t> record(library().record_size, 0xC3);
+    reference::Outcome outcome;
+    const auto expect_refused = [&](const std::uint8_t* buffer, std::uint32_t length, void* rec) {
+        reference::DecodeOptions options;
+        options.record_null = rec == nullptr;
+        reference::decode(message(), buffer, length, options, outcome);
+        ASSERT_TRUE(outcome.untouched);
+        services().start();
+        EXPECT_EQ(library().unpack(buffer, length, rec), record.size());
+        EXPECT_EQ(services().difference(outcome.trace), "");
+        EXPECT_EQ(record, std::vector<std::uint8_t>(record.size(), 0xC3));
+    };
+    const auto length = static_cast<std::uint32_t>(bytes.size());
+    expect_refused(nullptr, length, record.data());
+    expect_refused(bytes.data(), length, nullptr);
+    expect_refused(nullptr, 0, nullptr);
+    for (const std::uint32_t refused : {0u, 3u, 0x80000000u, 0xFFFFFFFFu})
+        expect_refused(bytes.data(), refused, record.data());
+
+    services().start();
+    library().free_unpacked(nullptr);
+    EXPECT_EQ(services().difference({}), "");
 }
 
 // Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left behind.

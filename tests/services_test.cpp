@@ -86,7 +86,7 @@ public:
             failed_ = true;
         }
     }
-    [[noreturn]] void end() const { std::_Exit(failed_ ? 1 : 0); }
+    [[noreturn]] void end() const { std::exit(failed_ ? 1 : 0); }
 
 private:
     bool failed_ = false;

@@ -1,0 +1,60 @@
+#!/usr/bin/env python3
+"""Line and branch coverage of core/: coverage.py BUILD, a build of preset `coverage` whose tests have run.
+
+Code that is compiled for many layouts counts as covered when it was for one of them. What is not covered must be listed in
+coverage_gaps.txt beside this script, with the reason why no test can get there. Ends with 1 when something is not listed.
+"""
+import collections
+import glob
+import json
+import os
+import subprocess
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+ROOT = os.path.dirname(os.path.dirname(HERE))
+
+build = os.path.abspath(sys.argv[1])
+lines = collections.defaultdict(int)              # (file, line) -> how often
+branches = collections.defaultdict(dict)          # (file, line) -> {(number of branches, index): how often}
+for data in sorted(glob.glob(build + "/CMakeFiles/ifit_codec.dir/**/*.gcda", recursive=True)):
+    report = subprocess.run(["gcov", "--branch-probabilities", "--json-format", "--stdout", data], cwd=build,
+                            capture_output=True, check=True).stdout
+    for part in report.decode().splitlines():
+        for file in json.loads(part)["files"]:
+            name = os.path.relpath(os.path.join(build, file["file"]), ROOT)
+            if not name.startswith("core/"):
+                continue
+            for line in file["lines"]:
+                at = (name, line["line_number"])
+                lines[at] += line["count"]
+                taken = [branch for branch in line["branches"] if not branch["throw"]]
+                for index, branch in enumerate(taken):
+                    key = (len(taken), index)
+                    branches[at][key] = branches[at].get(key, 0) + branch["count"]
+
+listed = {}
+with open(os.path.join(HERE, "coverage_gaps.txt")) as file:
+    for block in file.read().split("\n\n"):
+        if block.strip() and not block.startswith("#"):
+            code, reason = block.strip().split("\n", 1)
+            listed[code.strip()] = reason
+
+unexplained = 0
+gaps = 0
+number = covered = 0
+for at in sorted(lines):
+    source = open(os.path.join(ROOT, at[0])).read().split("\n")[at[1] - 1].strip()
+    never = [key for key, count in branches[at].items() if count == 0]
+    number += len(branches[at])
+    covered += len(branches[at]) - len(never)
+    if lines[at] == 0 or never:
+        gaps += 1
+        if source not in listed:
+            unexplained += 1
+            what = "line" if lines[at] == 0 else "%d of %d branches" % (len(never), len(branches[at]))
+            print("%s:%d: %s not covered: %s" % (at[0], at[1], what, source))
+executed = sum(1 for count in lines.values() if count)
+print("%d of %d lines, %d of %d branches of core/ covered; %d lines with a gap are explained, %d are not"
+      % (executed, len(lines), covered, number, gaps - unexplained, unexplained))
+sys.exit(1 if unexplained else 0)
