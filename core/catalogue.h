@@ -3,9 +3,10 @@
 //   MESSAGE(name, id, slot, slot, ...)
 //   NAMED_FIELDS(name, field, field, ...)      for the rare message whose record has other names than f0, f1, ...
 //
-// A slot is U8, U16, U32, U64, String, Bytes, U8Array<N>, U32Array<N>, Table<message> or Vector<message>; the message
-// named has its line further up. Whoever includes a catalogue defines the two words first; KESTO_TAG below is the
-// MESSAGE that turns each line into a type of the message's name, to which the slots of later lines refer.
+// A slot is U8, U16, U32, U64, String, Bytes, U8Array<N>, U32Array<N>, Table<message>, LenientTable<message> or
+// Vector<message>; the message named has its line further up. Whoever includes a catalogue defines the two words first;
+// KESTO_TAG below is the MESSAGE that turns each line into a type of the message's name, to which the slots of later
+// lines refer.
 #pragma once
 
 #include "core/layout.h"
@@ -26,14 +27,17 @@ template <u32 N>
 using U32Array = Array<u32, N>;
 
 template <class Message>
-struct Table {};
+struct Table {
+};
 
 // A table whose refusal does not end the read of the message around it.
 template <class Message>
-struct LenientTable {};
+struct LenientTable {
+};
 
 template <class Message>
-struct Vector {};
+struct Vector {
+};
 
 // What a slot of the catalogue is to a layout, and which message it names.
 template <class S>
@@ -92,10 +96,10 @@ struct SlotList {
 #define NAMED_FIELDS(...)
 
 // The MESSAGE that makes the types.
-#define KESTO_TAG(message_name, message_id, ...)                      \
-    struct message_name {                                             \
-        static constexpr char name[] = #message_name;                 \
-        static constexpr ::kesto::u32 id = message_id;                \
-        using Slots = ::kesto::catalogue::SlotList<__VA_ARGS__>;      \
-        using Layout = Slots::Layout;                                 \
+#define KESTO_TAG(message_name, message_id, ...)                 \
+    struct message_name {                                        \
+        static constexpr char name[] = #message_name;            \
+        static constexpr ::kesto::u32 id = message_id;           \
+        using Slots = ::kesto::catalogue::SlotList<__VA_ARGS__>; \
+        using Layout = Slots::Layout;                            \
     };

@@ -143,15 +143,12 @@ void release_record(const Decoder& decoder, u8* record)
         case Kind::block:
             release_block(decoder, field + counted_pointer);   // likewise
             break;
-        case Kind::table:
-            release_record(*decoder.nested[heap.nested].decoder, field);
-            break;
+        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
         case Kind::vector:
             release_vector(decoder, *decoder.nested[heap.nested].decoder, field, load_count(field));
             break;
         case Kind::scalar:
-        case Kind::array:
-            break;
+        case Kind::array: break;
         }
     }
 }

@@ -1,8 +1,8 @@
 // From byte string to record.
 //
 // A template over the layout walks the slots; everything that does not depend on the layout is an ordinary function in
-// decode.cpp. Whatever goes wrong, the record stays safe to release: counts are stored first, pointers are null or own a
-// block.
+// decode.cpp. Whatever goes wrong, the record stays safe to release: counts are stored first, pointers are null or own
+// a block.
 #pragma once
 
 #include "core/layout.h"
@@ -23,11 +23,11 @@ struct HeapField {
 // What decoding and releasing need to know about one message beyond its layout.
 struct Decoder {
     Unit* unit;
-    const char* unpack_routine;          // the routine names that logs and memory services are given
+    const char* unpack_routine;   // the routine names that logs and memory services are given
     const char* free_routine;
-    const NestedDecoder* nested;         // one for each table and vector, in slot order
-    const HeapField* heap_fields;        // in slot order
-    u32 heap_field_count;                // 0 for a message without heap parts
+    const NestedDecoder* nested;    // one for each table and vector, in slot order
+    const HeapField* heap_fields;   // in slot order
+    u32 heap_field_count;           // 0 for a message without heap parts
     u32 record_size;
 };
 
@@ -36,8 +36,8 @@ using DecodeElements = bool (*)(const Input& in, u32 cells, u32 count, u8* recor
 // A message inside another one.
 struct NestedDecoder {
     const Decoder* decoder;
-    const char* routine;                 // its name as a nested decoder
-    DecodeElements decode_elements;      // null for a table
+    const char* routine;              // its name as a nested decoder
+    DecodeElements decode_elements;   // null for a table
 };
 
 // The table that is being decoded.
@@ -49,10 +49,10 @@ struct Frame {
 };
 
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
-[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);        // logs a failed allocation
-[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);       // logs a failed allocation
-[[nodiscard]] bool decode_bytes(const Frame& frame, u32 offset, u32 count, u8* field);    // an array of u8
-[[nodiscard]] bool decode_words(const Frame& frame, u32 offset, u32 count, u8* field);    // an array of u32
+[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);               // logs a failed allocation
+[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);              // logs a failed allocation
+[[nodiscard]] bool decode_bytes(const Frame& frame, u32 offset, u32 count, u8* field);   // an array of u8
+[[nodiscard]] bool decode_words(const Frame& frame, u32 offset, u32 count, u8* field);   // an array of u32
 [[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
 
 // Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
@@ -61,8 +61,8 @@ void release_record(const Decoder& decoder, u8* record);
 // The body of X_free__unpacked for a message with heap parts.
 void free_unpacked(void* record, const Decoder& decoder);
 
-// The tests that come before a record is touched, each with its log line. False when one of them failed; else `frame` holds
-// the root table and the memory services are there.
+// The tests that come before a record is touched, each with its log line. False when one of them failed; else `frame`
+// holds the root table and the memory services are there.
 [[nodiscard]] bool open_message(Frame& frame, const u8* bytes, u32 length, const void* record, const Decoder& decoder);
 
 // Reports a table that was refused.

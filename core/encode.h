@@ -124,11 +124,13 @@ struct SlotWords {
         for (u32 i = 0; i < N / in_word; ++i)
             store(slots + i * sizeof(Word), words[i]);
         for (u32 k = N / in_word * in_word; k < N; ++k)
-            store(slots + std::size_t{slot_bytes} * k, static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
+            store(slots + std::size_t{slot_bytes} * k,
+                  static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
     }
 };
 
-// Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was written.
+// Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was
+// written.
 template <class L>
 [[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
@@ -147,7 +149,10 @@ struct TableWriter {
     using Slot = typename L::template Slot<K>;
 
     template <u32 K>
-    [[gnu::always_inline]] const u8* field() const { return record + L::record_offset[K]; }
+    [[gnu::always_inline]] const u8* field() const
+    {
+        return record + L::record_offset[K];
+    }
 
     template <u32 K>
     [[gnu::always_inline]] void write_scalar()
@@ -257,9 +262,18 @@ template <class L>
 u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     TableWriter<L> writer(vtable + L::vtable_bytes, record);
-    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template write_scalar<k>(); return true; });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template reserve_cell<k>(); return true; });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) { writer.template write_body<k>(); return true; });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        writer.template write_scalar<k>();
+        return true;
+    });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        writer.template reserve_cell<k>();
+        return true;
+    });
+    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        writer.template write_body<k>();
+        return true;
+    });
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);

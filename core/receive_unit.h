@@ -38,7 +38,8 @@ struct Receiving {
             constexpr u32 K = k;
             using Slot = typename L::template Slot<K>;
             if constexpr (Slot::fixed_bytes == 0)
-                visit(HeapField{Slot::kind, static_cast<u8>(L::nested_before(K)), static_cast<u16>(L::record_offset[K])});
+                visit(
+                    HeapField{Slot::kind, static_cast<u8>(L::nested_before(K)), static_cast<u16>(L::record_offset[K])});
             return true;
         });
     }
@@ -55,13 +56,10 @@ struct Receiving {
         return list;
     }();
 
-    static constexpr Decoder decoder{unit,
-                                     unpack_routine.data(),
-                                     L::has_heap_parts ? free_routine.data() : nullptr,
-                                     nested.data(),
-                                     heap_fields.data(),
-                                     heap_field_count,
-                                     L::record_size};
+    static constexpr Decoder decoder{
+        unit,          unpack_routine.data(), L::has_heap_parts ? free_routine.data() : nullptr,
+        nested.data(), heap_fields.data(),    heap_field_count,
+        L::record_size};
 };
 
 // One message's hooks, as MESH is given them.
@@ -71,7 +69,8 @@ struct Registration {
     MeshFree free;
 };
 
-// Registers one message after the other. Returns the first result that is not 0, after which nothing more is registered.
+// Registers one message after the other. Returns the first result that is not 0, after which nothing more is
+// registered.
 int register_messages(std::span<const Registration> messages);
 
 }   // namespace kesto

@@ -26,7 +26,12 @@ template <u32 N, class Move>
 inline void each_move(Move&& move)
 {
     static_assert(N >= move_bytes);
-    each_number([&](auto i) { move(u32{i} * move_bytes); return true; }, std::make_integer_sequence<u32, N / move_bytes>());
+    each_number(
+        [&](auto i) {
+            move(u32{i} * move_bytes);
+            return true;
+        },
+        std::make_integer_sequence<u32, N / move_bytes>());
     if constexpr (N % move_bytes != 0)
         move(N - move_bytes);
 }

@@ -15,8 +15,8 @@ int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination
     return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
 }
 
-// Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length 0,
-// the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
+// Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length
+// 0, the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
 void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
 {
     u8* const end = encoder.layout->write(buffer, record, encoder.nested);
@@ -32,7 +32,7 @@ u32 batch_bytes(u64 data, u32 count)
 }
 
 struct Batch {
-    u8* data;              // also the whole allocation
+    u8* data;   // also the whole allocation
     MeshSendItem* items;
 };
 

@@ -8,8 +8,8 @@ namespace kesto {
 
 namespace {
 
-constexpr u32 bad_input = 22;        // the value of EINVAL on every target
-constexpr u32 memory_exhausted = 12; // the value of ENOMEM
+constexpr u32 bad_input = 22;          // the value of EINVAL on every target
+constexpr u32 memory_exhausted = 12;   // the value of ENOMEM
 
 template <class Function>
 Function find_service(const char* name)
@@ -86,20 +86,20 @@ void log_table_fault(Unit& unit, const char* routine, TableFault fault, const In
         write_log(unit, bad_input, LogSite::vtable_length, routine, "[KESTO]:Vtable Len(%u) is out of range(0 - %u)",
                   view.vtable_length, in.length - view.vtable);
         break;
-    case TableFault::none:
-        break;
+    case TableFault::none: break;
     }
 }
 
 void log_allocation(Unit& unit, const char* routine, u32 size)
 {
-    write_log(unit, memory_exhausted, LogSite::allocation, routine, "[KESTO]:Malloc unpack data failed, size(%u)", size);
+    write_log(unit, memory_exhausted, LogSite::allocation, routine, "[KESTO]:Malloc unpack data failed, size(%u)",
+              size);
 }
 
 void log_pack_parameters(Unit& unit, const char* routine, const void* buffer, u32 capacity, const void* record)
 {
-    write_log(unit, bad_input, LogSite::pack_parameters, routine, "[KESTO]:Param invalid(%s, %u, %s)", null_text(buffer),
-              capacity, null_text(record));
+    write_log(unit, bad_input, LogSite::pack_parameters, routine, "[KESTO]:Param invalid(%s, %u, %s)",
+              null_text(buffer), capacity, null_text(record));
 }
 
 }   // namespace kesto

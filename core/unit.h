@@ -28,7 +28,8 @@ struct Unit {
     pthread_mutex_t log_mutex = PTHREAD_MUTEX_INITIALIZER;
     LogWrite log_write = nullptr;
     std::atomic<u32> log_ready{0};
-    u32 byte_order = 0;   // non-zero on a host of the other order: a record of what load and store decided when compiled
+    u32 byte_order =
+        0;   // non-zero on a host of the other order: a record of what load and store decided when compiled
 };
 
 // Runs once per unit when the library is loaded.
@@ -46,7 +47,14 @@ inline void ensure_memory_services(Unit& unit)
 // ---- the log ----
 
 // The number that a log record gives for its place in the code.
-enum class LogSite : u32 { decode_parameters = 1, table_position, vtable_position, vtable_length, allocation, pack_parameters };
+enum class LogSite : u32 {
+    decode_parameters = 1,
+    table_position,
+    vtable_position,
+    vtable_length,
+    allocation,
+    pack_parameters
+};
 
 void log_decode_parameters(Unit& unit, const char* routine, const void* bytes, u32 length, const void* record);
 void log_table_fault(Unit& unit, const char* routine, TableFault fault, const Input& in, const TableView<Input>& view);

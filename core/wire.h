@@ -1,7 +1,7 @@
 // The wire: how values stand in a byte string, and the only code that reads bytes from outside the process's trust.
 //
-// A position is a u32 index from the first byte of the byte string. The reader's primitives are templates over the input,
-// so that the code that ships can also be run on symbolic words and proved; `Input` is the one that ships.
+// A position is a u32 index from the first byte of the byte string. The reader's primitives are templates over the
+// input, so that the code that ships can also be run on symbolic words and proved; `Input` is the one that ships.
 #pragma once
 
 #include <bit>
@@ -62,7 +62,10 @@ struct Input {
     // Whoever calls these has tested that the value, `behind` bytes behind the position `at`, lies inside. The two are
     // added as addresses, so that the compiler may hold the first and fold the second.
     template <class T>
-    u32 load_unchecked(u32 at, u32 behind = 0) const { return load<T>(bytes + at + behind); }
+    u32 load_unchecked(u32 at, u32 behind = 0) const
+    {
+        return load<T>(bytes + at + behind);
+    }
 
     // All n bytes lie inside.
     const u8* bytes_unchecked(u32 at, u32 behind, u32 /*n*/) const { return bytes + at + behind; }
@@ -91,7 +94,7 @@ struct TableView {
     typename In::Word table;
     typename In::Word vtable;
     typename In::Word vtable_length;
-    typename In::Word room;            // bytes from the table to the end of the input
+    typename In::Word room;   // bytes from the table to the end of the input
 };
 
 enum class TableFault : u8 { none, table_position, vtable_position, vtable_length };

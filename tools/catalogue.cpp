@@ -118,7 +118,8 @@ const Builder& whole_catalogue()
 
 std::uint32_t table_length(const MessageInfo& message, bool with_scalars)
 {
-    std::uint32_t length = vtable_head_bytes + slot_bytes * static_cast<std::uint32_t>(message.slots.size()) + table_head_bytes;
+    std::uint32_t length =
+        vtable_head_bytes + slot_bytes * static_cast<std::uint32_t>(message.slots.size()) + table_head_bytes;
     for (const SlotInfo& slot : message.slots) {
         if (slot.kind == SlotKind::scalar)
             length += with_scalars ? slot.width : 0;

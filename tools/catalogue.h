@@ -14,11 +14,11 @@ struct MessageInfo;
 
 struct SlotInfo {
     SlotKind kind;
-    std::uint32_t width;          // of a scalar or of an array's elements, in bytes; 0 for the other kinds
-    std::uint32_t count;          // of an array's elements; 0 for the other kinds
-    const MessageInfo* nested;    // of a table or vector; null for the other kinds
-    bool fault_ends_read;         // false for a table whose refusal the message around it ignores
-    std::string field;            // the record's name for it
+    std::uint32_t width;         // of a scalar or of an array's elements, in bytes; 0 for the other kinds
+    std::uint32_t count;         // of an array's elements; 0 for the other kinds
+    const MessageInfo* nested;   // of a table or vector; null for the other kinds
+    bool fault_ends_read;        // false for a table whose refusal the message around it ignores
+    std::string field;           // the record's name for it
 };
 
 struct MessageInfo {

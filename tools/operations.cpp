@@ -22,16 +22,16 @@ To as(From from)
     return reinterpret_cast<To>(reinterpret_cast<Any>(from));
 }
 
-#define MESSAGE(message, id, ...)                                                                                  \
-    {#message,                                                                                                     \
-     id,                                                                                                           \
-     sizeof(::message),                                                                                            \
-     as<decltype(Operations::unpack)>(message##__unpack),                                                          \
-     as<decltype(Operations::free_unpacked)>(message##_free__unpacked),                                            \
-     as<decltype(Operations::pack)>(message##__pack),                                                              \
-     as<decltype(Operations::sendsingle)>(message##__sendsingle),                                                  \
-     as<decltype(Operations::sendbatch)>(message##__sendbatch),                                                    \
-     as<decltype(Operations::sendmsg)>(message##__sendmsg),                                                        \
+#define MESSAGE(message, id, ...)                                       \
+    {#message,                                                          \
+     id,                                                                \
+     sizeof(::message),                                                 \
+     as<decltype(Operations::unpack)>(message##__unpack),               \
+     as<decltype(Operations::free_unpacked)>(message##_free__unpacked), \
+     as<decltype(Operations::pack)>(message##__pack),                   \
+     as<decltype(Operations::sendsingle)>(message##__sendsingle),       \
+     as<decltype(Operations::sendbatch)>(message##__sendbatch),         \
+     as<decltype(Operations::sendmsg)>(message##__sendmsg),             \
      as<decltype(Operations::sendtomsg)>(message##__sendtomsg)},
 #define NAMED_FIELDS(...)
 

@@ -22,7 +22,8 @@ std::string upper(std::string text)
 }
 
 // What every header says once. `@` stands for the module.
-constexpr const char head[] = R"(/* @.h: records and operations of the @ messages. Printed from the catalogue by `./run headers`; do not edit.
+constexpr const char head[] =
+    R"(/* @.h: records and operations of the @ messages. Printed from the catalogue by `./run headers`; do not edit.
  *
  * A message X has a record, the plain structure X, an id, X_ID in capitals, and seven operations. In the record, fields
  * stand in slot order at their natural alignment, a 64-bit one at a multiple of 8 on every target. A text is a pointer to
@@ -152,10 +153,13 @@ void print_message(std::FILE* file, const MessageInfo& message)
     std::fprintf(file, "uint32_t %s__unpack(const uint8_t *buf, uint32_t len, %s *rec);\n", name, name);
     std::fprintf(file, "void %s_free__unpacked(%s *rec);\n", name, name);
     std::fprintf(file, "int %s__pack(const %s *rec, uint8_t *buf, uint32_t *len);\n", name, name);
-    std::fprintf(file, "int %s__sendsingle(uint32_t channel, const %s *rec, uint32_t unused, uint32_t destination);\n", name, name);
-    std::fprintf(file, "int %s__sendbatch(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name, name);
+    std::fprintf(file, "int %s__sendsingle(uint32_t channel, const %s *rec, uint32_t unused, uint32_t destination);\n",
+                 name, name);
+    std::fprintf(file, "int %s__sendbatch(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name,
+                 name);
     std::fprintf(file, "int %s__sendmsg(uint32_t channel, const %s *recs, uint32_t n);\n", name, name);
-    std::fprintf(file, "int %s__sendtomsg(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name, name);
+    std::fprintf(file, "int %s__sendtomsg(uint32_t channel, const %s *recs, uint32_t n, uint32_t destination);\n", name,
+                 name);
 }
 
 void print_module(std::FILE* file, const ModuleInfo& module)
@@ -164,7 +168,8 @@ void print_module(std::FILE* file, const ModuleInfo& module)
     for (const MessageInfo* message : module.messages)
         print_message(file, *message);
     const char* const name = module.name.c_str();
-    std::fprintf(file, "\nint %s_recv_init(void);\nint %s_send_init(void);\nvoid %s__send_resource_clean(void);\n", name, name, name);
+    std::fprintf(file, "\nint %s_recv_init(void);\nint %s_send_init(void);\nvoid %s__send_resource_clean(void);\n",
+                 name, name, name);
     std::fputs("\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n", file);
 }
 

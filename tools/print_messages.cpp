@@ -1,5 +1,5 @@
-// Prints the message reference, docs/messages/<module>.md, from the catalogue: text for a terminal that a code host shows
-// with tables and links.
+// Prints the message reference, docs/messages/<module>.md, from the catalogue: text for a terminal that a code host
+// shows with tables and links.
 //
 //   print_messages FOLDER    writes FOLDER/<module>.md for every module
 
@@ -27,7 +27,8 @@ struct Column {
 
 using Row = std::vector<std::string>;
 
-void print_row(std::FILE* file, const std::vector<Column>& columns, const std::vector<std::size_t>& widths, const Row& row)
+void print_row(std::FILE* file, const std::vector<Column>& columns, const std::vector<std::size_t>& widths,
+               const Row& row)
 {
     for (std::size_t i = 0; i < columns.size(); ++i) {
         const int width = static_cast<int>(widths[i]);
@@ -65,8 +66,10 @@ std::string shape(const MessageInfo& message)
         if (slot.nested == nullptr)
             text += slot_text(slot) + " ";
         else
-            text += (slot.kind == SlotKind::vector ? "vector" : slot.fault_ends_read ? "table" : "lenient table") + std::string("(") +
-                    shape(*slot.nested) + ") ";
+            text += (slot.kind == SlotKind::vector ? "vector"
+                     : slot.fault_ends_read        ? "table"
+                                                   : "lenient table") +
+                    std::string("(") + shape(*slot.nested) + ") ";
     }
     return text;
 }
@@ -108,7 +111,8 @@ std::string form_text(const MessageInfo& message)
 // A name that leads to its message on a code host; the targets stand at the end of the page.
 std::string link(const MessageInfo& message) { return "[" + message.name + "]"; }
 
-void print_links(std::FILE* file, const char* what, const std::vector<const MessageInfo*>& messages, const MessageInfo& self)
+void print_links(std::FILE* file, const char* what, const std::vector<const MessageInfo*>& messages,
+                 const MessageInfo& self)
 {
     std::string line = std::string("- ") + what;
     bool any = false;
@@ -153,7 +157,8 @@ void print_fields(std::FILE* file, const MessageInfo& message)
     for (const std::size_t width : widths)
         group_width += width + 3;
     constexpr std::size_t rows_worth_it = 8;
-    const std::size_t groups = std::clamp<std::size_t>((page_width - 1) / group_width, 1, (fields.size() - 1) / rows_worth_it + 1);
+    const std::size_t groups =
+        std::clamp<std::size_t>((page_width - 1) / group_width, 1, (fields.size() - 1) / rows_worth_it + 1);
     const std::size_t height = (fields.size() + groups - 1) / groups;
 
     std::vector<Column> columns;
@@ -175,8 +180,8 @@ void print_message(std::FILE* file, const MessageInfo& message)
     if (message.has_heap_parts)
         std::fprintf(file, "Compact form of %u bytes and more. ", empty_length(message));
     else
-        std::fprintf(file, "Fixed form of %u bytes, compact form of %u to %u. ", message.fixed_length, empty_length(message),
-                     full_scalars_length(message));
+        std::fprintf(file, "Fixed form of %u bytes, compact form of %u to %u. ", message.fixed_length,
+                     empty_length(message), full_scalars_length(message));
     const std::uint32_t on_32 = record_layout(message, 4).size, on_64 = record_layout(message, 8).size;
     if (on_32 == on_64)
         std::fprintf(file, "Record of %u bytes.\n", on_32);
@@ -184,7 +189,8 @@ void print_message(std::FILE* file, const MessageInfo& message)
         std::fprintf(file, "Record of %u bytes, %u with 64-bit pointers.\n", on_32, on_64);
     for (const SlotInfo& slot : message.slots)
         if (!slot.fault_ends_read)
-            std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on behind it.\n", slot.field.c_str());
+            std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on behind it.\n",
+                         slot.field.c_str());
     print_links(file, "Same layout:", relations().by_shape.at(shape(message)), message);
     if (const auto users = relations().users.find(&message); users != relations().users.end())
         print_links(file, "Nested in:", users->second, message);
@@ -224,8 +230,9 @@ void print_page(std::FILE* file, const ModuleInfo& module)
     std::vector<Row> contents;
     std::set<const MessageInfo*> elsewhere;
     for (const MessageInfo* message : module.messages) {
-        contents.push_back({link(*message), id_text(*message), form_text(*message), std::to_string(empty_length(*message)),
-                            std::to_string(message->slots.size()), std::to_string(record_layout(*message, 4).size),
+        contents.push_back({link(*message), id_text(*message), form_text(*message),
+                            std::to_string(empty_length(*message)), std::to_string(message->slots.size()),
+                            std::to_string(record_layout(*message, 4).size),
                             std::to_string(record_layout(*message, 8).size)});
         for (const MessageInfo* other : relations().by_shape.at(shape(*message)))
             if (other->module != module.name)
