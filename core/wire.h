@@ -51,8 +51,8 @@ constexpr u32 least_length = 4;        // a byte string that can hold a root
 
 // ---- reading foreign bytes ----
 
-// The bytes of one message as they came. Everything below relies on length >= least_length and length < 2^31, which
-// the parameter test of the decoder guarantees.
+// The bytes of one message as they came. Everything below relies on length >= least_length, which the parameter test of
+// the decoder guarantees, and on no upper bound.
 struct Input {
     using Word = u32;
 

@@ -1,8 +1,8 @@
 // Small faults, all of them, for every message and both forms: every truncation, every other value of every byte, and
 // the values at the borders of every word that leads somewhere or counts something.
 //
-// KESTO_SHARE=k/n in the environment takes the k-th of n parts (k from 0) where all cases would take too long; truncations
-// are always tried in full.
+// KESTO_SHARE=k/n in the environment takes the k-th of n parts (k from 0) where all cases would take too long;
+// truncations are always tried in full.
 
 #include <gtest/gtest.h>
 
@@ -35,7 +35,8 @@ const Share& share()
     static const Share read = [] {
         Share wanted;
         const char* const text = std::getenv("KESTO_SHARE");
-        if (text != nullptr && (std::sscanf(text, "%u/%u", &wanted.number, &wanted.of) != 2 || wanted.number >= wanted.of)) {
+        if (text != nullptr &&
+            (std::sscanf(text, "%u/%u", &wanted.number, &wanted.of) != 2 || wanted.number >= wanted.of)) {
             std::fprintf(stderr, "KESTO_SHARE=%s is not of the form k/n with k below n\n", text);
             std::exit(1);
         }
@@ -55,7 +56,8 @@ DecodeCheck& check()
 class Sample {
 public:
     Sample(const reference::Message& message, const ByteString& bytes)
-        : message_(message), length_(static_cast<std::uint32_t>(bytes.size())), at_(check().buffer().place(bytes.size()))
+        : message_(message), length_(static_cast<std::uint32_t>(bytes.size())),
+          at_(check().buffer().place(bytes.size()))
     {
         std::copy(bytes.begin(), bytes.end(), at_);
     }
@@ -110,9 +112,7 @@ struct WordFinder : reference::Walk {
     {
         const std::uint32_t depth = item.path->length;
         switch (item.piece) {
-        case Piece::vtable_offset:
-            tables[depth + 1] = item.position;
-            return found(item, 4, depth + 1);
+        case Piece::vtable_offset: tables[depth + 1] = item.position; return found(item, 4, depth + 1);
         case Piece::vtable_length: return found(item, 2, depth + 1);
         case Piece::slot: return found(item, 2, depth);
         case Piece::root:
@@ -247,7 +247,7 @@ TEST_P(EveryShape, border_values_of_any_two_words)
         Sample sample(message, whole);
         std::vector<Word> words = words_of(message, whole);
         std::erase_if(words, [](const Word& word) { return word.repeated; });   // the first element stands for all
-        std::vector<std::vector<std::uint64_t>> values;   // by word
+        std::vector<std::vector<std::uint64_t>> values;                         // by word
         for (const Word& word : words)
             values.push_back(border_values(word, few_borders(sample.length()), sample.length()));
         std::uint64_t number = 0;

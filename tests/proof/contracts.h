@@ -1,8 +1,9 @@
-// What each primitive of core/wire.h relies on and what it promises, as programs that run on symbolic and on real words.
+// What each primitive of core/wire.h relies on and what it promises, as programs that run on symbolic and on real
+// words.
 //
 // What one promises and the next relies on is one function, with the role as its argument: so the contracts chain.
-// Expected results are formed as the wire format says them, in 64 bits, where nothing wraps. Each program returns a number
-// for what it came to, so that a proof that has lost its subject shows.
+// Expected results are formed as the wire format says them, in 64 bits, where nothing wraps. Each program returns a
+// number for what it came to, so that a proof that has lost its subject shows.
 #pragma once
 
 #include "tests/proof/symbolic.h"
@@ -54,13 +55,14 @@ template <class World>
 auto any_slot_number(World& world)
 {
     const auto k = world.any();
-    world.state(Role::relied_on, k < 0x8000, "a slot number is below 2^15");
+    world.state(Role::relied_on, k < 0x8000, "a vtable has fewer than 2^15 slots");
     return k;
 }
 
 template <class World, class Word>
 void opened_body(World& world, Role role, const Word& payload)
 {
+    world.state(role, payload >= root_bytes + count_bytes, "the payload is behind the root and its count");
     world.state(role, wide(payload) <= wide(world.input().length), "the payload starts inside or at the end");
 }
 
@@ -115,8 +117,10 @@ struct OpenTable {
         const auto vtable_legal = (wide(vtable) >= 4) & (wide(vtable) + 4 <= length);
         const auto vtable_whole = wide(vtable) + wide(vtable_length) <= length;
         world.state(Role::promised, (fault == TableFault::table_position) == !table_legal, "table position");
-        world.state(Role::promised, (fault == TableFault::vtable_position) == (table_legal & !vtable_legal), "vtable position");
-        world.state(Role::promised, (fault == TableFault::vtable_length) == (table_legal & vtable_legal & !vtable_whole),
+        world.state(Role::promised, (fault == TableFault::vtable_position) == (table_legal & !vtable_legal),
+                    "vtable position");
+        world.state(Role::promised,
+                    (fault == TableFault::vtable_length) == (table_legal & vtable_legal & !vtable_whole),
                     "vtable length");
 
         // The log of a fault prints these.
@@ -128,6 +132,22 @@ struct OpenTable {
         if (fault == TableFault::none)
             opened_view(world, Role::promised, view);
         return static_cast<int>(fault);
+    }
+};
+
+template <class Reader>
+struct HeldSlots {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const View<World> view = any_opened_view(world);
+        const auto slots = any_slot_number(world);
+        const bool held = Reader::holds_slots(view, slots);
+        world.state(Role::promised, held == (wide(view.vtable_length) >= wide(slots) * 2 + 4),
+                    "slots are held if and only if the vtable is long enough");
+        if (held)
+            Reader::slots_unchecked(world.input(), view, slots);   // all of them are read
+        return held;
     }
 };
 
@@ -186,7 +206,8 @@ struct OpenBody {
         world.state(Role::promised, accepted == (cell_fits & (body + count_bytes <= wide(in.length))),
                     "a body is opened if and only if its cell and its count lie inside");
         if (!accepted) {
-            world.state(Role::promised, (payload == payload_before) & (count == count_before), "a refusal writes nothing");
+            world.state(Role::promised, (payload == payload_before) & (count == count_before),
+                        "a refusal writes nothing");
             return 0;
         }
         world.state(Role::promised, wide(payload) == body + count_bytes, "the payload is behind the count");
@@ -296,21 +317,23 @@ struct ElementTable {
 
 // ---- all of them, as the decoder calls them ----
 
-// From the root to any field of any kind, through a nested table or an element if there is one. Relies on nothing but the
-// length, and a counterexample is a byte string that somebody could send.
+// From the root to a field of each kind, through a nested table or an element if there is one. Relies on nothing but
+// the length: a counterexample is a byte string that somebody could send.
 template <class Reader>
 struct Message {
+    static constexpr std::size_t outcomes = 3 * 13;   // directly, in a nested table, in an element
+
     template <class World>
     int operator()(World& world) const
     {
-        const auto in = world.input();
-        return table(world, in, Reader::root_table(in), 1);
+        return table(world, Reader::root_table(world.input()), 1);
     }
 
 private:
     template <class World, class Word>
-    static int table(World& world, const typename World::In& in, const Word& position, int deeper)
+    static int table(World& world, const Word& position, int levels_below)
     {
+        const auto in = world.input();
         View<World> view{};
         if (Reader::open_table(in, position, view) != TableFault::none)
             return 0;
@@ -319,41 +342,33 @@ private:
             return 1;
         const auto kind = world.any();
         if (kind == 0)
-            return 2 + Reader::template read_scalar<u8>(in, view, offset, nullptr);
+            return Reader::template read_scalar<u64>(in, view, offset, nullptr) ? 2 : 3;
         if (kind == 1)
-            return 4 + Reader::template read_scalar<u16>(in, view, offset, nullptr);
-        if (kind == 2)
-            return 6 + Reader::template read_scalar<u32>(in, view, offset, nullptr);
-        if (kind == 3)
-            return 8 + Reader::template read_scalar<u64>(in, view, offset, nullptr);
-        if (kind == 4)
-            return 10 + Reader::template read_array<u8>(in, view, offset, world.any(), nullptr);
-        if (kind == 5)
-            return 12 + Reader::template read_array<u32>(in, view, offset, world.any(), nullptr);
-        if (kind == 6) {
+            return Reader::template read_array<u32>(in, view, offset, world.any(), nullptr) ? 4 : 5;
+        if (kind == 2) {
             Word nested{};
-            if (!Reader::nested_table(in, view, offset, nested) || deeper == 0)
-                return 14;
-            return 20 + table(world, in, nested, deeper - 1);
+            if (!Reader::nested_table(in, view, offset, nested) || levels_below == 0)
+                return 6;
+            return 13 + table(world, nested, levels_below - 1);
         }
         Word payload{}, count{};
         if (!Reader::open_body(in, view, offset, payload, count))
-            return 15;
-        if (kind == 7) {
+            return 7;
+        if (kind == 3) {
             if (!Reader::payload_fits(in, payload, count, 1))
-                return 16;
+                return 8;
             in.touch(wide(payload), wide(count));
-            return 17;
+            return 9;
         }
         if (!Reader::payload_fits(in, payload, count, cell_bytes))
-            return 18;
+            return 10;
         const auto i = world.any();
         if (i >= count)
-            return 19;
+            return 11;
         Word element{};
-        if (!Reader::element_table(in, payload, i, element) || deeper == 0)
-            return 14;
-        return 40 + table(world, in, element, deeper - 1);
+        if (!Reader::element_table(in, payload, i, element) || levels_below == 0)
+            return 12;
+        return 26 + table(world, element, levels_below - 1);
     }
 };
 

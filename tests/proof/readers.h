@@ -17,6 +17,16 @@ struct Shipping {
         return kesto::open_table(in, table, view);
     }
     template <class In, class Word>
+    static bool holds_slots(const TableView<In>& view, const Word& slots)
+    {
+        return kesto::holds_slots(view, slots);
+    }
+    template <class In, class Word>
+    static const u8* slots_unchecked(const In& in, const TableView<In>& view, const Word& slots)
+    {
+        return kesto::slots_unchecked(in, view, slots);
+    }
+    template <class In, class Word>
     static auto slot_offset(const In& in, const TableView<In>& view, const Word& k)
     {
         return kesto::slot_offset(in, view, k);
@@ -59,14 +69,15 @@ enum class Weakness {
     table_in_the_root,
     table_one_too_far,
     vtable_in_the_root,
-    vtable_one_too_far,
+    vtable_three_too_far,
     vtable_anywhere,
     vtable_length_of_anything,
     vtable_length_against_the_table,
     vtable_length_one_too_strict,
-    slot_of_any_vtable,
-    slot_with_one_byte,
-    slot_of_four_bytes,
+    slots_of_any_vtable,
+    slots_with_a_byte_missing,
+    slots_without_head,
+    slot_one_further,
     field_without_width,
     field_by_a_sum,
     body_without_cell,
@@ -100,12 +111,12 @@ struct Weakened {
         const Word last = in.length - least_length;
         view.table = table;
         view.room = in.length - table;
-        if ((!is(Weakness::table_in_the_root) && table < root_bytes)
-            || table > last + (is(Weakness::table_one_too_far) ? 1 : 0))
+        if ((!is(Weakness::table_in_the_root) && table < root_bytes) ||
+            table > last + (is(Weakness::table_one_too_far) ? 1 : 0))
             return TableFault::table_position;
         view.vtable = table - in.template load_unchecked<u32>(table);
-        if ((!is(Weakness::vtable_in_the_root) && view.vtable < root_bytes)
-            || (!is(Weakness::vtable_anywhere) && view.vtable > last + (is(Weakness::vtable_one_too_far) ? 3 : 0)))
+        if ((!is(Weakness::vtable_in_the_root) && view.vtable < root_bytes) ||
+            (!is(Weakness::vtable_anywhere) && view.vtable > last + (is(Weakness::vtable_three_too_far) ? 3 : 0)))
             return TableFault::vtable_position;
         view.vtable_length = in.template load_unchecked<u16>(view.vtable);
         if (is(Weakness::vtable_length_of_anything))
@@ -118,14 +129,25 @@ struct Weakened {
     }
 
     template <class In, class Word>
+    static bool holds_slots(const TableView<In>& view, const Word& slots)
+    {
+        const u32 missing = is(Weakness::slots_with_a_byte_missing) ? 1 : 0;
+        const u32 head = is(Weakness::slots_without_head) ? 0 : vtable_head_bytes;
+        return is(Weakness::slots_of_any_vtable) || view.vtable_length >= head + slot_bytes * slots - missing;
+    }
+
+    template <class In, class Word>
+    static const u8* slots_unchecked(const In& in, const TableView<In>& view, const Word& slots)
+    {
+        return in.bytes_unchecked(view.vtable, vtable_head_bytes, slot_bytes * slots);
+    }
+
+    template <class In, class Word>
     static Word slot_offset(const In& in, const TableView<In>& view, const Word& k)
     {
-        const u32 missing = is(Weakness::slot_with_one_byte) ? 1 : 0;
-        if (!is(Weakness::slot_of_any_vtable)
-            && view.vtable_length < vtable_head_bytes + slot_bytes * (k + 1) - missing)
+        if (!holds_slots(view, k + (is(Weakness::slot_one_further) ? 0 : 1)))
             return 0;
-        using Slot = std::conditional_t<is(Weakness::slot_of_four_bytes), u32, u16>;
-        return in.template load_unchecked<Slot>(view.vtable, vtable_head_bytes + slot_bytes * k);
+        return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);
     }
 
     template <class In, class Word>
@@ -170,7 +192,7 @@ struct Weakened {
         if (is(Weakness::payload_by_a_product))
             return static_cast<bool>(count * width <= in.length - payload);
         if (is(Weakness::payload_by_a_sum))
-            return static_cast<bool>(count <= 0x3fffffff && payload + count * width <= in.length);
+            return static_cast<bool>(payload + count * width <= in.length);
         if (is(Weakness::payload_from_the_start))
             return static_cast<bool>(count <= in.length / width);
         return static_cast<bool>(count <= (in.length - payload) / (is(Weakness::payload_of_bytes) ? 1 : width));
@@ -201,8 +223,8 @@ struct Weakened {
     template <class In, class Word>
     static bool element_table(const In& in, const Word& cells, const Word& i, Word& table)
     {
-        return follow<Weakness::element_may_wrap>(in, cells + (i + (is(Weakness::element_one_further) ? 1 : 0)) * cell_bytes,
-                                                  table);
+        return follow<Weakness::element_may_wrap>(
+            in, cells + (i + (is(Weakness::element_one_further) ? 1 : 0)) * cell_bytes, table);
     }
 
 private:

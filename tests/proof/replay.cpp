@@ -1,6 +1,7 @@
 #include "tests/proof/replay.h"
 
 #include <sys/mman.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -38,6 +39,8 @@ GuardedBytes::~GuardedBytes() { munmap(mapped_, mapped_bytes_); }
 RealWorld::RealWorld(const Counterexample& example)
     : length_(example.length), words_(example.words), bytes_(example.length)
 {
+    const rlimit none{};
+    setrlimit(RLIMIT_CORE, &none);   // the process is meant to end here
     for (const auto& [at, byte] : example.bytes)
         bytes_.bytes()[at] = byte;
 }

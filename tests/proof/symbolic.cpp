@@ -6,8 +6,13 @@ namespace {
 
 SymbolicWorld* under_way = nullptr;
 
-// A query that needs more than this has left the simple arithmetic that the reader is made of. Counts steps, not time.
+// A query that needs more has left the simple arithmetic that the reader is made of. Counts steps, not time.
 constexpr unsigned most_solver_steps = 200'000'000;
+
+z3::expr within(const z3::expr& value, u64 range)
+{
+    return value >= 0 && value < solver_context().int_val(std::uint64_t{range});
+}
 
 }   // namespace
 
@@ -19,25 +24,19 @@ z3::context& solver_context()
 
 Truth::operator bool() const { return under_way->decide(expression); }
 
-void SymbolicInput::touch(const Number<64>& at, const Number<64>& bytes) const
+void SymbolicInput::touch(const Exact& at, const Exact& bytes) const
 {
     world->prove(at + bytes <= wide(length), true, "a read outside");
 }
 
-SymbolicInput::Word SymbolicInput::content(const Number<64>& at, unsigned bytes) const
-{
-    const z3::expr position = at.expression.extract(31, 0);
-    z3::expr value = world->byte_at(position);
-    for (unsigned i = 1; i < bytes; ++i)
-        value = z3::concat(world->byte_at(position + solver_context().bv_val(i, 32)), value);
-    return Word(bytes == 4 ? value : z3::zext(value, 32 - 8 * bytes));
-}
+Word SymbolicInput::content(const Exact& at, unsigned bytes) const { return world->value_at(at, bytes); }
 
 SymbolicWorld::SymbolicWorld(Lengths lengths)
-    : lengths_(lengths), length_(solver_context().bv_const("length", 32)),
-      bytes_(solver_context().function("byte", solver_context().bv_sort(32), solver_context().bv_sort(8))),
-      path_(solver_context())
+    : lengths_(lengths), length_(solver_context().int_const("length")), path_(solver_context(), "QF_UFLIA")
 {
+    z3::params limits(solver_context());
+    limits.set("rlimit", most_solver_steps);
+    path_.set(limits);
     under_way = this;
 }
 
@@ -49,7 +48,7 @@ void SymbolicWorld::begin_path()
     path_.add(((length_ >= lengths_.least) & (length_ <= lengths_.most)).expression);
     decided_ = 0;
     words_.clear();
-    positions_.clear();
+    values_.clear();
 }
 
 bool SymbolicWorld::next_path()
@@ -65,12 +64,12 @@ bool SymbolicWorld::next_path()
 bool SymbolicWorld::possible(const z3::expr& condition)
 {
     ++verdict_.queries;
-    z3::solver fresh = z3::tactic(solver_context(), getenv("TAC")).mk_solver();
-    fresh.add(path_.assertions());
-    fresh.add(condition);
-    const z3::check_result result = fresh.check();
+    path_.push();
+    path_.add(condition);
+    const z3::check_result result = path_.check();
     if (result == z3::unknown)
-        throw std::runtime_error("undecided: " + fresh.reason_unknown());
+        throw std::runtime_error("undecided: " + path_.reason_unknown());
+    path_.pop();
     return result == z3::sat;
 }
 
@@ -78,18 +77,28 @@ bool SymbolicWorld::decide(const z3::expr& condition)
 {
     if (decided_ == decisions_.size()) {
         const bool can_hold = possible(condition);
-        const bool can_fail = possible(!condition);
-        decisions_.push_back({can_hold, can_hold && can_fail});
+        decisions_.push_back({can_hold, can_hold && possible(!condition)});
     }
     const bool answer = decisions_[decided_++].answer;
     path_.add(answer ? condition : !condition);
     return answer;
 }
 
-SymbolicWorld::Word SymbolicWorld::any()
+Word SymbolicWorld::any()
 {
-    words_.emplace_back(solver_context().bv_const(("word" + std::to_string(words_.size())).c_str(), 32));
+    words_.emplace_back(solver_context().int_const(("word" + std::to_string(words_.size())).c_str()));
+    path_.add(within(words_.back().expression, word_range));
     return words_.back();
+}
+
+Word SymbolicWorld::value_at(const Exact& at, unsigned bytes)
+{
+    z3::context& context = solver_context();
+    const z3::func_decl value_of =
+        context.function(("value" + std::to_string(bytes)).c_str(), context.int_sort(), context.int_sort());
+    values_.push_back({at.expression, value_of(at.expression), bytes});
+    path_.add(within(values_.back().value, u64{1} << 8 * bytes));
+    return Word(values_.back().value);
 }
 
 void SymbolicWorld::state(Role role, const Truth& condition, const char* what)
@@ -107,35 +116,50 @@ void SymbolicWorld::prove(const Truth& condition, bool outside, const char* what
         return;   // proved on an earlier path that began with the same decisions
     if (!possible(!condition.expression))
         return;
-    path_.add(!condition.expression);
-    keep_counterexample(outside, what);
+    // So far, values that overlap have nothing to do with each other, which only makes more possible.
+    const z3::expr broken = !condition.expression && bytes_make_values();
+    if (!possible(broken))
+        return;
+    keep_counterexample(broken, outside, what);
     throw EndOfPath{};
 }
 
-z3::expr SymbolicWorld::byte_at(const z3::expr& at)
+z3::expr SymbolicWorld::bytes_make_values() const
 {
-    positions_.push_back(at);
-    return bytes_(at);
+    z3::context& context = solver_context();
+    const z3::func_decl byte = context.function("byte", context.int_sort(), context.int_sort());
+    z3::expr all = context.bool_val(true);
+    for (const Value& value : values_) {
+        z3::expr sum = context.int_val(0);
+        for (unsigned i = 0; i < value.bytes; ++i) {
+            const z3::expr one = byte(value.at + context.int_val(i));
+            sum = sum + one * context.int_val(std::uint64_t{1} << 8 * i);
+            all = all && within(one, 256);
+        }
+        all = all && sum == value.value;
+    }
+    return all;
 }
 
-void SymbolicWorld::keep_counterexample(bool outside, const char* what)
+void SymbolicWorld::keep_counterexample(const z3::expr& condition, bool outside, const char* what)
 {
-    for (const u32 most : {16u, 64u, 256u, 4096u, 1u << 17, ~0u}) {   // a short one, if there is one
-        path_.push();
-        path_.add((length_ <= most).expression);
-        if (path_.check() == z3::sat)
+    path_.add(condition);
+    for (const u32 most : {16u, 64u, 256u, 4096u, 1u << 17})   // a short one, if there is one
+        if (possible((length_ <= most).expression)) {
+            path_.add((length_ <= most).expression);
             break;
-        path_.pop();
-    }
+        }
+    path_.check();
     const z3::model model = path_.get_model();
-    const auto value = [&](const z3::expr& e) { return static_cast<u32>(model.eval(e, true).get_numeral_uint64()); };
+    const auto number = [&](const z3::expr& e) { return model.eval(e, true).get_numeral_uint64(); };
     Counterexample& found = verdict_.counterexample;
-    found = {outside, what, value(length_.expression), {}, {}};
+    found = {outside, what, static_cast<u32>(number(length_.expression)), {}, {}};
     for (const Word& word : words_)
-        found.words.push_back(value(word.expression));
-    for (const z3::expr& position : positions_)
-        if (const u32 at = value(position); at < found.length)
-            found.bytes[at] = static_cast<u8>(value(bytes_(position)));
+        found.words.push_back(static_cast<u32>(number(word.expression)));
+    for (const Value& value : values_)
+        for (unsigned i = 0; i < value.bytes; ++i)
+            if (const u64 at = number(value.at) + i; at < found.length)
+                found.bytes[static_cast<u32>(at)] = static_cast<u8>(number(value.value) >> 8 * i);
     verdict_.proved = false;
 }
 

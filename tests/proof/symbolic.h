@@ -28,34 +28,56 @@ inline Truth operator!(const Truth& a) { return Truth(!a.expression); }
 inline Truth operator&(const Truth& a, const Truth& b) { return Truth(a.expression && b.expression); }
 inline Truth operator==(const Truth& a, const Truth& b) { return Truth(a.expression == b.expression); }
 
-// An unsigned number of `bits` bits, with the arithmetic of the C++ type.
-template <unsigned bits>
+constexpr u64 word_range = u64{1} << 32;
+
+// The solver reckons in whole numbers, of which a Word is one below 2^32 with the arithmetic of a u32; an Exact does
+// not wrap. Whether a Word's sum wraps is a decision as well: on each path it is a plain sum, which is what the solver
+// is good at.
+template <bool wraps>
 struct Number {
     z3::expr expression;
 
     explicit Number(const z3::expr& e) : expression(e) {}
-    Number(u64 value = 0) : expression(solver_context().bv_val(std::uint64_t{value}, bits)) {}
+    Number(u64 value = 0) : expression(whole(value)) {}
 
-    friend Number operator+(const Number& a, const Number& b) { return Number(a.expression + b.expression); }
-    friend Number operator-(const Number& a, const Number& b) { return Number(a.expression - b.expression); }
-    friend Number operator*(const Number& a, const Number& b) { return Number(a.expression * b.expression); }
-    friend Number operator/(const Number& a, const Number& b) { return Number(z3::udiv(a.expression, b.expression)); }
+    friend Number operator+(const Number& a, const Number& b)
+    {
+        const z3::expr sum = a.expression + b.expression;
+        return Number(!wraps || Truth(sum < whole(word_range)) ? sum : sum - whole(word_range));
+    }
+    friend Number operator-(const Number& a, const Number& b)
+    {
+        static_assert(wraps);
+        const z3::expr difference = a.expression - b.expression;
+        return Number(Truth(difference >= 0) ? difference : difference + whole(word_range));
+    }
+    friend Number operator*(const Number& a, const Number& b)
+    {
+        const z3::expr product = a.expression * b.expression;
+        return Number(!wraps || Truth(product < whole(word_range)) ? product : z3::mod(product, whole(word_range)));
+    }
+    friend Number operator/(const Number& a, const Number& b) { return Number(a.expression / b.expression); }
     friend Truth operator==(const Number& a, const Number& b) { return Truth(a.expression == b.expression); }
     friend Truth operator!=(const Number& a, const Number& b) { return Truth(a.expression != b.expression); }
-    friend Truth operator<(const Number& a, const Number& b) { return Truth(z3::ult(a.expression, b.expression)); }
-    friend Truth operator>(const Number& a, const Number& b) { return Truth(z3::ugt(a.expression, b.expression)); }
-    friend Truth operator<=(const Number& a, const Number& b) { return Truth(z3::ule(a.expression, b.expression)); }
-    friend Truth operator>=(const Number& a, const Number& b) { return Truth(z3::uge(a.expression, b.expression)); }
+    friend Truth operator<(const Number& a, const Number& b) { return Truth(a.expression < b.expression); }
+    friend Truth operator>(const Number& a, const Number& b) { return Truth(a.expression > b.expression); }
+    friend Truth operator<=(const Number& a, const Number& b) { return Truth(a.expression <= b.expression); }
+    friend Truth operator>=(const Number& a, const Number& b) { return Truth(a.expression >= b.expression); }
+
+private:
+    static z3::expr whole(u64 value) { return solver_context().int_val(std::uint64_t{value}); }
 };
 
-// 64 bits, in which no sum and no product of the wire format wraps.
-inline Number<64> wide(const Number<32>& value) { return Number<64>(z3::zext(value.expression, 32)); }
+using Word = Number<true>;
+using Exact = Number<false>;
+
+inline Exact wide(const Word& value) { return Exact(value.expression); }
 inline u64 wide(u32 value) { return value; }
 
 // What breaks a proof: the length, the words and the bytes that were read.
 struct Counterexample {
-    bool outside;        // a read outside the input; else a broken promise
-    std::string broken;  // which
+    bool outside;         // a read outside the input; else a broken promise
+    std::string broken;   // which
     u32 length;
     std::vector<u32> words;   // what any() gave, in order
     std::map<u32, u8> bytes;
@@ -73,8 +95,9 @@ struct Lengths {
     u32 least, most;
 };
 
-// The lengths that the decoder's parameter test lets pass.
-constexpr Lengths tested_lengths{least_length, 0x7fffffff};
+// What the decoder's parameter test lets pass, and all that can hold a root.
+constexpr Lengths accepted_lengths{least_length, 0x7fffffff};
+constexpr Lengths every_length{least_length, 0xffffffff};
 
 enum class Role { promised, relied_on };
 
@@ -82,7 +105,7 @@ class SymbolicWorld;
 
 // Stands for Input in the templates of core/wire.h: any bytes, any length. A read outside ends the proof.
 struct SymbolicInput {
-    using Word = Number<32>;
+    using Word = proof::Word;
 
     SymbolicWorld* world;
     Word length;
@@ -106,23 +129,32 @@ struct SymbolicInput {
         touch(wide(at), wide(count) * sizeof(T));
     }
 
-    // What stands at a position, without a claim that it may be read: equal positions, equal bytes.
+    const u8* bytes_unchecked(const Word& at, const Word& behind, const Word& n) const
+    {
+        touch(wide(at) + wide(behind), wide(n));
+        return nullptr;
+    }
+
+    // What stands at a position, without a claim that it may be read: equal positions, equal values.
     template <class T>
-    Word content(const Number<64>& at) const { return content(at, sizeof(T)); }
+    Word content(const Exact& at) const
+    {
+        return content(at, sizeof(T));
+    }
 
     // The proof's duty: these bytes lie inside, in numbers that do not wrap, as addresses of 64 bits do not.
-    void touch(const Number<64>& at, const Number<64>& bytes) const;
+    void touch(const Exact& at, const Exact& bytes) const;
 
 private:
-    Word content(const Number<64>& at, unsigned bytes) const;
+    Word content(const Exact& at, unsigned bytes) const;
 };
 
-// Runs a program once for every path, depth first. A path is the list of decisions on it; an answer that the path so far
-// excludes is never taken.
+// Runs a program once for every path, depth first. A path is the list of decisions on it; an answer that the path so
+// far excludes is never taken.
 class SymbolicWorld {
 public:
     using In = SymbolicInput;
-    using Word = Number<32>;
+    using Word = proof::Word;
 
     explicit SymbolicWorld(Lengths lengths);
     ~SymbolicWorld();
@@ -151,10 +183,14 @@ public:
     // For words, conditions and inputs.
     bool decide(const z3::expr& condition);
     void prove(const Truth& condition, bool outside, const char* what);
-    z3::expr byte_at(const z3::expr& at);
+    Word value_at(const Exact& at, unsigned bytes);
 
 private:
     struct EndOfPath {};
+    struct Value {
+        z3::expr at, value;
+        unsigned bytes;
+    };
     struct Decision {
         bool answer;
         bool other_is_open;
@@ -163,16 +199,16 @@ private:
     void begin_path();
     bool next_path();
     bool possible(const z3::expr& condition);
-    void keep_counterexample(bool outside, const char* what);
+    z3::expr bytes_make_values() const;
+    void keep_counterexample(const z3::expr& condition, bool outside, const char* what);
 
     Lengths lengths_;
     Word length_;
-    z3::func_decl bytes_;
     z3::solver path_;
     std::vector<Decision> decisions_;
     std::size_t decided_ = 0;   // so many of them on the path so far
     std::vector<Word> words_;
-    std::vector<z3::expr> positions_;   // of the bytes that were looked at
+    std::vector<Value> values_;   // that were looked at
     Verdict verdict_;
 };
 

@@ -25,8 +25,24 @@ std::string first_difference(const ByteString& is, const ByteString& expected)
     if (is == expected)
         return {};
     const std::size_t at = static_cast<std::size_t>(
-        std::mismatch(is.begin(), is.begin() + static_cast<std::ptrdiff_t>(std::min(is.size(), expected.size())), expected.begin()).first - is.begin());
-    return "first difference at position " + std::to_string(at) + "\n  is       " + hex(is) + "\n  expected " + hex(expected);
+        std::mismatch(is.begin(), is.begin() + static_cast<std::ptrdiff_t>(std::min(is.size(), expected.size())),
+                      expected.begin())
+            .first -
+        is.begin());
+    return "first difference at position " + std::to_string(at) + "\n  is       " + hex(is) + "\n  expected " +
+           hex(expected);
+}
+
+// Without a search by name, which would take longer than a decode.
+const Operations& operations_of(const reference::Message& message)
+{
+    static const std::vector<const Operations*> by_number = [] {
+        std::vector<const Operations*> all;
+        for (const reference::Message& each : transcribed().messages)
+            all.push_back(&operations(each.name));
+        return all;
+    }();
+    return *by_number[message.index];
 }
 
 }   // namespace
@@ -60,7 +76,8 @@ GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 {
     const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     mapped_ = (most + page - 1) / page * page + page;
-    void* const memory = mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    void* const memory =
+        mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED || mprotect(static_cast<std::uint8_t*>(memory) + mapped_ - page, page, PROT_NONE) != 0) {
         std::perror("guarded buffer");
         std::exit(1);
@@ -71,11 +88,7 @@ GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 
 GuardedBuffer::~GuardedBuffer() { munmap(start_, mapped_); }
 
-DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), packed_(most_bytes), storage_(largest_record)
-{
-    for (const reference::Message& message : transcribed().messages)
-        operations_.push_back(&operations(message.name));
-}
+DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), packed_(1 << 16), storage_(largest_record) {}
 
 std::string DecodeCheck::check(const reference::Message& message, const ByteString& bytes)
 {
@@ -87,7 +100,7 @@ std::string DecodeCheck::check(const reference::Message& message, const ByteStri
 std::string DecodeCheck::check(const reference::Message& message, const std::uint8_t* bytes, std::uint32_t length)
 {
     ++decodes_;
-    const Operations& library = *operations_[message.index];
+    const Operations& library = operations_of(message);
     reference::DecodeOptions options;
     options.faults = faults;
     reference::decode(message, bytes, length, options, outcome_);
@@ -114,7 +127,8 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
     if (!fault.empty())
         return "decoding: " + fault;
     if (outcome_.untouched) {
-        const bool touched = std::any_of(record, record + returned, [](std::uint8_t byte) { return byte != untouched; });
+        const bool touched =
+            std::any_of(record, record + returned, [](std::uint8_t byte) { return byte != untouched; });
         return touched ? "the record was touched" : "";
     }
     fault = reference::difference(outcome_.record, record);
@@ -161,7 +175,7 @@ std::string DecodeCheck::pack_again(const Operations& library, const std::uint8_
 std::string check_encoders(const reference::Record& record)
 {
     const reference::Message& message = *record.message;
-    const Operations& library = operations(message.name);
+    const Operations& library = operations_of(message);
     const reference::RecordMemory memory(record);
     const ByteString compact = reference::compact_form(record);
     const std::uint32_t size = reference::reported_size(reference::exact_size(record));

@@ -48,7 +48,7 @@ public:
 
     reference::AllocationFaults faults;
     const reference::Record* expected = nullptr;   // when set, what a decode must succeed with
-    bool packs_again = false;                      // also packs what was decoded, of up to most_bytes
+    bool packs_again = false;                      // also packs what was decoded, up to 64 KiB
 
     // Both give what differs, empty where nothing does. `bytes` may be changed in place between calls of the second.
     std::string check(const reference::Message& message, const ByteString& bytes);
@@ -68,7 +68,6 @@ private:
     GuardedBuffer packed_;
     GuardedBuffer storage_;
     reference::Outcome outcome_;
-    std::vector<const Operations*> operations_;   // by the message's number
     std::uint64_t decodes_ = 0;
 };
 

@@ -1,0 +1,15 @@
+// Byte strings, however broken: library and reference must make the same of them.
+
+#include <cstdio>
+#include <cstdlib>
+
+#include "fuzz/one_input.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* input, std::size_t size)
+{
+    const std::string fault = kesto::fuzz::run_decode_input(input, size);
+    if (fault.empty())
+        return 0;
+    std::fprintf(stderr, "%s\n", fault.c_str());
+    std::abort();
+}

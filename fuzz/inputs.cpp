@@ -1,0 +1,213 @@
+#include "fuzz/inputs.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace kesto::fuzz {
+
+namespace {
+
+using reference::Field;
+using reference::Kind;
+using reference::Slot;
+
+// ---- records as inputs ----
+//
+// scalar   1 byte: 0 for 0, 1 for all bits set, else the value follows in its width
+// array    1 byte: 0 for all zero, else the elements follow
+// text     1 byte n: 0 for null, else n - 1 bytes of text follow
+// block    1 byte n: 0 for null, 1 for a length beside null, else n - 2 bytes follow
+// vector   1 byte n, of which the low three bits count: 0 for null, else n - 1 elements follow
+// table    its slots
+
+class Source {
+public:
+    Source(const std::uint8_t* at, std::size_t size) : at_(at), left_(size) {}
+
+    std::uint8_t octet()
+    {
+        if (left_ == 0)
+            return 0;
+        --left_;
+        return *at_++;
+    }
+
+    std::uint64_t number(std::uint32_t width)
+    {
+        std::uint64_t value = 0;
+        for (std::uint32_t i = 0; i < width; ++i)
+            value |= std::uint64_t{octet()} << (8 * i);
+        return value;
+    }
+
+    void octets(std::vector<std::uint8_t>& into, std::size_t count)
+    {
+        into.resize(count);
+        for (std::uint8_t& each : into)
+            each = octet();
+    }
+
+private:
+    const std::uint8_t* at_;
+    std::size_t left_;
+};
+
+void read_record(Source& source, Record& record);
+
+void read_field(Source& source, const Slot& slot, Field& field)
+{
+    if (slot.kind == Kind::table)
+        return read_record(source, field.records[0]);
+    const std::uint8_t lead = source.octet();
+    if (lead == 0)
+        return;
+    switch (slot.kind) {
+    case Kind::scalar:
+        field.number = lead == 1 ? ~std::uint64_t{0} >> (64 - 8 * slot.width) : source.number(slot.width);
+        break;
+    case Kind::array:
+        for (std::uint8_t& octet : field.octets)
+            octet = source.octet();
+        for (std::uint32_t& word : field.words)
+            word = static_cast<std::uint32_t>(source.number(4));
+        break;
+    case Kind::string:
+        field.present = true;
+        source.octets(field.octets, lead - 1U);
+        break;
+    case Kind::bytes:
+        field.present = lead != 1;
+        if (field.present)
+            source.octets(field.octets, lead - 2U);
+        field.number = field.present ? field.octets.size() : 1;
+        break;
+    case Kind::vector:
+        field.present = (lead & 7) != 0;
+        field.records.resize(field.present ? (lead & 7) - 1U : 0);
+        for (Record& element : field.records) {
+            clear(element, *slot.nested);
+            read_record(source, element);
+        }
+        field.number = field.records.size();
+        break;
+    case Kind::table: break;
+    }
+}
+
+void read_record(Source& source, Record& record)
+{
+    for (std::size_t k = 0; k < record.fields.size(); ++k)
+        read_field(source, record.message->slots[k], record.fields[k]);
+}
+
+void write_record(const Record& record, Bytes& out);
+
+void write_field(const Slot& slot, const Field& field, Bytes& out)
+{
+    const auto lead = [&](std::size_t value) { out.push_back(static_cast<std::uint8_t>(value)); };
+    switch (slot.kind) {
+    case Kind::scalar:
+        lead(field.number == 0 ? 0 : 2);
+        if (field.number != 0)
+            reference::append(out, field.number, slot.width);
+        break;
+    case Kind::array:
+        lead(1);
+        out.insert(out.end(), field.octets.begin(), field.octets.end());
+        for (const std::uint32_t word : field.words)
+            reference::append(out, word, 4);
+        break;
+    case Kind::string:
+    case Kind::bytes: {
+        const std::size_t none = slot.kind == Kind::string ? 1 : 2;
+        const std::size_t length = std::min<std::size_t>(field.octets.size(), 255 - none);
+        lead(field.present ? none + length : 0);
+        out.insert(out.end(), field.octets.begin(), field.octets.begin() + static_cast<std::ptrdiff_t>(length));
+        break;
+    }
+    case Kind::table: write_record(field.records[0], out); break;
+    case Kind::vector: {
+        const std::size_t count = std::min<std::size_t>(field.records.size(), 6);
+        lead(field.present ? 1 + count : 0);
+        for (std::size_t i = 0; i < count; ++i)
+            write_record(field.records[i], out);
+        break;
+    }
+    }
+}
+
+void write_record(const Record& record, Bytes& out)
+{
+    for (std::size_t k = 0; k < record.fields.size(); ++k)
+        write_field(record.message->slots[k], record.fields[k], out);
+}
+
+}   // namespace
+
+Bytes decode_input(const Message& message, const Bytes& bytes)
+{
+    Bytes input{static_cast<std::uint8_t>(message.index), 0};
+    input.insert(input.end(), bytes.begin(), bytes.end());
+    return input;
+}
+
+Bytes record_input(const Record& record)
+{
+    Bytes input{static_cast<std::uint8_t>(record.message->index)};
+    write_record(record, input);
+    return input;
+}
+
+const Message& message_of(const Catalogue& catalogue, std::uint8_t number)
+{
+    return catalogue.messages[number % catalogue.messages.size()];
+}
+
+Record record_from(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size)
+{
+    Source source(input, size);
+    Record record = zero_record(message_of(catalogue, source.octet()));
+    read_record(source, record);
+    return record;
+}
+
+bool read_packed(const std::string& path, std::vector<Bytes>& inputs, std::string& error)
+{
+    std::ifstream file(path, std::ios::binary);
+    const Bytes all{std::istreambuf_iterator<char>(file), {}};
+    if (!file) {
+        error = path + ": cannot be read";
+        return false;
+    }
+    for (std::size_t at = 0; at < all.size();) {
+        const std::size_t left = all.size() - at;
+        const std::size_t length = left < 4 ? 0 : reference::get32(&all[at]);
+        if (left < 4 || length > left - 4) {
+            error = path + ": ends within the input at byte " + std::to_string(at);
+            return false;
+        }
+        const auto first = all.begin() + static_cast<std::ptrdiff_t>(at + 4);
+        inputs.emplace_back(first, first + static_cast<std::ptrdiff_t>(length));
+        at += 4 + length;
+    }
+    return true;
+}
+
+bool write_packed(const std::string& path, const std::vector<Bytes>& inputs, std::string& error)
+{
+    Bytes all;
+    for (const Bytes& input : inputs) {
+        reference::append(all, input.size(), 4);
+        all.insert(all.end(), input.begin(), input.end());
+    }
+    std::ofstream file(path, std::ios::binary);
+    file.write(reinterpret_cast<const char*>(all.data()), static_cast<std::streamsize>(all.size()));
+    if (!file.flush()) {
+        error = path + ": cannot be written";
+        return false;
+    }
+    return true;
+}
+
+}   // namespace kesto::fuzz

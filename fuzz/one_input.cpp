@@ -1,0 +1,51 @@
+#include "fuzz/one_input.h"
+
+#include <algorithm>
+
+#include "fuzz/inputs.h"
+#include "tests/support/against_reference.h"
+
+namespace kesto::fuzz {
+
+using tests::DecodeCheck;
+using tests::transcribed;
+
+namespace {
+
+constexpr std::uint32_t most_allocations = 64;
+constexpr std::uint32_t largest_allocation = 1 << 14;
+
+}   // namespace
+
+std::string run_decode_input(const std::uint8_t* input, std::size_t size)
+{
+    if (size < 2 || size > longest_input)
+        return {};
+    static DecodeCheck check(1 << 16);
+    check.packs_again = true;
+    check.faults = {most_allocations, true, largest_allocation};
+    if (input[1] != 0)
+        check.faults = {(input[1] & 0x7FU) - 1, input[1] >= 0x80, largest_allocation};
+    const std::uint32_t length = static_cast<std::uint32_t>(size - 2);
+    std::uint8_t* const placed = check.buffer().place(length);
+    std::copy_n(input + 2, length, placed);
+    return check.check(message_of(transcribed(), input[0]), placed, length);
+}
+
+std::string run_record_input(const std::uint8_t* input, std::size_t size)
+{
+    if (size > longest_input)
+        return {};
+    static DecodeCheck check(1 << 16);
+    const Record record = record_from(transcribed(), input, size);
+    std::string fault = tests::check_encoders(record);
+    const Record decoded = as_decoded(record);
+    check.expected = &decoded;
+    if (fault.empty())
+        fault = check.check(*record.message, reference::compact_form(record));
+    if (fault.empty() && record.message->fixed_length != 0)
+        fault = check.check(*record.message, reference::fixed_form(record));
+    return fault;
+}
+
+}   // namespace kesto::fuzz
