@@ -66,7 +66,7 @@ bool decode_text(const Frame& frame, u32 offset, u8* field)
     if (text == nullptr)
         return false;
     if (length != 0)
-        memcpy_sOptAsm(text, length, frame.in.bytes + payload, length);   // payload_fits
+        memcpy_sOptAsm(text, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
     text[length] = 0;   // the sender's own NUL is neither read nor needed
     return true;
 }
@@ -83,7 +83,7 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     store_pointer(field + counted_pointer, block);
     if (block == nullptr)
         return false;
-    memcpy_sOptAsm(block, length, frame.in.bytes + payload, length);   // payload_fits
+    memcpy_sOptAsm(block, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
     return true;
 }
 
