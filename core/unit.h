@@ -28,8 +28,8 @@ struct Unit {
     pthread_mutex_t log_mutex = PTHREAD_MUTEX_INITIALIZER;
     LogWrite log_write = nullptr;
     std::atomic<u32> log_ready{0};
-    u32 byte_order =
-        0;   // non-zero on a host of the other order: a record of what load and store decided when compiled
+    // Non-zero on a host of the other order: a record of what load and store decided when compiled.
+    u32 byte_order = 0;
 };
 
 // Runs once per unit when the library is loaded.

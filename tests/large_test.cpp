@@ -189,19 +189,25 @@ TEST_F(WrappedBlock, of_no_byte_is_reported_by_the_first_element_and_of_two_elem
 
     struct Case {
         std::uint32_t count;
+        bool first_wraps;   // the first cell leads past 2^32
         std::vector<std::string> events;
     };
     const Case cases[] = {
+        {0x01000000, true, {}},
         {0x01000000,
+         false,
          {"ifit_sync_ifit_session_entry_unpack_non_root logs 22 [KESTO]:Param invalid(nonNull, LENGTH, null)"}},
         {0x01000002,
+         false,
          {"ifit_sync_ifit_session_entry_update_unpack allocates block 0, size 512",
           "ifit_sync_ifit_session_entry_update_free_unpacked releases block 0"}},
     };
     for (const Case& each : cases) {
         DecodeCheck check(stem.bytes.size() + std::size_t{4} * each.count);
         std::uint32_t length = 0;
-        const std::uint8_t* const bytes = place(check.buffer(), stem, each.count, 8, length);
+        std::uint8_t* const bytes = place(check.buffer(), stem, each.count, 8, length);
+        if (each.first_wraps)
+            put(bytes + stem.cell, 0xFFFFFFFF, 4);
         ASSERT_EQ(check.check(*vector->message, bytes, length), "");
         const reference::Trace& trace = check.outcome().trace;
         ASSERT_EQ(trace.size(), each.events.size());

@@ -85,6 +85,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
     const RecordMemory memory(made);
     const std::size_t item = sizeof(MeshSendItem);
     mesh().keeps_sends = false;
+    mesh().send_result = -3;   // that MESH refuses changes nothing
     for (const std::uint32_t n : {1u, 3u}) {
         std::size_t size = n == 1 ? reference::reported_size(reference::exact_size(made[0])) : pool + n * item;
         if (fixed())
@@ -92,7 +93,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
         const std::uint32_t blocks = size == 0 ? 0 : 1;
         {
             const WatchMalloc watch;
-            EXPECT_EQ(library().sendmsg(1, memory.data(), n), 0);
+            EXPECT_EQ(library().sendmsg(1, memory.data(), n), -3);
         }
         EXPECT_EQ(malloc_watch.mallocs, blocks) << n;
         EXPECT_EQ(malloc_watch.frees, blocks) << n;
@@ -100,7 +101,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
         mesh().send_calls = 0;
         {
             const WatchMalloc watch(0, true);
-            EXPECT_EQ(library().sendmsg(1, memory.data(), n), blocks == 0 ? 0 : -1);
+            EXPECT_EQ(library().sendmsg(1, memory.data(), n), blocks == 0 ? -3 : -1);
         }
         EXPECT_EQ(malloc_watch.frees, 0u);
         EXPECT_EQ(mesh().send_calls, 1 - blocks);
@@ -203,6 +204,10 @@ TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
     mesh().reset();
     ifit_dfx_query_comm_param_mesh three[3] = {frames[0], frames[0], {}};
     EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);   // the pool is full before the third
+
+    three[1].f2.length += 1;   // the second is too much, and the third would fit in its place
+    EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);
+    EXPECT_TRUE(mesh().sends.empty());
 
     frames[0].f2.length = pool;   // a single message has no such limit
     EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, frames, 1), 0);

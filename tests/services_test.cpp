@@ -16,14 +16,19 @@
 #include <vector>
 
 #include "platform/osal.h"
+#include "reference/decode.h"
+#include "reference/encode.h"
+#include "reference/generate.h"
+#include "reference/memory.h"
+#include "tests/support/figures.h"
 #include "tests/support/malloc_double.h"
 #include "tests/support/unit_uses.h"
+#include "tools/operations.h"
 
 namespace
 {
 
 using kesto::tests::malloc_watch;
-using kesto::tests::one_byte_block;
 using kesto::tests::one_empty_text;
 using kesto::tests::Use;
 using kesto::tests::use_every_unit;
@@ -171,6 +176,28 @@ TEST(Services, are_not_looked_up_without_need)
     });
 }
 
+TEST(Services, are_looked_up_by_whichever_way_of_encoding_comes_first)
+{
+    static const ifit_color_intf_mesh plain[2] = {};
+    static const ifit_dfx_query_comm_param_mesh with_block[2] = {};
+    void (*const ways[])() = {
+        [] {
+            std::uint8_t buffer[64];
+            std::uint32_t length = sizeof buffer;
+            ifit_color_intf_mesh__pack(plain, buffer, &length);
+        },
+        [] { ifit_color_intf_mesh__sendsingle(1, plain, 0, 0); },
+        [] { ifit_color_intf_mesh__sendmsg(1, plain, 2); },
+        [] { ifit_dfx_query_comm_param_mesh__sendsingle(1, with_block, 0, 0); },
+        [] { ifit_dfx_query_comm_param_mesh__sendmsg(1, with_block, 2); },
+    };
+    for (void (*const encode)() : ways)
+        expect_in_child([&](Verdict& verdict) {
+            encode();
+            verdict.expect("look-ups of the flag", lookups_of_flag, 1);
+        });
+}
+
 TEST(Services, are_looked_up_once_by_threads_that_come_together)
 {
     for (int round = 0; round < 20; ++round)
@@ -192,18 +219,53 @@ TEST(Services, are_looked_up_once_by_threads_that_come_together)
         });
 }
 
-// With the plain pair the library's own malloc fails: null pointer, kept count, the log line, nothing left behind.
-TEST(Services, plain_allocation_may_fail)
+// With the plain pair it is malloc that fails, at each allocation of a record that has every part, once or from there on.
+TEST(Services, plain_allocation_may_fail_anywhere)
 {
+    namespace reference = kesto::reference;
+    reference::Catalogue catalogue;
+    std::string error;
+    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
     expect_in_child([&](Verdict& verdict) {
         offer = &offers[1];
-        ntvifit_app_data record{};
-        const WatchMalloc watch(0);
-        ntvifit_app_data__unpack(one_byte_block.data(), static_cast<std::uint32_t>(one_byte_block.size()), &record);
-        verdict.expect("length", static_cast<int>(record.f1.length), 1);
-        verdict.expect("pointer", record.f1.data != nullptr, 0);
-        verdict.expect("log lines", logged, 1);
-        verdict.expect("mallocs", static_cast<int>(malloc_watch.mallocs), 1);
+        int failures = 0;
+        for (const reference::Message& message : catalogue.messages) {
+            const kesto::tools::Operations& library = kesto::tools::operations(message.name);
+            reference::Random chance(message.id);
+            const reference::Bytes bytes =
+                reference::compact_form(reference::random_record(message, reference::Density::full, chance));
+            const auto length = static_cast<std::uint32_t>(bytes.size());
+            const std::vector<std::uint64_t> zeros(library.record_size / 8 + 1);
+            reference::DecodeOptions options;
+            reference::Outcome expected;
+            for (const bool all_after : {false, true}) {
+                std::uint32_t at = 0;
+                do {
+                    options.faults = {at, all_after};
+                    reference::decode(message, bytes.data(), length, options, expected);
+                    std::uint32_t releases = 0;
+                    int lines = logged;
+                    for (const reference::Event& event : expected.trace) {
+                        releases += event.act == reference::Act::release && event.block >= 0;
+                        lines += event.act == reference::Act::log;
+                    }
+                    std::vector<std::uint64_t> record = zeros;
+                    {
+                        const WatchMalloc watch(at, all_after);
+                        library.unpack(bytes.data(), length, record.data());
+                    }
+                    verdict.expect("mallocs", static_cast<int>(malloc_watch.mallocs), static_cast<int>(expected.allocations));
+                    verdict.expect("frees", static_cast<int>(malloc_watch.frees), static_cast<int>(releases));
+                    verdict.expect("log lines", logged, lines);
+                    const std::string fault = reference::difference(expected.record, record.data());
+                    verdict.expect((message.name + " " + fault).c_str(), fault.empty(), true);
+                    library.free_unpacked(record.data());
+                    ++at;
+                    failures += expected.failure ? 1 : 0;
+                } while (expected.failure);
+            }
+        }
+        verdict.expect("some failed", failures > 100, true);
     });
 }
 

@@ -9,10 +9,14 @@ time. Mutants that no test can notice are listed in equivalent.txt beside this s
 when at least 95 % of the others were noticed.
 """
 import argparse
+import concurrent.futures
 import os
+import queue
 import random
 import re
+import resource
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -21,7 +25,10 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 FILES = ["wire.h", "decode.h", "decode.cpp", "encode.h", "fixed.h", "run.h", "layout.h", "send.cpp", "unit.h", "unit.cpp",
          "registration.cpp", "receive_unit.h", "send_unit.h"]
-TESTS = [["codec_test", "--gtest_brief=1", "--gtest_fail_fast"], ["services_test", "--gtest_brief=1"]]
+TESTS = [["codec_test", "--gtest_brief=1", "--gtest_fail_fast"], ["services_test", "--gtest_brief=1"],
+         ["large_test", "--gtest_brief=1"]]
+
+MOST_MEMORY = 2 << 30   # of a compiler
 
 # What is looked for in a line without its comment, and what it becomes.
 CHANGES = [
@@ -37,12 +44,27 @@ CHANGES = [
 LEFT_OUT = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
 
 
+def runs_here(lines):
+    """(number, line) of those that are not for hosts of the other byte order alone, which no test here runs."""
+    choice = other = None   # indents: of the choice between the two orders, and of the branch that is not taken here
+    for number, line in enumerate(lines):
+        indent = len(line) - len(line.lstrip())
+        if other is not None and line.strip() and indent <= other:
+            other = None
+        if re.match(r"\s*if constexpr \(host_has_wire_order", line):
+            choice = indent
+        elif choice == indent and re.match(r"\s*else$", line):
+            other, choice = indent, None
+        elif other is None:
+            yield number, line
+
+
 def mutants_of(path):
     """All (line number, old, new) of one file."""
     found = []
     with open(path) as file:
         lines = file.read().split("\n")
-    for number, line in enumerate(lines):
+    for number, line in runs_here(lines):
         code = line.split("//")[0].rstrip()
         if not code or LEFT_OUT.search(code):
             continue
@@ -78,25 +100,61 @@ def equivalents():
     return known
 
 
+def limit_memory():
+    resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
+
+
 def run(command, **kwargs):
-    try:
-        return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, timeout=240, **kwargs)
-    except subprocess.TimeoutExpired:
-        return None
+    """Whether it succeeded in time. Nothing that it started goes on."""
+    with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True,
+                          **kwargs) as process:
+        try:
+            return process.wait(timeout=120) == 0
+        except subprocess.TimeoutExpired:
+            os.killpg(process.pid, signal.SIGKILL)
+            return False
 
 
-def verdict(tree, build, tests):
-    """'not built', 'noticed' or 'survived'."""
-    built = run(["ninja", "-C", build, "ifit_codec"])
-    if built is None or built.returncode != 0:
-        return "not built"
-    # The tests find the library by the path that they were linked with, unless this one comes first.
-    environment = dict(os.environ, LD_LIBRARY_PATH=build)
-    for test in TESTS:
-        result = run([os.path.join(tests, "tests", test[0])] + test[1:], env=environment, cwd=tree)
-        if result is None or result.returncode != 0:
-            return "noticed"
-    return "survived"
+class Tree:
+    """A copy of the sources and a build of its library."""
+
+    def __init__(self, folder, tests):
+        self.root = os.path.join(folder, "tree")
+        self.build = os.path.join(folder, "build")
+        self.tests = tests
+        for part in ("core", "messages", "platform", "include", "cmake"):
+            shutil.copytree(os.path.join(ROOT, part), os.path.join(self.root, part))
+        shutil.copy(os.path.join(ROOT, "CMakeLists.txt"), self.root)
+        configured = run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
+                          "-DCMAKE_CXX_FLAGS=-O0 -w"])
+        if not configured:
+            sys.exit("configure failed")
+
+    def verdict(self):
+        """'not built', 'noticed' or 'survived'."""
+        # A constant that is off can make the compiler take all there is.
+        if not run(["ninja", "-j1", "-C", self.build, "ifit_codec"], preexec_fn=limit_memory):
+            return "not built"
+        # The tests find the library by the path that they were linked with, unless this one comes first.
+        environment = dict(os.environ, LD_LIBRARY_PATH=self.build)
+        for test in TESTS:
+            if not run([os.path.join(self.tests, "tests", test[0])] + test[1:], env=environment, cwd=self.root):
+                return "noticed"
+        return "survived"
+
+    def verdict_with(self, name, line, new):
+        path = os.path.join(self.root, "core", name)
+        with open(path) as file:
+            original = file.read()
+        lines = original.split("\n")
+        lines[line] = new
+        with open(path, "w") as file:
+            file.write("\n".join(lines))
+        try:
+            return self.verdict()
+        finally:
+            with open(path, "w") as file:
+                file.write(original)
 
 
 def main():
@@ -112,32 +170,29 @@ def main():
     known = equivalents()
     tests = os.path.abspath(options.tests)
     counts = {"not built": 0, "noticed": 0, "equivalent": 0, "survived": 0}
+    jobs = os.cpu_count() or 1
     with tempfile.TemporaryDirectory(prefix="kesto_mutants_") as folder:
-        tree = os.path.join(folder, "tree")
-        for part in ("core", "messages", "platform", "include", "cmake"):
-            shutil.copytree(os.path.join(ROOT, part), os.path.join(tree, part))
-        shutil.copy(os.path.join(ROOT, "CMakeLists.txt"), tree)
-        build = os.path.join(folder, "build")
-        configured = run(["cmake", "-S", tree, "-B", build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None", "-DCMAKE_CXX_FLAGS=-O0 -w"])
-        if configured is None or configured.returncode != 0:
-            sys.exit("configure failed")
-        if verdict(tree, build, tests) != "survived":
+        trees = [Tree(os.path.join(folder, str(job)), tests) for job in range(jobs)]
+        if trees[0].verdict() != "survived":
             sys.exit("the tests fail without a mutant")
-        for number, (name, line, old, new) in enumerate(chosen, 1):
-            path = os.path.join(tree, "core", name)
-            with open(path) as file:
-                original = file.read()
-            lines = original.split("\n")
-            lines[line] = new
-            with open(path, "w") as file:
-                file.write("\n".join(lines))
-            result = verdict(tree, build, tests)
-            with open(path, "w") as file:
-                file.write(original)
-            if result == "survived" and (name, old.strip(), new.split("//")[0].strip()) in known:
-                result = "equivalent"
-            counts[result] += 1
-            print(f"{number}/{len(chosen)} {result:10} {name}:{line + 1}: {old.strip()}  ->  {new.strip()}", flush=True)
+        free = queue.SimpleQueue()
+        for tree in trees:
+            free.put(tree)
+
+        def judge(mutant):
+            name, line, old, new = mutant
+            tree = free.get()
+            try:
+                return mutant, tree.verdict_with(name, line, new)
+            finally:
+                free.put(tree)
+
+        with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
+            for number, ((name, line, old, new), result) in enumerate(pool.map(judge, chosen), 1):
+                if result == "survived" and (name, old.strip(), new.split("//")[0].strip()) in known:
+                    result = "equivalent"
+                counts[result] += 1
+                print(f"{number}/{len(chosen)} {result:10} {name}:{line + 1}: {old.strip()}  ->  {new.strip()}", flush=True)
     judged = counts["noticed"] + counts["not built"] + counts["survived"]
     share = 100 * (judged - counts["survived"]) / judged
     print(f"{sum(counts.values())} mutants: {counts['noticed']} noticed by the tests, {counts['not built']} by the compiler, "
