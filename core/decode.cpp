@@ -6,25 +6,6 @@ namespace kesto {
 
 namespace {
 
-// Record fields are read and written as bytes: a caller's record needs no more alignment than it was given.
-u8* load_pointer(const u8* at)
-{
-    u8* pointer;
-    std::memcpy(&pointer, at, sizeof pointer);
-    return pointer;
-}
-
-void store_pointer(u8* at, const u8* pointer) { std::memcpy(at, &pointer, sizeof pointer); }
-
-u32 load_count(const u8* at)
-{
-    u32 count;
-    std::memcpy(&count, at, sizeof count);
-    return count;
-}
-
-void store_count(u8* at, u32 count) { std::memcpy(at, &count, sizeof count); }
-
 // Null, after a log line, when there is no memory.
 u8* allocate(const Frame& frame, u32 size)
 {
@@ -37,15 +18,15 @@ u8* allocate(const Frame& frame, u32 size)
 
 void release_block(const Decoder& owner, u8* pointer_field)
 {
-    owner.unit->release(load_pointer(pointer_field), OSAL_MEMORY_MODULE, owner.free_routine);
-    store_pointer(pointer_field, nullptr);
+    owner.unit->release(field_pointer(pointer_field), OSAL_MEMORY_MODULE, owner.free_routine);
+    set_field<u8*>(pointer_field, nullptr);
 }
 
 // Releases a vector whose block holds `count` whole elements; nothing when there is no block.
 void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32 count)
 {
     u8* const pointer_field = field + counted_pointer;
-    u8* const records = load_pointer(pointer_field);
+    u8* const records = field_pointer(pointer_field);
     if (records == nullptr)
         return;
     if (element.heap_field_count != 0)
@@ -62,7 +43,7 @@ bool decode_text(const Frame& frame, u32 offset, u8* field)
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
     u8* const text = allocate(frame, length + 1);   // length < 2^31, as it fits
-    store_pointer(field, text);
+    set_field<u8*>(field, text);
     if (text == nullptr)
         return false;
     if (length != 0)
@@ -76,25 +57,15 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     u32 payload = 0, length = 0;
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
-    store_count(field, length);   // stays even if the allocation fails
+    set_field<u32>(field, length);   // stays even if the allocation fails
     if (length == 0)
         return true;
     u8* const block = allocate(frame, length);
-    store_pointer(field + counted_pointer, block);
+    set_field<u8*>(field + counted_pointer, block);
     if (block == nullptr)
         return false;
     memcpy_sOptAsm(block, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
     return true;
-}
-
-bool decode_bytes(const Frame& frame, u32 offset, u32 count, u8* field)
-{
-    return read_array<u8>(frame.in, frame.view, offset, count, field);
-}
-
-bool decode_words(const Frame& frame, u32 offset, u32 count, u8* field)
-{
-    return read_array<u32>(frame.in, frame.view, offset, count, field);
 }
 
 bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element)
@@ -102,7 +73,7 @@ bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecode
     u32 cells = 0, count = 0;
     if (!open_body(frame.in, frame.view, offset, cells, count) || !payload_fits(frame.in, cells, count, cell_bytes))
         return false;
-    store_count(field, count);   // stays even if the next lines fail
+    set_field<u32>(field, count);   // stays even if the next lines fail
     if (count == 0)
         return true;
 
@@ -116,7 +87,7 @@ bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecode
         return false;
     }
     u8* const records = allocate(frame, size);
-    store_pointer(field + counted_pointer, records);
+    set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;
     memset_s(records, size, 0, size);
@@ -145,7 +116,7 @@ void release_record(const Decoder& decoder, u8* record)
             break;
         case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
         case Kind::vector:
-            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, load_count(field));
+            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
             break;
         case Kind::scalar:
         case Kind::array: break;
@@ -161,9 +132,7 @@ void free_unpacked(void* record, const Decoder& decoder)
 
 bool open_message(Frame& frame, const u8* bytes, u32 length, const void* record, const Decoder& decoder)
 {
-    // As a signed number, so that a length of 2^31 and more is refused too.
-    constexpr auto least = static_cast<std::int32_t>(least_length);
-    if (bytes == nullptr || record == nullptr || static_cast<std::int32_t>(length) < least) [[unlikely]] {
+    if (!may_decode(bytes, length, record)) [[unlikely]] {
         log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
         return false;
     }

@@ -1,11 +1,11 @@
 // From record to compact form: a size routine that says how many bytes are needed, then a packer without bounds tests.
 //
 // Both walk the slots of a layout by the same rules, except for the two cases in which they are required to differ:
-// a block with a pointer and length 0, and a vector with a count and no pointer.
+// a block with a pointer and length 0, and a vector with a count and no pointer. Where there is room for the largest
+// table of a layout, its bound, the packer runs alone, and its end gives the size.
 #pragma once
 
-#include "core/layout.h"
-#include "core/run.h"
+#include "core/forms.h"
 #include "core/unit.h"
 #include "platform/bounded_memory.h"
 
@@ -13,15 +13,18 @@ namespace kesto {
 
 struct NestedEncoder;
 
-// The size of `count` tables without their cells; too_large when one of them or all do not fit 32 bits.
+enum class Measure : bool { exactly, bound };
+
+// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32 bits.
 using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
 
 // Writes `count` tables from `at` on and fills their cells. Returns the end of what was written.
 using WriteElements = u8* (*)(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested);
 
-// A message inside another one, as far as encoding goes. The two routines are null for a table.
+// A message inside another one, as far as encoding goes. The routines are null for a table.
 struct NestedEncoder {
     MeasureElements measure_elements;
+    MeasureElements bound_elements;
     WriteElements write_elements;
     const NestedEncoder* nested;   // the messages inside that one
 };
@@ -29,31 +32,21 @@ struct NestedEncoder {
 constexpr u64 largest_size = 0xFFFFFFFF;
 constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits stays there
 
-// ---- record fields ----
-
-template <class T>
-inline T field_value(const u8* field)
-{
-    T value;
-    std::memcpy(&value, field, sizeof value);
-    return value;
-}
-
-inline const u8* field_pointer(const u8* field) { return field_value<const u8*>(field); }
-
 // ---- the size routine ----
 
-// The size of one table and all beneath it, without a root.
-template <class L>
+// The size of one table and all beneath it, without a root. A bound counts every scalar; it is too_large where size and
+// packer differ, so that nobody relies on it there.
+template <class L, Measure how>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
+    constexpr bool exactly = how == Measure::exactly;
     u64 size = L::empty_table;
     const bool fits = each_slot<L>([&](auto k) __attribute__((always_inline)) {
         constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
-            size += field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
+            size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
         } else if constexpr (Slot::kind == Kind::array) {
             size += cell_bytes + count_bytes + Slot::payload;
         } else if constexpr (Slot::kind == Kind::text) {
@@ -62,32 +55,48 @@ template <class L>
                 size += u64{cell_bytes + count_bytes} + std::strlen(reinterpret_cast<const char*>(text)) + 1;
         } else if constexpr (Slot::kind == Kind::block) {
             // required: the pointer alone decides, so a block of length 0 counts 8 bytes that nobody writes
-            if (field_pointer(field + counted_pointer) != nullptr)
-                size += u64{cell_bytes + count_bytes} + field_value<u32>(field);
+            if (field_pointer(field + counted_pointer) != nullptr) {
+                const u32 length = field_value<u32>(field);
+                size += u64{cell_bytes + count_bytes} + length;
+                if (!exactly && length == 0)
+                    size = too_large;
+            }
         } else if constexpr (Slot::kind == Kind::vector) {
             // required: the count alone decides; a count without elements is the caller's fault
             const u32 count = field_value<u32>(field);
             if (count != 0) {
+                const u8* const records = field_pointer(field + counted_pointer);
                 const NestedEncoder& element = nested[L::nested_before(K)];
+                const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
-                size += element.measure_elements(field_pointer(field + counted_pointer), count, element.nested);
+                size += measure(records, count, element.nested);
+                if (!exactly && records == nullptr)
+                    size = too_large;
             }
         } else {
+            using Inner = typename Slot::Layout;
             size += cell_bytes;
-            size += measure_table<typename Slot::Layout>(field, nested[L::nested_before(K)].nested);
+            if constexpr (exactly || Inner::has_heap_parts)
+                size += measure_table<Inner, how>(field, nested[L::nested_before(K)].nested);
+            else
+                size += FullForm<Inner>::length;
         }
         return size <= largest_size;   // so that no sum ever wraps
     });
     return fits ? size : too_large;
 }
 
-template <class L>
+template <class L, Measure how>
 u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
 {
-    u64 size = 0;
-    for (u32 i = 0; i < count && size <= largest_size; ++i)
-        size += measure_table<L>(records + std::size_t{i} * L::record_size, nested);
-    return size;
+    if constexpr (how == Measure::bound && !L::has_heap_parts) {
+        return u64{count} * FullForm<L>::length;
+    } else {
+        u64 size = 0;
+        for (u32 i = 0; i < count && size <= largest_size; ++i)
+            size += measure_table<L, how>(records + std::size_t{i} * L::record_size, nested);
+        return size;
+    }
 }
 
 // The size of a whole message, or 0 for a null record and for a size beyond 32 bits.
@@ -96,8 +105,18 @@ u32 measure_message(const u8* record, const NestedEncoder* nested)
 {
     if (record == nullptr)
         return 0;
-    const u64 size = root_bytes + measure_table<L>(record, nested);
+    const u64 size = root_bytes + measure_table<L, Measure::exactly>(record, nested);
     return size <= largest_size ? static_cast<u32>(size) : 0;
+}
+
+// Where there is room for so many bytes the packer may run without a measure before it. Beyond 32 bits there never is.
+template <class L>
+[[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
+{
+    if constexpr (L::has_heap_parts)
+        return root_bytes + measure_table<L, Measure::bound>(record, nested);
+    else
+        return root_bytes + FullForm<L>::length;
 }
 
 // ---- the packer ----
@@ -133,6 +152,10 @@ struct SlotWords {
 // written.
 template <class L>
 [[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
+
+// The same, slot by slot.
+template <class L>
+[[gnu::noinline]] u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
 // One table on its way out. `at` is the offset from the table of the next byte to write.
 template <class L>
@@ -259,7 +282,7 @@ struct TableWriter {
 };
 
 template <class L>
-u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     TableWriter<L> writer(vtable + L::vtable_bytes, record);
     each_slot<L>([&](auto k) __attribute__((always_inline)) {
@@ -288,13 +311,41 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     return end;
 }
 
+// The fast way: a record without a zero scalar. False, and nothing is done, when it is not such a one.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool write_full_table(u8* vtable, const u8* record)
+{
+    if (!has_full_form<L>(record))
+        return false;
+    FullForm<L>::write(vtable, record);
+    return true;
+}
+
+template <class L>
+u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+{
+    if constexpr (!L::has_heap_parts)
+        if (write_full_table<L>(vtable, record))
+            return vtable + FullForm<L>::length;
+    return write_any_table<L>(vtable, record, nested);
+}
+
 template <class L>
 u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
 {
+    bool full = !L::has_heap_parts;   // as long as all before were
     for (u32 i = 0; i < count; ++i) {
         u8* const cell = cells + std::size_t{cell_bytes} * i;
+        const u8* const record = records + std::size_t{i} * L::record_size;
         store(cell, static_cast<u32>(at + L::vtable_bytes - cell));
-        at = write_table<L>(at, records + std::size_t{i} * L::record_size, nested);
+        if constexpr (!L::has_heap_parts) {
+            full = full && write_full_table<L>(at, record);
+            if (full) {
+                at += FullForm<L>::length;
+                continue;
+            }
+        }
+        at = write_any_table<L>(at, record, nested);
     }
     return at;
 }

@@ -19,6 +19,24 @@ constexpr u32 rounded_up(u32 value, u32 multiple) { return (value + multiple - 1
 
 constexpr u32 pointer_bytes = sizeof(void*);
 
+// ---- record fields, as bytes: a caller's record needs no more alignment than it was given ----
+
+template <class T>
+inline T field_value(const u8* field)
+{
+    T value;
+    std::memcpy(&value, field, sizeof value);
+    return value;
+}
+
+inline u8* field_pointer(const u8* field) { return field_value<u8*>(field); }
+
+template <class T>
+inline void set_field(u8* field, T value)
+{
+    std::memcpy(field, &value, sizeof value);
+}
+
 // ---- the slots of a layout ----
 
 template <class T>

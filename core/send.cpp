@@ -9,12 +9,6 @@ namespace {
 constexpr int failed = -1;
 constexpr u32 pool_bytes = 0x10000;   // all byte strings of a compact batch
 
-// Hands items to MESH; a destination of 0 means none.
-int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination)
-{
-    return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
-}
-
 // Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length
 // 0, the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
 void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
@@ -54,39 +48,19 @@ struct Batch {
 {
     if (used == pool_bytes)
         return false;
-    const u32 size = encoder.layout->measure(record, encoder.nested);
-    if (size == 0 || size > pool_bytes - used)
-        return false;
     u8* const at = batch.data + used;
-    write_sent(at, size, record, encoder);
+    u32 size;
+    if (encoder.layout->bound(record, encoder.nested) <= pool_bytes - used) {
+        size = static_cast<u32>(encoder.layout->write(at, record, encoder.nested) - at);
+    } else {
+        size = encoder.layout->measure(record, encoder.nested);
+        if (size == 0 || size > pool_bytes - used)
+            return false;
+        write_sent(at, size, record, encoder);
+    }
     batch.items[i] = {at, encoder.id, size};
     used += size;
     return true;
-}
-
-int send_single_fixed(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
-{
-    u8 buffer[fixed_buffer_bytes];
-    ensure_memory_services(*encoder.unit);
-    encoder.layout->write_fixed(buffer, record);
-    const MeshSendItem item{buffer, encoder.id, encoder.layout->fixed_length};
-    return hand_over(channel, &item, 1, destination);
-}
-
-int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
-{
-    const u32 size = encoder.layout->measure(record, encoder.nested);
-    if (size == 0)
-        return failed;
-    u8* const buffer = static_cast<u8*>(std::malloc(size));
-    if (buffer == nullptr)
-        return failed;
-    ensure_memory_services(*encoder.unit);
-    write_sent(buffer, size, record, encoder);
-    const MeshSendItem item{buffer, encoder.id, size};
-    const int result = hand_over(channel, &item, 1, destination);
-    std::free(buffer);
-    return result;
 }
 
 int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
@@ -122,7 +96,7 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
 
 }   // namespace
 
-int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
 {
     const u32 size = encoder.layout->measure(record, encoder.nested);
     if (size == 0 || *length < size)
@@ -138,11 +112,20 @@ int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
     return 0;
 }
 
-int send_single(u32 channel, const u8* record, u32 /*unused*/, u32 destination, const Encoder& encoder)
+int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
 {
-    if (encoder.layout->write_fixed != nullptr)
-        return send_single_fixed(channel, record, destination, encoder);
-    return send_single_compact(channel, record, destination, encoder);
+    const u32 size = encoder.layout->measure(record, encoder.nested);
+    if (size == 0)
+        return failed;
+    u8* const buffer = static_cast<u8*>(std::malloc(size));
+    if (buffer == nullptr)
+        return failed;
+    ensure_memory_services(*encoder.unit);
+    write_sent(buffer, size, record, encoder);
+    const MeshSendItem item{buffer, encoder.id, size};
+    const int result = hand_over(channel, &item, 1, destination);
+    std::free(buffer);
+    return result;
 }
 
 int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
@@ -155,7 +138,7 @@ int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const
 int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
 {
     if (count == 1)
-        return send_single(channel, records, 0, destination, encoder);
+        return encoder.layout->send_single(channel, records, destination, encoder);
     if (count == 0)
         return failed;
     return send_batch(channel, records, count, destination, encoder);

@@ -2,29 +2,22 @@
 #pragma once
 
 #include "core/encode.h"
-#include "core/fixed.h"
 #include "platform/mesh.h"
 
 namespace kesto {
+
+struct Encoder;
 
 // What all messages of one layout encode with.
 struct LayoutEncoder {
     u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size, 0 for none
     u8* (*write)(u8* buffer, const u8* record, const NestedEncoder* nested);   // the compact form; returns its end
+    u64 (*bound)(const u8* record, const NestedEncoder* nested);               // of the compact form's size
     void (*write_fixed)(u8* buffer, const u8* record);                         // null where there is no fixed form
-    u32 fixed_length;                                                          // 0 where there is none
+    int (*send_single)(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
+    u32 fixed_length;   // 0 where there is none
     u32 record_size;
 };
-
-template <class L>
-constexpr LayoutEncoder layout_encoder = [] {
-    LayoutEncoder made{measure_message<L>, write_message<L>, nullptr, 0, L::record_size};
-    if constexpr (!L::has_heap_parts) {
-        made.write_fixed = write_fixed<L>;
-        made.fixed_length = L::fixed_length;
-    }
-    return made;
-}();
 
 // What packing and sending need to know about one message beyond its layout.
 struct Encoder {
@@ -35,11 +28,51 @@ struct Encoder {
     u32 id;
 };
 
+// Hands items to MESH; a destination of 0 means none.
+inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination)
+{
+    return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
+}
+
 // The bodies of X__pack, X__sendsingle, X__sendbatch, and of X__sendmsg and X__sendtomsg together. Records lie end to
 // end.
-int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder);
-int send_single(u32 channel, const u8* record, u32 unused, u32 destination, const Encoder& encoder);
+int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder);
+int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
 int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
 int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
+
+template <class L>
+[[gnu::noinline]] int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+{
+    if (record == nullptr || buffer == nullptr || *length < bound_message<L>(record, encoder.nested)) [[unlikely]]
+        return pack_measured(record, buffer, length, encoder);
+    ensure_memory_services(*encoder.unit);
+    *length = static_cast<u32>(write_message<L>(buffer, record, encoder.nested) - buffer);
+    return 0;
+}
+
+template <class L>
+[[gnu::noinline]] int send_single(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+{
+    if constexpr (L::has_heap_parts) {
+        return send_single_compact(channel, record, destination, encoder);
+    } else {
+        u8 buffer[L::fixed_length];
+        ensure_memory_services(*encoder.unit);
+        FixedForm<L>::write(buffer, record);
+        const MeshSendItem item{buffer, encoder.id, L::fixed_length};
+        return hand_over(channel, &item, 1, destination);
+    }
+}
+
+template <class L>
+constexpr LayoutEncoder layout_encoder = [] {
+    LayoutEncoder made{measure_message<L>, write_message<L>, bound_message<L>, nullptr, send_single<L>, 0, L::record_size};
+    if constexpr (!L::has_heap_parts) {
+        made.write_fixed = FixedForm<L>::write;
+        made.fixed_length = L::fixed_length;
+    }
+    return made;
+}();
 
 }   // namespace kesto

@@ -22,7 +22,9 @@ struct Sending {
             using Named = typename decltype(slot)::Message;
             NestedEncoder& entry = list[next++];
             if constexpr (slot.kind == Kind::vector)
-                entry = {measure_elements<typename Named::Layout>, write_elements<typename Named::Layout>, nullptr};
+                entry = {measure_elements<typename Named::Layout, Measure::exactly>,
+                         measure_elements<typename Named::Layout, Measure::bound>,
+                         write_elements<typename Named::Layout>, nullptr};
             entry.nested = Sending<Named, unit>::nested.data();
         });
         return list;

@@ -125,6 +125,21 @@ template <class In>
     return TableFault::none;
 }
 
+// Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the root.
+// n is at least `before`, and small.
+template <class In>
+[[nodiscard]] inline bool picture_fits(const In& in, typename In::Word table, u32 before, u32 n, typename In::Word& at)
+{
+    using Word = typename In::Word;
+    if (in.length < root_bytes + n)
+        return false;
+    const Word behind_first = table - (root_bytes + before);   // of a table too far in front: more than any length
+    if (behind_first > in.length - (root_bytes + n))
+        return false;
+    at = table - before;
+    return true;
+}
+
 // Whether the vtable has as many slots. An odd length is legal.
 template <class In>
 inline bool holds_slots(const TableView<In>& view, typename In::Word slots)

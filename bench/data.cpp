@@ -1,0 +1,156 @@
+#include "bench/data.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+
+#include "reference/encode.h"
+#include "reference/generate.h"
+
+namespace kesto::bench {
+
+namespace {
+
+using reference::Catalogue;
+using reference::Field;
+using reference::Kind;
+using reference::Message;
+using reference::Random;
+using reference::Record;
+using reference::Slot;
+
+constexpr u32 most_records = 64;
+constexpr u64 most_bytes = 256 << 10;
+
+[[noreturn]] void fail(const std::string& text)
+{
+    std::fprintf(stderr, "%s\n", text.c_str());
+    std::exit(1);
+}
+
+const Message& message_named(const char* name)
+{
+    static const Catalogue catalogue = [] {
+        Catalogue read;
+        std::ifstream file(KESTO_MESSAGES);
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        std::string error;
+        if (text.empty() || !read.add(text, error))
+            fail(KESTO_MESSAGES ": " + error);
+        return read;
+    }();
+    const Message* const message = catalogue.find(name);
+    if (message == nullptr)
+        fail(std::string("no message ") + name);
+    return *message;
+}
+
+// Which scalars of a uniform row are zero: three of five of them, rounded, drawn by the message's id.
+std::vector<bool> uniform_zeros(const Message& message)
+{
+    std::vector<std::size_t> scalars;
+    for (std::size_t k = 0; k < message.slots.size(); ++k)
+        if (message.slots[k].kind == Kind::scalar)
+            scalars.push_back(k);
+    Random random(message.id);
+    for (std::size_t left = scalars.size(); left > 1; --left)
+        std::swap(scalars[left - 1], scalars[random.below(static_cast<u32>(left))]);
+    std::vector<bool> zeros(message.slots.size());
+    for (std::size_t i = 0; i < (scalars.size() * 6 + 5) / 10; ++i)
+        zeros[scalars[i]] = true;
+    return zeros;
+}
+
+u64 not_zero(u32 width, Random& random)
+{
+    const u64 value = random.next() >> (64 - 8 * width);
+    return value == 0 ? 1 : value;
+}
+
+void fill_octets(std::vector<u8>& octets, std::size_t count, Random& random)
+{
+    octets.resize(count);
+    for (u8& octet : octets)
+        octet = static_cast<u8>(not_zero(1, random));
+}
+
+Record make_record(const Message& message, const Shape& shape, Fill fill, Random& random)
+{
+    Record record = reference::zero_record(message);
+    const std::vector<bool> zeros = uniform_zeros(message);
+    for (std::size_t k = 0; k < record.fields.size(); ++k) {
+        const Slot& slot = message.slots[k];
+        Field& field = record.fields[k];
+        switch (slot.kind) {
+        case Kind::scalar: {
+            const bool zero = fill == Fill::sparse ? random.below(10) < 6 : fill == Fill::uniform && zeros[k];
+            field.number = zero ? 0 : not_zero(slot.width, random);
+            break;
+        }
+        case Kind::string:
+        case Kind::bytes:
+            field.present = true;
+            fill_octets(field.octets, slot.kind == Kind::string ? shape.text : shape.block, random);
+            field.number = slot.kind == Kind::bytes ? field.octets.size() : 0;
+            break;
+        case Kind::array:
+            for (u8& octet : field.octets)
+                octet = static_cast<u8>(not_zero(1, random));
+            for (u32& word : field.words)
+                word = static_cast<u32>(not_zero(4, random));
+            break;
+        case Kind::table: field.records[0] = make_record(*slot.nested, shape, fill, random); break;
+        case Kind::vector:
+            field.present = true;
+            field.number = shape.rows;
+            for (u32 i = 0; i < shape.rows; ++i)
+                field.records.push_back(make_record(*slot.nested, shape, fill, random));
+            break;
+        }
+    }
+    return record;
+}
+
+}   // namespace
+
+const char* name_of(Fill fill) { return fill == Fill::full ? "full" : fill == Fill::sparse ? "sparse" : "uniform"; }
+
+const std::vector<Shape> shapes = {
+    {"ifit_color_intf_mesh", 0, 0, 0, false},
+    {"ifit_flow_base_mesh", 0, 0, 0, false},
+    {"ifit_flow_statistics_entry_to_mdtlm", 0, 0, 0, false},
+    {"ifit_sync_ifit_session_entry", 0, 0, 0, false},
+    {"ifit_flow_base_mesh_update", 1, 0, 0, false},
+    {"ifit_flow_base_mesh_update", 16, 0, 0, true},
+    {"ifit_flow_base_mesh_update", 256, 0, 0, true},
+    {"ifit_dfx_query_queryhash_rec_mesh", 0, 24, 64, false},
+    {"ntvifit_stats_info_list", 32, 0, 40, false},
+};
+
+RecordSet make_records(const Shape& shape, Fill fill)
+{
+    const Message& message = message_named(shape.message);
+    Random random(message.id + shape.rows + static_cast<u32>(fill));
+    RecordSet set{shape, fill, {}, {}};
+    u64 bytes = 0;
+    do {
+        set.records.push_back(make_record(message, shape, fill, random));
+        bytes += 2 * reference::exact_size(set.records.back());   // the record takes less than its byte string
+    } while (set.records.size() < most_records && bytes + bytes / set.records.size() <= most_bytes);
+    for (const Record& record : set.records)
+        set.memory.push_back(std::make_unique<reference::RecordMemory>(record));
+    return set;
+}
+
+std::vector<RecordSet> make_all_records()
+{
+    std::vector<RecordSet> sets;
+    for (const Shape& shape : shapes)
+        for (const Fill fill : {Fill::full, Fill::sparse, Fill::uniform})
+            if (fill != Fill::uniform || shape.has_uniform)
+                sets.push_back(make_records(shape, fill));
+    return sets;
+}
+
+}   // namespace kesto::bench

@@ -1,0 +1,305 @@
+"""Takes the benchmark's JSON files and says how the library does: tables, goals, plots, and the measured part of
+docs/performance.md.
+
+  report.py FILE...           prints the tables and the goals
+  report.py --docs FILE...    also writes the measured part of docs/performance.md and docs/performance/*.svg, with the
+                              allocations.txt that lies beside the first file
+
+A case's time is the median of its processor time over all repetitions in all files. Of the two ways to copy, the faster
+one is the limit. A median is within a few hundredths of the next run's; single repetitions are not.
+"""
+
+import argparse
+import json
+import pathlib
+import re
+import statistics
+import subprocess
+import sys
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+
+SINGLE = ["ifit_color_intf_mesh", "ifit_flow_base_mesh", "ifit_flow_statistics_entry_to_mdtlm",
+          "ifit_sync_ifit_session_entry"]
+COLOUR, FLOW, STATISTICS, SESSION = SINGLE
+UPDATE = "ifit_flow_base_mesh_update"
+HASH = "ifit_dfx_query_queryhash_rec_mesh"
+LIST = "ntvifit_stats_info_list:32"
+
+# What is asked of the library: at most so many times the limit, at most that part of the faster one of protobuf and
+# Cap'n Proto, at most that part of protobuf.
+GOALS = []
+
+
+def goal(operations, messages, fills, limit, peers, protobuf=None):
+    for operation in operations:
+        for message in messages:
+            for fill in fills:
+                GOALS.append((operation, f"{message}/{fill}", limit, peers, protobuf))
+
+
+BOTH = ["unpack", "unpack_sent"]
+goal(["send"], [STATISTICS, SESSION], ["full"], 3.0, 0.16)
+goal(["send"], [COLOUR, FLOW], ["full"], 4.0, 0.38)
+goal(["pack"], SINGLE, ["full"], 4.0, 0.32)
+goal(["pack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["full"], 6.5, 0.9)
+goal(["pack"], [HASH], ["full"], 3.0, 0.28)
+goal(["pack"], [LIST], ["full"], 3.2, 0.28)
+goal(["pack"], SINGLE, ["sparse"], 7, 0.45)
+goal(["pack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["sparse"], 16, 2.2, 0.45)
+goal(["pack"], [f"{UPDATE}:256"], ["uniform"], 10, 1.6)
+goal(BOTH, [COLOUR], ["full"], 2.8, 0.28)
+goal(BOTH, [FLOW, STATISTICS, SESSION], ["full"], 2.8, 0.16)
+goal(["unpack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["full"], 2.8, 0.32)
+goal(["unpack"], [f"{UPDATE}:1", LIST], ["full"], 1.5, 0.30)
+goal(["unpack"], [HASH], ["full"], 2.0, 0.30)
+goal(["unpack"], [COLOUR], ["sparse"], 5, 0.5)
+goal(["unpack"], [FLOW, STATISTICS, SESSION], ["sparse"], 5, 0.30)
+goal(["unpack"], [f"{UPDATE}:256"], ["sparse", "uniform"], 10, 1.0)
+EVEN = 1.05   # sending a sparse record in fixed form against a full one, and the other way round
+
+OPERATIONS = ["send", "pack", "unpack", "unpack_sent"]
+COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # of the peers and the limit
+CONTENDERS = ["ours", "limit", "protobuf", "capnp", "nanopb"]
+PEERS = ["protobuf", "capnp"]   # the faster one is `best`
+ROWS = [1, 4, 16, 64, 256, 1024, 4096]
+SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
+
+
+class Results:
+    """Median times in nanoseconds by (operation, set, contender), and mean lengths of byte strings."""
+
+    def __init__(self, paths):
+        times, lengths, rates = {}, {}, {}
+        for path in paths:
+            with open(path, encoding="utf-8") as file:
+                content = json.load(file)
+            self.context = content["context"]
+            for run in content["benchmarks"]:
+                if run.get("run_type") != "iteration":
+                    continue
+                if run["name"].startswith("threads_"):
+                    rates.setdefault((run["name"].split("/")[0], run["threads"]), []).append(run["items_per_second"])
+                    continue
+                operation, message, fill, contender = run["name"].split("/")[:4]
+                key = operation, f"{message}/{fill}", contender
+                times.setdefault(key, []).append(run["cpu_time"])
+                lengths[key] = run["bytes"]
+        self.processes = len(paths)
+        self.repetitions = max(map(len, times.values()), default=0) // len(paths)
+        self.times = {key: statistics.median(values) for key, values in times.items()}
+        self.rates = {key: statistics.median(values) for key, values in rates.items()}
+        self.lengths = lengths
+        for operation, records, contender in list(self.times):
+            if contender.startswith("limit_"):
+                key = operation, records, "limit"
+                time = self.times[operation, records, contender]
+                self.times[key] = min(time, self.times.get(key, time))
+
+    def time(self, operation, records, contender):
+        """None for what was not measured."""
+        if contender != "ours":
+            operation = COUNTERPART.get(operation, operation)
+        return self.times.get((operation, records, contender))
+
+    def ratio(self, operation, records, contenders):
+        ours = self.time(operation, records, "ours")
+        others = [self.time(operation, records, each) for each in contenders]
+        others = [each for each in others if each]
+        return ours / min(others) if ours and others else None
+
+    def sets(self, operation):
+        sets = [f"{message}/{fill}" for message in SHOWN for fill in ("full", "sparse", "uniform")]
+        return [records for records in sets if (operation, records, "ours") in self.times]
+
+
+def number(value):
+    """About three digits."""
+    if value is None:
+        return "-"
+    return f"{value:.0f}" if value >= 100 else f"{value:.1f}" if value >= 10 else f"{value:.2f}"
+
+
+def table(results, operation):
+    head = ["case", *CONTENDERS, "/ limit", "/ best", "/ protobuf", "bytes"]
+    rows = []
+    for records in results.sets(operation):
+        row = [records]
+        row += [number(results.time(operation, records, contender)) for contender in CONTENDERS]
+        row += [number(results.ratio(operation, records, others))
+                for others in (["limit"], PEERS, ["protobuf"])]
+        row.append(f"{results.lengths[operation, records, 'ours']:.0f}")
+        rows.append(row)
+    return head, rows
+
+
+def goals(results):
+    head = ["goal", "/ limit", "at most", "/ best", "at most", "/ protobuf", "at most", ""]
+    rows = []
+    for operation, records, *bounds in GOALS:
+        row, met = [f"{operation}/{records}"], True
+        for bound, others in zip(bounds, (["limit"], PEERS, ["protobuf"])):
+            ratio = results.ratio(operation, records, others)
+            if bound is None or ratio is None:
+                row += ["", ""]
+                met = met and bound is None
+                continue
+            row += [number(ratio), f"{bound:g}"]
+            met = met and ratio <= bound
+        rows.append([*row, "met" if met else "NOT MET"])
+    for message in SINGLE:
+        full, sparse = (results.time("send", f"{message}/{fill}", "ours") for fill in ("full", "sparse"))
+        if full and sparse:
+            ratio = sparse / full
+            met = 1 / EVEN <= ratio <= EVEN
+            rows.append([f"send/{message}, sparse / full: {ratio:.3f}", *[""] * 6, "met" if met else "NOT MET"])
+    return head, [row for row in rows if any(row[1:-1]) or "/ full" in row[0]]   # without what was not measured
+
+
+def as_text(head, rows):
+    widths = [max(len(row[column]) for row in [head, *rows]) for column in range(len(head))]
+    lines = []
+    for row in [head, *rows]:
+        cells = [row[0].ljust(widths[0])] + [cell.rjust(width) for cell, width in zip(row[1:], widths[1:])]
+        lines.append("  ".join(cells).rstrip())
+    return "\n".join(lines)
+
+
+def threads(results):
+    head = ["million per second", "1 thread", "2 threads", "times"]
+    rows = []
+    for operation in ("pack", "unpack"):
+        one, two = (results.rates.get((f"threads_{operation}", count)) for count in (1, 2))
+        if one and two:
+            rows.append([f"{operation}/{FLOW}/full", number(one / 1e6), number(two / 1e6), number(two / one)])
+    return head, rows
+
+
+def parts(results):
+    """What is reported: a title and a table each."""
+    for operation in OPERATIONS:
+        if results.sets(operation):
+            yield f"{operation}: nanoseconds, and ours as a multiple of the others'", table(results, operation)
+    head, rows = goals(results)
+    yield f"Goals: {sum(row[-1] == 'met' for row in rows)} of {len(rows)} met", (head, rows)
+    if results.rates:
+        yield "Threads", threads(results)
+
+
+# ---- docs/performance.md ----
+
+def output_of(*command):
+    return subprocess.run(command, capture_output=True, text=True, check=False).stdout
+
+
+def machine():
+    info = pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8")
+    name = re.search(r"model name\s*: (.*)", info)
+    return f"{name[1] if name else 'unknown processor'}, {info.count('processor')} processors"
+
+
+def versions():
+    packages = output_of("dpkg-query", "-W", "-f", "${Package} ${Version}\n", "libprotobuf-dev", "libcapnp-dev",
+                         "libnanopb-dev", "libbenchmark-dev")
+    return ", ".join([output_of("c++", "--version").split("\n")[0], *packages.strip().split("\n")])
+
+
+def as_markdown(head, rows):
+    lines = ["| " + " | ".join(head) + " |", "|---|" + "---:|" * (len(head) - 1)]
+    return "\n".join(lines + ["| " + " | ".join(row) + " |" for row in rows])
+
+
+def write_document(results, allocations):
+    text = [
+        f"- machine: {machine()}",
+        f"- with: {versions()}",
+        f"- date: {results.context['date'][:10]}; load at the start: {results.context['load_avg'][0]:.1f}",
+        f"- command: `./run bench`; {results.processes} processes, {results.repetitions} repetitions in each",
+    ]
+    for title, content in parts(results):
+        text += ["", f"### {title}", "", as_markdown(*content)]
+        operation = title.split(":")[0]
+        if (ROOT / f"docs/performance/{operation}.svg").exists():
+            text += ["", f"![{operation}](performance/{operation}.svg)"]
+    text += ["", "### Cost per row", "", "![cost per row](performance/rows.svg)"]
+    text += ["", "### Allocations in one operation", "", "```", allocations.strip(), "```"]
+    path = ROOT / "docs/performance.md"
+    before, rest = path.read_text(encoding="utf-8").split("<!-- measured -->\n")
+    after = rest.split("<!-- end of measured -->\n")[1]
+    path.write_text(f"{before}<!-- measured -->\n" + "\n".join(text) + f"\n<!-- end of measured -->\n{after}",
+                    encoding="utf-8")
+
+
+# ---- plots ----
+
+COLOURS = {"ours": "#d55e00", "limit": "#999999", "protobuf": "#0072b2", "capnp": "#009e73", "nanopb": "#cc79a7"}
+
+
+def draw(results):
+    import matplotlib
+    matplotlib.use("svg")
+    matplotlib.rcParams.update({"svg.hashsalt": "plots", "svg.fonttype": "none", "font.size": 8})
+    from matplotlib import pyplot
+
+    folder = ROOT / "docs/performance"
+    folder.mkdir(exist_ok=True)
+
+    def save(figure, name):
+        figure.savefig(folder / f"{name}.svg", bbox_inches="tight", metadata={"Date": None})
+        pyplot.close(figure)
+
+    for operation in ("send", "pack", "unpack"):
+        sets = [records for records in results.sets(operation) if "sparse" not in records or UPDATE not in records]
+        sets = [records for records in sets if records.split("/")[0].split(":")[-1] not in ("4", "64", "1024", "4096")]
+        shown = [each for each in CONTENDERS if each != "limit"]
+        figure, axes = pyplot.subplots(figsize=(7.5, 0.5 * len(sets) + 0.8))
+        height = 0.8 / len(shown)
+        for i, contender in enumerate(shown):
+            ratios = [(results.time(operation, records, contender) or float("nan")) /
+                      results.time(operation, records, "limit") for records in sets]
+            places = [place + (i - (len(shown) - 1) / 2) * height for place in range(len(sets))]
+            axes.barh(places, ratios, height, color=COLOURS[contender], label=contender)
+        axes.set_yticks(range(len(sets)), sets)
+        axes.invert_yaxis()
+        axes.set_xscale("log")
+        axes.set_xlim(left=1)
+        axes.xaxis.set_major_formatter(matplotlib.ticker.FormatStrFormatter("%g"))
+        axes.set_xlabel(f"{operation}: time as a multiple of a straight copy's")
+        axes.grid(axis="x", which="major", linewidth=0.4)
+        axes.set_axisbelow(True)
+        axes.legend(loc="lower right")
+        save(figure, operation)
+
+    figure, both = pyplot.subplots(1, 2, figsize=(7.5, 3), sharey=True)
+    for axes, operation in zip(both, ("pack", "unpack")):
+        for contender in CONTENDERS[:4]:
+            times = [(rows, results.time(operation, f"{UPDATE}:{rows}/full", contender)) for rows in ROWS]
+            times = [(rows, time / rows) for rows, time in times if time]
+            axes.plot(*zip(*times), marker="o", markersize=3, color=COLOURS[contender], label=contender)
+        axes.set_xscale("log", base=4)
+        axes.set_yscale("log")
+        axes.set_xticks(ROWS, ROWS)
+        axes.yaxis.set_major_formatter(matplotlib.ticker.FormatStrFormatter("%g"))
+        axes.set_xlabel(f"{operation}: rows of {UPDATE}, full")
+        axes.grid(linewidth=0.4)
+    both[0].set_ylabel("ns per row")
+    both[1].legend()
+    save(figure, "rows")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--docs", action="store_true")
+    parser.add_argument("files", nargs="+")
+    options = parser.parse_args()
+    results = Results(options.files)
+    for title, content in parts(results):
+        print(f"\n{title}\n\n{as_text(*content)}")
+    if options.docs:
+        draw(results)
+        write_document(results, (pathlib.Path(options.files[0]).parent / "allocations.txt").read_text(encoding="utf-8"))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

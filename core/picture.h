@@ -1,0 +1,259 @@
+// A picture: a form of a message in which every byte is either constant or a byte of the record, at a place known when
+// compiled. The fixed form is one; the compact form of a record without a zero scalar and without heap parts is another.
+//
+// To write a picture is to copy, without a look at the values; to read one is to compare the constants and to copy.
+// Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece where a later piece is
+// written over it, so that few moves are narrow ones.
+#pragma once
+
+#include <algorithm>
+#include <bit>
+
+#include "core/layout.h"
+#include "core/run.h"
+
+namespace kesto {
+
+// A stretch of a record that stands on the wire just so; `width` is that of its values.
+struct Run {
+    u32 record_offset;
+    u32 position;
+    u32 bytes;
+    u32 width;
+};
+
+namespace detail {
+
+constexpr void put(u8* at, u32 value, u32 width)
+{
+    for (u32 i = 0; i < width; ++i)
+        at[i] = static_cast<u8>(value >> (8 * i));
+}
+
+// Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
+constexpr bool joins(const Run& run, const Run& next)
+{
+    return host_has_wire_order && run.record_offset + run.bytes == next.record_offset &&
+           run.position + run.bytes == next.position;
+}
+
+// A part of what is written: bytes of the source, or constant ones.
+struct Piece {
+    u32 to;
+    u32 from;
+    u32 bytes;
+    bool constant;
+};
+
+struct Move {
+    u32 to;
+    u32 from;
+    u32 bytes;   // a power of two
+    bool constant;
+};
+
+// Calls visit(move) for the moves of one piece, none of which passes the given ends.
+template <class Visit>
+constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, Visit&& visit)
+{
+    u32 done = 0;
+    while (done < piece.bytes) {
+        u32 width = std::min(move_bytes, std::bit_ceil(piece.bytes - done));
+        const auto fits = [&] {
+            return piece.to + done + width <= target_end && piece.from + done + width <= source_end;
+        };
+        if (!fits() && piece.bytes >= width)
+            done = piece.bytes - width;   // the last move ends with the piece and overlaps the one before
+        while (!fits())
+            width /= 2;
+        visit(Move{piece.to + done, piece.from + done, width, piece.constant});
+        done += width;
+    }
+}
+
+// Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
+// are in that order too; `to` and `from` say which side of a run is which.
+template <std::size_t N, class Visit>
+constexpr void each_piece(const std::array<Run, N>& runs, u32 Run::*to, u32 Run::*from, u32 target_end, Visit&& visit)
+{
+    u32 at = 0;
+    for (const Run& run : runs) {
+        if (run.*to > at)
+            visit(Piece{at, at, run.*to - at, true});
+        visit(Piece{run.*to, run.*from, run.bytes, false});
+        at = run.*to + run.bytes;
+    }
+    if (at < target_end)
+        visit(Piece{at, at, target_end - at, true});
+}
+
+// What `walk` visits, as an array: walk(visit) calls visit(item) for each.
+template <class Item, auto walk>
+constexpr auto collected = [] {
+    constexpr u32 count = [] {
+        u32 items = 0;
+        walk([&](const Item&) { ++items; });
+        return items;
+    }();
+    std::array<Item, count> items{};
+    u32 next = 0;
+    walk([&](const Item& item) { items[next++] = item; });
+    return items;
+}();
+
+// Sixteen bytes that are compared in one go where the machine can.
+using Lanes [[gnu::vector_size(move_bytes)]] = u32;
+
+inline void gather_difference(Lanes& difference, const u8* left, const u8* right)
+{
+    Lanes a, b;
+    std::memcpy(&a, left, sizeof a);
+    std::memcpy(&b, right, sizeof b);
+    difference |= a ^ b;
+}
+
+template <class T>
+inline void gather_difference(u64& difference, const u8* left, const u8* right)
+{
+    difference |= static_cast<u64>(load<T>(left) ^ load<T>(right));
+}
+
+}   // namespace detail
+
+// Layout is the record's. Form gives the length of the picture, how long it is (`length`) and
+// walk(constant, field): calls of constant(position, value, width) and field(run) that describe all of it.
+template <class L, class Form>
+struct Picture {
+    static constexpr u32 length = Form::length;
+
+    // The picture of an all-zero record.
+    static constexpr std::array<u8, length> image = [] {
+        std::array<u8, length> bytes{};
+        Form::walk([&](u32 position, u32 value, u32 width) { detail::put(bytes.data() + position, value, width); },
+                   [](const Run&) {});
+        return bytes;
+    }();
+
+    // Joined, in the order of the wire.
+    static constexpr auto runs = detail::collected<Run, [](auto&& visit) {
+        Run open{};
+        Form::walk([](u32, u32, u32) {},
+                   [&](const Run& field) {
+                       if (open.bytes != 0 && detail::joins(open, field)) {
+                           open.bytes += field.bytes;
+                           return;
+                       }
+                       if (open.bytes != 0)
+                           visit(open);
+                       open = field;
+                   });
+        visit(open);
+    }>;
+
+    // Writes `length` bytes.
+    static void write(u8* to, const u8* record)
+    {
+        if constexpr (!host_has_wire_order) {
+            copy_run<length>(to, image.data());
+            for (const Run& run : runs)
+                copy_turned(to + run.position, record + run.record_offset, run);
+        } else {
+            make_moves<writing>([&](auto m) __attribute__((always_inline)) {
+                constexpr detail::Move move = writing[m];
+                std::memcpy(to + move.to, (move.constant ? image.data() : record) + move.from, move.bytes);
+            });
+        }
+    }
+
+    // Whether `length` bytes are a picture of some record.
+    static bool matches(const u8* bytes)
+    {
+        detail::Lanes wide{};
+        u64 narrow = 0;
+        make_moves<comparing>([&](auto m) __attribute__((always_inline)) {
+            constexpr detail::Move move = comparing[m];
+            const u8* const left = bytes + move.to;
+            const u8* const right = image.data() + move.to;
+            if constexpr (move.bytes == 16)
+                detail::gather_difference(wide, left, right);
+            else if constexpr (move.bytes == 8)
+                detail::gather_difference<u64>(narrow, left, right);
+            else if constexpr (move.bytes == 4)
+                detail::gather_difference<u32>(narrow, left, right);
+            else if constexpr (move.bytes == 2)
+                detail::gather_difference<u16>(narrow, left, right);
+            else
+                detail::gather_difference<u8>(narrow, left, right);
+        });
+        u64 halves[2];
+        std::memcpy(halves, &wide, sizeof halves);
+        return (narrow | halves[0] | halves[1]) == 0;
+    }
+
+    // Writes the whole record, gaps between its fields as zeros, from a picture that matches.
+    static void read(u8* record, const u8* bytes)
+    {
+        if constexpr (!host_has_wire_order) {
+            clear_run<L::record_size>(record);
+            for (const Run& run : runs)
+                copy_turned(record + run.record_offset, bytes + run.position, run);
+        } else {
+            make_moves<reading>([&](auto m) __attribute__((always_inline)) {
+                constexpr detail::Move move = reading[m];
+                if constexpr (move.constant)
+                    std::memset(record + move.to, 0, move.bytes);
+                else
+                    std::memcpy(record + move.to, bytes + move.from, move.bytes);
+            });
+        }
+    }
+
+private:
+    static constexpr auto runs_by_record = [] {
+        auto sorted = runs;
+        std::sort(sorted.begin(), sorted.end(),
+                  [](const Run& left, const Run& right) { return left.record_offset < right.record_offset; });
+        return sorted;
+    }();
+
+    static constexpr auto writing = detail::collected<detail::Move, [](auto&& visit) {
+        detail::each_piece(runs, &Run::position, &Run::record_offset, length, [&](const detail::Piece& piece) {
+            detail::each_move_of(piece, length, piece.constant ? length : L::record_size, visit);
+        });
+    }>;
+
+    static constexpr auto comparing = detail::collected<detail::Move, [](auto&& visit) {
+        detail::each_piece(runs, &Run::position, &Run::record_offset, length, [&](const detail::Piece& piece) {
+            if (piece.constant)
+                detail::each_move_of(piece, piece.to + piece.bytes, length, visit);
+        });
+    }>;
+
+    static constexpr auto reading = detail::collected<detail::Move, [](auto&& visit) {
+        detail::each_piece(runs_by_record, &Run::record_offset, &Run::position, L::record_size,
+                           [&](const detail::Piece& piece) {
+                               detail::each_move_of(piece, L::record_size, piece.constant ? L::record_size : length, visit);
+                           });
+    }>;
+
+    template <const auto& moves, class Make>
+    [[gnu::always_inline]] static void make_moves(Make&& make)
+    {
+        detail::each_number(
+            [&](auto m) __attribute__((always_inline)) {
+                make(m);
+                return true;
+            },
+            std::make_integer_sequence<u32, moves.size()>());
+    }
+
+    // From the record to the wire and back are the same here.
+    static void copy_turned(u8* to, const u8* from, const Run& run)
+    {
+        for (u32 i = 0; i < run.bytes; i += run.width)
+            for (u32 j = 0; j < run.width; ++j)
+                to[i + j] = from[i + run.width - 1 - j];
+    }
+};
+
+}   // namespace kesto
