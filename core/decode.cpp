@@ -6,6 +6,12 @@ namespace kesto {
 
 namespace {
 
+// Reports a table that was refused.
+[[gnu::cold]] void refuse_table(const Frame& frame, TableFault fault)
+{
+    log_table_fault(*frame.decoder->unit, frame.routine, fault, frame.in, frame.view);
+}
+
 // Null, after a log line, when there is no memory.
 u8* allocate(const Frame& frame, u32 size)
 {
@@ -22,6 +28,8 @@ void release_block(const Decoder& owner, u8* pointer_field)
     set_field<u8*>(pointer_field, nullptr);
 }
 
+void release_record(const Decoder& decoder, u8* record);
+
 // Releases a vector whose block holds `count` whole elements; nothing when there is no block.
 void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32 count)
 {
@@ -33,6 +41,66 @@ void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32
         for (u32 i = 0; i < count; ++i)
             release_record(element, records + std::size_t{i} * element.record_size);
     release_block(owner, pointer_field);
+}
+
+void release_record(const Decoder& decoder, u8* record)
+{
+    ensure_memory_services(*decoder.unit);
+    for (u32 i = 0; i < decoder.heap_field_count; ++i) {
+        const SlotInfo& heap = decoder.heap_fields[i];
+        u8* const field = record + heap.record_offset;
+        switch (heap.kind) {
+        case Kind::text:
+            release_block(decoder, field);   // required: release is called for an absent text too, with null
+            break;
+        case Kind::block:
+            release_block(decoder, field + counted_pointer);   // likewise
+            break;
+        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
+        case Kind::vector:
+            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
+            break;
+        case Kind::scalar:
+        case Kind::array: break;
+        }
+    }
+}
+
+bool decode_scalar(const Frame& frame, u32 offset, u32 width, u8* field)
+{
+    switch (width) {
+    case 1: return read_scalar<u8>(frame.in, frame.view, offset, field);
+    case 2: return read_scalar<u16>(frame.in, frame.view, offset, field);
+    case 4: return read_scalar<u32>(frame.in, frame.view, offset, field);
+    default: return read_scalar<u64>(frame.in, frame.view, offset, field);
+    }
+}
+
+bool decode_array(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field)
+{
+    return slot.width == 1 ? read_array<u8>(frame.in, frame.view, offset, slot.count, field)
+                           : read_array<u32>(frame.in, frame.view, offset, slot.count, field);
+}
+
+bool decode_table(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field)
+{
+    u32 table = 0;
+    if (!nested_table(frame.in, frame.view, offset, table))
+        return false;
+    return decode_any_nested(frame.in, table, field, frame.decoder->nested[slot.nested]) || !slot.fault_ends_read;
+}
+
+bool decode_slot(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field)
+{
+    switch (slot.kind) {
+    case Kind::scalar: return decode_scalar(frame, offset, slot.width, field);
+    case Kind::text: return decode_text(frame, offset, field);
+    case Kind::block: return decode_block(frame, offset, field);
+    case Kind::array: return decode_array(frame, offset, slot, field);
+    case Kind::table: return decode_table(frame, offset, slot, field);
+    case Kind::vector: break;
+    }
+    return decode_vector(frame, offset, field, frame.decoder->nested[slot.nested]);
 }
 
 }   // namespace
@@ -101,62 +169,73 @@ bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecode
     return false;
 }
 
-void release_record(const Decoder& decoder, u8* record)
-{
-    ensure_memory_services(*decoder.unit);
-    for (u32 i = 0; i < decoder.heap_field_count; ++i) {
-        const HeapField& heap = decoder.heap_fields[i];
-        u8* const field = record + heap.record_offset;
-        switch (heap.kind) {
-        case Kind::text:
-            release_block(decoder, field);   // required: release is called for an absent text too, with null
-            break;
-        case Kind::block:
-            release_block(decoder, field + counted_pointer);   // likewise
-            break;
-        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
-        case Kind::vector:
-            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
-            break;
-        case Kind::scalar:
-        case Kind::array: break;
-        }
-    }
-}
-
 void free_unpacked(void* record, const Decoder& decoder)
 {
     if (record != nullptr)
         release_record(decoder, static_cast<u8*>(record));
 }
 
-bool open_message(Frame& frame, const u8* bytes, u32 length, const void* record, const Decoder& decoder)
+bool decode_any_slots(const Frame& frame, u8* record)
 {
-    if (!may_decode(bytes, length, record)) [[unlikely]] {
-        log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
-        return false;
+    for (u32 k = 0; k < frame.decoder->slot_count; ++k) {
+        const SlotInfo& slot = frame.decoder->slots[k];
+        const u32 offset = slot_offset(frame.in, frame.view, k);
+        if (offset != 0 && !decode_slot(frame, offset, slot, record + slot.record_offset))
+            return false;
     }
-    frame = {{bytes, length}, {}, &decoder, decoder.unpack_routine};
-    const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
+    return true;
+}
+
+bool decode_any_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+{
+    const Decoder& decoder = *message.decoder;
+    Frame frame{in, {}, &decoder, message.routine};
+    const TableFault fault = open_table(in, table, frame.view);
     if (fault != TableFault::none) [[unlikely]] {
         refuse_table(frame, fault);
         return false;
     }
-    ensure_memory_services(*decoder.unit);
+    if (decoder.decode_slots(frame, record)) [[likely]]
+        return true;
+    if (decoder.heap_field_count != 0)
+        release_record(decoder, record);
+    return false;
+}
+
+bool decode_nested_anew(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+{
+    std::memset(record, 0, message.decoder->record_size);
+    return decode_any_nested(in, table, record, message);
+}
+
+bool decode_any_elements(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+{
+    for (u32 i = 0; i < count; ++i) {
+        u32 table = 0;
+        if (!element_table(in, cells, i, table))
+            return false;
+        if (!decode_any_nested(in, table, records + std::size_t{i} * element.decoder->record_size, element))
+            return false;
+    }
     return true;
 }
 
-bool decode_short_vtable(const Frame& frame, u32 slots, u8* record, DecodeSlots decode)
+void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    u8 filled_up[slot_bytes * most_slots];   // the slots that are missing are absent
-    for (u32 k = 0; k < slots; ++k)
-        store(filled_up + std::size_t{slot_bytes} * k, static_cast<u16>(slot_offset(frame.in, frame.view, k)));
-    return decode(frame, filled_up, record);
-}
-
-void refuse_table(const Frame& frame, TableFault fault)
-{
-    log_table_fault(*frame.decoder->unit, frame.routine, fault, frame.in, frame.view);
+    if (!may_decode(bytes, length, record)) [[unlikely]] {
+        log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
+        return;
+    }
+    Frame frame{{bytes, length}, {}, &decoder, decoder.unpack_routine};
+    const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
+    if (fault != TableFault::none) [[unlikely]] {
+        refuse_table(frame, fault);
+        return;
+    }
+    ensure_memory_services(*decoder.unit);
+    std::memset(record, 0, decoder.record_size);
+    if (!decoder.decode_slots(frame, record) && decoder.heap_field_count != 0)
+        release_record(decoder, record);
 }
 
 }   // namespace kesto

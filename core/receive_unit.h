@@ -4,7 +4,7 @@
 #include <span>
 
 #include "core/catalogue.h"
-#include "core/decode.h"
+#include "core/layout_decoder.h"
 #include "core/record_check.h"
 #include "core/routine_name.h"
 #include "platform/mesh.h"
@@ -26,40 +26,25 @@ struct Receiving {
         Message::Slots::each_named([&](auto slot) {
             using Named = typename decltype(slot)::Message;
             list[next++] = {&Receiving<Named, unit>::decoder, Receiving<Named, unit>::nested_routine.data(),
-                            slot.kind == Kind::vector ? &decode_elements<typename Named::Layout> : nullptr};
+                            slot.kind == Kind::vector ? elements_decoder<typename Named::Layout>() : nullptr};
         });
         return list;
     }();
 
-    template <class Visit>
-    static constexpr void each_heap_field(Visit&& visit)
-    {
-        each_slot<L>([&](auto k) {
-            constexpr u32 K = k;
-            using Slot = typename L::template Slot<K>;
-            if constexpr (Slot::fixed_bytes == 0)
-                visit(
-                    HeapField{Slot::kind, static_cast<u8>(L::nested_before(K)), static_cast<u16>(L::record_offset[K])});
-            return true;
-        });
-    }
-
-    static constexpr u32 heap_field_count = [] {
-        u32 count = 0;
-        each_heap_field([&](HeapField) { ++count; });
-        return count;
+    static constexpr Decoder decoder = [] {
+        Decoder made{};
+        made.unit = unit;
+        made.unpack_routine = unpack_routine.data();
+        made.free_routine = L::has_heap_parts ? free_routine.data() : nullptr;
+        made.nested = nested.data();
+        made.slots = slot_infos<L>.data();
+        made.slot_count = L::slots;
+        made.heap_fields = heap_fields<L>.data();
+        made.heap_field_count = heap_fields<L>.size();
+        made.decode_slots = slots_decoder<L>();
+        made.record_size = L::record_size;
+        return made;
     }();
-    static constexpr auto heap_fields = [] {
-        std::array<HeapField, heap_field_count> list{};
-        u32 next = 0;
-        each_heap_field([&](HeapField field) { list[next++] = field; });
-        return list;
-    }();
-
-    static constexpr Decoder decoder{
-        unit,          unpack_routine.data(), L::has_heap_parts ? free_routine.data() : nullptr,
-        nested.data(), heap_fields.data(),    heap_field_count,
-        L::record_size};
 };
 
 // One message's hooks, as MESH is given them.

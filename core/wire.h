@@ -4,9 +4,11 @@
 // input, so that the code that ships can also be run on symbolic words and proved; `Input` is the one that ships.
 #pragma once
 
+#include <array>
 #include <bit>
 #include <cstdint>
 #include <cstring>
+#include <type_traits>
 
 namespace kesto {
 
@@ -62,7 +64,7 @@ struct Input {
     // Whoever calls these has tested that the value, `behind` bytes behind the position `at`, lies inside. The two are
     // added as addresses, so that the compiler may hold the first and fold the second.
     template <class T>
-    u32 load_unchecked(u32 at, u32 behind = 0) const
+    std::conditional_t<(sizeof(T) > sizeof(u32)), T, u32> load_unchecked(u32 at, u32 behind = 0) const
     {
         return load<T>(bytes + at + behind);
     }
@@ -147,11 +149,11 @@ inline bool holds_slots(const TableView<In>& view, typename In::Word slots)
     return static_cast<bool>(view.vtable_length >= vtable_head_bytes + slot_bytes * slots);
 }
 
-// The slots of a vtable that holds so many: for each the field's offset from the table, 0 when it is absent.
+// Slot `k`, of a vtable that holds it: the field's offset from the table, 0 when it is absent.
 template <class In>
-inline const u8* slots_unchecked(const In& in, const TableView<In>& view, typename In::Word slots)
+inline typename In::Word slot_unchecked(const In& in, const TableView<In>& view, u32 k)
 {
-    return in.bytes_unchecked(view.vtable, vtable_head_bytes, slot_bytes * slots);   // holds_slots
+    return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // holds_slots
 }
 
 // Slot `k` of a vtable of any length.
@@ -169,6 +171,77 @@ template <class In>
 [[nodiscard]] inline bool field_fits(const TableView<In>& view, typename In::Word offset, u32 n)
 {
     return static_cast<bool>(offset + n <= view.room);
+}
+
+// The bounds of many fields at once: the offsets of four slots, or of two where a word has 32 bits, lie in lanes of one
+// word. A lane's top bit says whether an offset is beyond its limit; so neither may be as large as that bit.
+using LaneWord = std::conditional_t<sizeof(void*) == 8, u64, u32>;
+
+constexpr u32 lane_bits = 16;
+constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
+constexpr u32 largest_lane = 0x7FFF;
+constexpr u32 widest_scalar = 8;
+
+template <class W>
+constexpr W each_lane(W value)
+{
+    W word = 0;
+    for (u32 i = 0; i < sizeof(W) * 8; i += lane_bits)
+        word |= value << i;
+    return word;
+}
+
+// Has the top bit in each lane in which offset + width > room. `room` has the room in each lane, from widest_scalar to
+// largest_lane, and `widths` the widths.
+template <class W>
+inline W lanes_beyond(const W& room, const W& widths, const W& offsets, const W& top_bits)
+{
+    return ~(((room | top_bits) - widths) - offsets) | offsets;
+}
+
+// Whether all fields of a vtable that holds so many slots lie inside; `widths` are 0 where that does not matter. False
+// also where this way of looking at them cannot tell.
+template <std::size_t N>
+[[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
+                                                          const std::array<u8, N>& widths)
+{
+    constexpr LaneWord top_bits = each_lane<LaneWord>(largest_lane + 1);
+    if (view.room < widest_scalar)
+        return false;
+    const LaneWord room = each_lane<LaneWord>(1) * (view.room < largest_lane ? view.room : largest_lane);
+    LaneWord beyond = 0;
+    const auto look = [&](u32 first, u32 count) __attribute__((always_inline)) {
+        LaneWord offsets = 0, fields = 0;
+        for (u32 i = 0; i < count; ++i)
+            fields |= LaneWord{widths[first + i]} << (lane_bits * i);
+        if (count == lanes)
+            offsets = in.load_unchecked<LaneWord>(view.vtable, vtable_head_bytes + slot_bytes * first);   // holds_slots
+        else
+            for (u32 i = 0; i < count; ++i)
+                offsets |= LaneWord{slot_unchecked(in, view, first + i)} << (lane_bits * i);
+        beyond |= lanes_beyond<LaneWord>(room, fields, offsets, top_bits);
+    };
+    constexpr u32 slots = N;
+#pragma GCC unroll 64
+    for (u32 first = 0; first + lanes <= slots; first += lanes)
+        look(first, lanes);
+    if constexpr (slots % lanes != 0) {
+        if constexpr (slots >= lanes)
+            look(slots - lanes, lanes);   // some of them once more
+        else
+            look(0, slots);
+    }
+    return (beyond & top_bits) == 0;
+}
+
+// A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read: at offset 0 the table's head stands,
+// and behind it the room that scalars_fit asks for.
+template <class T>
+[[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset, u8* field)
+{
+    const T value = load<T>(in.bytes_unchecked(view.table, offset, sizeof(T)));   // scalars_fit
+    const T present = offset != 0 ? value : T{0};
+    std::memcpy(field, &present, sizeof present);
 }
 
 template <class T, class In>

@@ -1,0 +1,262 @@
+// The decoder's fast ways, one of each for a layout. They take what is well formed; what is not, they leave to the
+// decoder for anything, which comes to the same records, logs and refusals.
+//
+// A layout without heap parts has no effect but on its record, so that a fast way may give up at any point. The decoder
+// then begins anew.
+#pragma once
+
+#include "core/decode.h"
+#include "core/forms.h"
+
+namespace kesto {
+
+// ---- pictures: what our own writers make of most records is recognised as a whole and copied ----
+
+// A table in compact form, with all beneath it. False, and nothing is written, when it is not such a picture.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool read_full_table(Input in, u32 table, u8* record)
+{
+    using Form = FullForm<L>;
+    u32 at = 0;
+    if (!picture_fits(in, table, L::vtable_bytes, Form::length, at))
+        return false;
+    const u8* const bytes = in.bytes_unchecked(at, 0, Form::length);   // picture_fits
+    if (!Form::matches(bytes))
+        return false;
+    Form::read(record, bytes);
+    return true;
+}
+
+// A message in fixed form.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool read_fixed_message(Input in, u8* record)
+{
+    using Form = FixedForm<L>;
+    if (in.length < Form::length)
+        return false;
+    const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);
+    if (!Form::matches(bytes))
+        return false;
+    Form::read(record, bytes);
+    return true;
+}
+
+// ---- tables whose scalars all lie inside ----
+
+template <class L>
+constexpr std::array<u8, L::slots> scalar_widths = [] {
+    std::array<u8, L::slots> widths{};
+    each_slot<L>([&](auto k) {
+        using Slot = typename L::template Slot<k>;
+        if constexpr (Slot::kind == Kind::scalar)
+            widths[k] = Slot::record_size;
+        return true;
+    });
+    return widths;
+}();
+
+// Opens a table all of whose slots are there and all of whose scalars lie inside.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool has_tested_scalars(const Input& in, const TableView<Input>& view)
+{
+    return holds_slots(view, L::slots) && scalars_fit(in, view, scalar_widths<L>);
+}
+
+template <class T, u32 N>
+[[nodiscard, gnu::noinline]] bool decode_array(Input in, const TableView<Input>& view, u32 offset, u8* field)
+{
+    return read_array<T>(in, view, offset, N, field);
+}
+
+template <class L>
+[[nodiscard]] bool read_plain_table(Input in, u32 table, u8* record);
+
+template <class L, u32 K>
+[[nodiscard, gnu::always_inline]] inline bool read_plain_slot(const Input& in, const TableView<Input>& view, u8* record)
+{
+    using Slot = typename L::template Slot<K>;
+    const u32 offset = slot_unchecked(in, view, K);
+    u8* const field = record + L::record_offset[K];
+    if constexpr (Slot::kind == Kind::scalar) {
+        read_tested_scalar<typename Slot::Value>(in, view, offset, field);
+        return true;
+    } else if (offset == 0) {
+        clear_run<Slot::record_size>(field);
+        return true;
+    } else if constexpr (Slot::kind == Kind::array) {
+        return decode_array<typename Slot::Value, Slot::count>(in, view, offset, field);
+    } else {
+        u32 table = 0;
+        return nested_table(in, view, offset, table) && read_plain_table<typename Slot::Layout>(in, table, field);
+    }
+}
+
+// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of it,
+// unless the tests of the table itself have failed.
+template <class L>
+[[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
+{
+    TableView<Input> view;
+    if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
+        return false;
+    if constexpr (L::has_gaps)
+        clear_run<L::record_size>(record);
+    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
+}
+
+// ---- nested tables and elements ----
+
+template <class L>
+[[nodiscard]] bool decode_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+{
+    if constexpr (L::has_heap_parts)
+        return decode_any_nested(in, table, record, message);
+    else
+        return read_full_table<L>(in, table, record) || read_plain_table<L>(in, table, record) ||
+               decode_nested_anew(in, table, record, message);
+}
+
+// Elements of a layout without heap parts.
+template <class L>
+bool decode_plain_elements(const Input& shared_in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+{
+    const Input in = shared_in;   // held in registers: no store to a record can change a copy
+    bool full = true;             // as long as all before were
+    for (u32 i = 0; i < count; ++i) {
+        u8* const record = records + std::size_t{i} * L::record_size;
+        u32 table = 0;
+        if (!element_table(in, cells, i, table))
+            return false;
+        full = full && read_full_table<L>(in, table, record);
+        if (!full && !read_plain_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
+            return false;
+    }
+    return true;
+}
+
+// ---- layouts with heap parts ----
+
+template <class L, u32 K>
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, u8* record)
+{
+    using Slot = typename L::template Slot<K>;
+    const u32 offset = slot_unchecked(frame.in, frame.view, K);
+    u8* const field = record + L::record_offset[K];
+    if constexpr (Slot::kind == Kind::scalar) {
+        read_tested_scalar<typename Slot::Value>(frame.in, frame.view, offset, field);
+        return true;
+    } else if (offset == 0) {
+        return true;   // the record is clear already
+    } else if constexpr (Slot::kind == Kind::array) {
+        return decode_array<typename Slot::Value, Slot::count>(frame.in, frame.view, offset, field);
+    } else if constexpr (Slot::kind == Kind::text) {
+        return decode_text(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::block) {
+        return decode_block(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::vector) {
+        return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+    } else {
+        u32 table = 0;
+        if (!nested_table(frame.in, frame.view, offset, table))
+            return false;
+        const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
+        return decode_nested<typename Slot::Layout>(frame.in, table, field, message) || !Slot::fault_ends_read;
+    }
+}
+
+// As decode_any_slots. In slot order, as a refusal leaves unset what comes behind it.
+template <class L>
+bool decode_heap_slots(const Frame& shared_frame, u8* record)
+{
+    const Frame frame = shared_frame;   // held in registers, likewise
+    if (!has_tested_scalars<L>(frame.in, frame.view)) [[unlikely]]
+        return decode_any_slots(frame, record);
+    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, record); });
+}
+
+// ---- a layout as data, and the fastest routines for it ----
+
+template <class L>
+constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
+    std::array<SlotInfo, L::slots> infos{};
+    each_slot<L>([&](auto k) {
+        constexpr u32 K = k;
+        using Slot = typename L::template Slot<K>;
+        SlotInfo& info = infos[K];
+        info.kind = Slot::kind;
+        info.nested = static_cast<u8>(L::nested_before(K));
+        info.record_offset = static_cast<u16>(L::record_offset[K]);
+        if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array)
+            info.width = sizeof(typename Slot::Value);
+        if constexpr (Slot::kind == Kind::array)
+            info.count = Slot::count;
+        if constexpr (Slot::kind == Kind::table)
+            info.fault_ends_read = Slot::fault_ends_read;
+        return true;
+    });
+    return infos;
+}();
+
+template <class L>
+constexpr auto heap_fields = [] {
+    constexpr u32 count = [] {
+        u32 fields = 0;
+        each_slot<L>([&](auto k) {
+            fields += L::template Slot<k>::fixed_bytes == 0;
+            return true;
+        });
+        return fields;
+    }();
+    std::array<SlotInfo, count> infos{};
+    u32 next = 0;
+    each_slot<L>([&](auto k) {
+        if constexpr (L::template Slot<k>::fixed_bytes == 0)
+            infos[next++] = slot_infos<L>[k];
+        return true;
+    });
+    return infos;
+}();
+
+template <class L>
+constexpr DecodeSlots slots_decoder()
+{
+    if constexpr (L::has_heap_parts)
+        return decode_heap_slots<L>;
+    else
+        return decode_any_slots;
+}
+
+template <class L>
+constexpr DecodeElements elements_decoder()
+{
+    if constexpr (L::has_heap_parts)
+        return decode_any_elements;
+    else
+        return decode_plain_elements<L>;
+}
+
+// ---- messages ----
+
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool read_plain_message(const Input& in, u8* record)
+{
+    const u32 table = root_table(in);
+    return (table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) ||
+           read_plain_table<L>(in, table, record);
+}
+
+// The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
+template <class L>
+[[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
+{
+    if constexpr (!L::has_heap_parts) {
+        if (may_decode(bytes, length, record) && read_plain_message<L>({bytes, length}, record)) [[likely]] {
+            ensure_memory_services(*decoder.unit);
+            return L::record_size;
+        }
+    }
+    decode_message(bytes, length, record, decoder);
+    return L::record_size;
+}
+
+}   // namespace kesto
