@@ -130,7 +130,9 @@ struct SlotWords {
 
     std::array<Word, (N + in_word - 1) / in_word> words;
 
-    [[gnu::always_inline]] SlotWords() { clear_run<sizeof words>(words.data()); }
+    u8* at;
+
+    [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_) { clear_run<sizeof words>(words.data()); }
 
     template <u32 K>
     [[gnu::always_inline]] void set(u32 offset)
@@ -138,14 +140,30 @@ struct SlotWords {
         words[K / in_word] |= Word{offset} << (8 * slot_bytes * (K % in_word));
     }
 
-    [[gnu::always_inline]] void store_at(u8* slots) const
+    [[gnu::always_inline]] void close() const
     {
         for (u32 i = 0; i < N / in_word; ++i)
-            store(slots + i * sizeof(Word), words[i]);
+            store(at + i * sizeof(Word), words[i]);
         for (u32 k = N / in_word * in_word; k < N; ++k)
-            store(slots + std::size_t{slot_bytes} * k,
+            store(at + std::size_t{slot_bytes} * k,
                   static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
     }
+};
+
+// The slots of a vtable, each stored as it is known.
+template <u32 N>
+struct SlotsInPlace {
+    u8* at;
+
+    [[gnu::always_inline]] explicit SlotsInPlace(u8* at_) : at(at_) {}
+
+    template <u32 K>
+    [[gnu::always_inline]] void set(u32 offset)
+    {
+        store(at + std::size_t{slot_bytes} * K, static_cast<u16>(offset));
+    }
+
+    [[gnu::always_inline]] void close() const {}
 };
 
 // Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was
@@ -153,20 +171,29 @@ struct SlotWords {
 template <class L>
 [[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
-// The same, slot by slot.
-template <class L>
+// The same, slot by slot. With a tail, when something else is written behind the table afterwards, scalars are written
+// without a branch; without one no byte is written that is not the table's.
+enum class Tail : bool { none, follows };
+
+template <class L, Tail tail>
 [[gnu::noinline]] u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
-// One table on its way out. `at` is the offset from the table of the next byte to write.
 template <class L>
+constexpr Tail own_tail = L::has_tail ? Tail::follows : Tail::none;
+
+// One table on its way out. `at` is the offset from the table of the next byte to write.
+template <class L, Tail tail>
 struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    SlotWords<L::slots> slots;
+    std::conditional_t<tail == Tail::follows, SlotsInPlace<L::slots>, SlotWords<L::slots>> slots;
     std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 
-    [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_) : table(table_), record(record_) {}
+    [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_)
+        : table(table_), record(record_), slots(table_ - slot_bytes * L::slots)
+    {
+    }
 
     template <u32 K>
     using Slot = typename L::template Slot<K>;
@@ -182,7 +209,12 @@ struct TableWriter {
     {
         if constexpr (Slot<K>::kind == Kind::scalar) {
             const auto value = field_value<typename Slot<K>::Value>(field<K>());
-            if (value != 0) [[likely]] {
+            if constexpr (tail == Tail::follows) {
+                store(table + at, value);   // a zero has the next field written over it, or the tail
+                const u32 mask = 0U - u32{value != 0};
+                slots.template set<K>(at & mask);
+                at += sizeof value & mask;
+            } else if (value != 0) [[likely]] {
                 store(table + at, value);
                 slots.template set<K>(at);
                 at += sizeof value;
@@ -201,10 +233,8 @@ struct TableWriter {
             else if constexpr (Slot<K>::kind == Kind::block || Slot<K>::kind == Kind::vector)
                 written = field_pointer(field<K>() + counted_pointer) != nullptr && field_value<u32>(field<K>()) != 0;
             cells[K] = written ? at : 0;
-            if (written) {
-                slots.template set<K>(at);
-                at += cell_bytes;
-            }
+            slots.template set<K>(cells[K]);
+            at += written ? cell_bytes : 0;
         }
     }
 
@@ -281,10 +311,10 @@ struct TableWriter {
     }
 };
 
-template <class L>
+template <class L, Tail tail>
 u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    TableWriter<L> writer(vtable + L::vtable_bytes, record);
+    TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
     each_slot<L>([&](auto k) __attribute__((always_inline)) {
         writer.template write_scalar<k>();
         return true;
@@ -300,7 +330,7 @@ u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
-    writer.slots.store_at(vtable + vtable_head_bytes);
+    writer.slots.close();
     store(writer.table, u32{L::vtable_bytes});
 
     u8* end = writer.table + writer.at;
@@ -327,7 +357,7 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     if constexpr (!L::has_heap_parts)
         if (write_full_table<L>(vtable, record))
             return vtable + FullForm<L>::length;
-    return write_any_table<L>(vtable, record, nested);
+    return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
 template <class L>
@@ -345,7 +375,10 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
                 continue;
             }
         }
-        at = write_any_table<L>(at, record, nested);
+        if (i + 1 < count)
+            at = write_any_table<L, Tail::follows>(at, record, nested);
+        else
+            at = write_any_table<L, own_tail<L>>(at, record, nested);
     }
     return at;
 }

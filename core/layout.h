@@ -128,6 +128,13 @@ struct Layout {
         return any;
     }();
 
+    // Whether every table, in any form, has at least 8 bytes behind its scalars: a cell and a body or another table.
+    static constexpr bool has_tail = [] {
+        bool any = false;
+        ((any = any || Slots::kind == Kind::array || Slots::kind == Kind::table), ...);
+        return any;
+    }();
+
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
     // How many tables and vectors stand in front of slot k: the index of its entry in a message's list of them.
