@@ -28,8 +28,6 @@ void release_block(const Decoder& owner, u8* pointer_field)
     set_field<u8*>(pointer_field, nullptr);
 }
 
-void release_record(const Decoder& decoder, u8* record);
-
 // Releases a vector whose block holds `count` whole elements; nothing when there is no block.
 void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32 count)
 {
@@ -41,29 +39,6 @@ void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32
         for (u32 i = 0; i < count; ++i)
             release_record(element, records + std::size_t{i} * element.record_size);
     release_block(owner, pointer_field);
-}
-
-void release_record(const Decoder& decoder, u8* record)
-{
-    ensure_memory_services(*decoder.unit);
-    for (u32 i = 0; i < decoder.heap_field_count; ++i) {
-        const SlotInfo& heap = decoder.heap_fields[i];
-        u8* const field = record + heap.record_offset;
-        switch (heap.kind) {
-        case Kind::text:
-            release_block(decoder, field);   // required: release is called for an absent text too, with null
-            break;
-        case Kind::block:
-            release_block(decoder, field + counted_pointer);   // likewise
-            break;
-        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
-        case Kind::vector:
-            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
-            break;
-        case Kind::scalar:
-        case Kind::array: break;
-        }
-    }
 }
 
 bool decode_scalar(const Frame& frame, u32 offset, u32 width, u8* field)
@@ -104,6 +79,29 @@ bool decode_slot(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field
 }
 
 }   // namespace
+
+void release_record(const Decoder& decoder, u8* record)
+{
+    ensure_memory_services(*decoder.unit);
+    for (u32 i = 0; i < decoder.heap_field_count; ++i) {
+        const SlotInfo& heap = decoder.heap_fields[i];
+        u8* const field = record + heap.record_offset;
+        switch (heap.kind) {
+        case Kind::text:
+            release_block(decoder, field);   // required: release is called for an absent text too, with null
+            break;
+        case Kind::block:
+            release_block(decoder, field + counted_pointer);   // likewise
+            break;
+        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
+        case Kind::vector:
+            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
+            break;
+        case Kind::scalar:
+        case Kind::array: break;
+        }
+    }
+}
 
 bool decode_text(const Frame& frame, u32 offset, u8* field)
 {
@@ -186,7 +184,7 @@ bool decode_any_slots(const Frame& frame, u8* record)
     return true;
 }
 
-bool decode_any_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     const Decoder& decoder = *message.decoder;
     Frame frame{in, {}, &decoder, message.routine};
@@ -202,13 +200,13 @@ bool decode_any_nested(const Input& in, u32 table, u8* record, const NestedDecod
     return false;
 }
 
-bool decode_nested_anew(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     std::memset(record, 0, message.decoder->record_size);
     return decode_any_nested(in, table, record, message);
 }
 
-bool decode_any_elements(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+bool decode_any_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
     for (u32 i = 0; i < count; ++i) {
         u32 table = 0;

@@ -39,7 +39,7 @@ struct Decoder {
     u32 record_size;
 };
 
-using DecodeElements = bool (*)(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
+using DecodeElements = bool (*)(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
 
 // A message inside another one.
 struct NestedDecoder {
@@ -66,11 +66,11 @@ inline bool may_decode(const u8* bytes, u32 length, const void* record)
 void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder);
 
 // A table inside a message, into a record that is clear. One that is refused is reported, and its record released.
-[[nodiscard]] bool decode_any_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message);
-[[nodiscard]] bool decode_any_elements(const Input& in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
+[[nodiscard]] bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
+[[nodiscard]] bool decode_any_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
 
 // Into a record that need not be clear.
-[[nodiscard, gnu::cold]] bool decode_nested_anew(const Input& in, u32 table, u8* record, const NestedDecoder& message);
+[[nodiscard]] bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 [[nodiscard]] bool decode_any_slots(const Frame& frame, u8* record);
 
@@ -79,8 +79,10 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 [[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);              // logs a failed allocation
 [[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
 
-// The body of X_free__unpacked for a message with heap parts: gives back what the record's pointers reach, nulls them
-// and leaves counts and lengths as they are.
+// Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
+void release_record(const Decoder& decoder, u8* record);
+
+// The body of X_free__unpacked for a message with heap parts.
 void free_unpacked(void* record, const Decoder& decoder);
 
 }   // namespace kesto

@@ -128,11 +128,14 @@ struct SlotWords {
     using Word = std::conditional_t<sizeof(void*) == 8, u64, u32>;
     static constexpr u32 in_word = sizeof(Word) / slot_bytes;
 
+    u8* at;
     std::array<Word, (N + in_word - 1) / in_word> words;
 
-    u8* at;
-
-    [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_) { clear_run<sizeof words>(words.data()); }
+    [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_)
+    {
+        detail::each_number([&](auto i) __attribute__((always_inline)) { return words[i] = 0, true; },
+                            std::make_integer_sequence<u32, (N + in_word - 1) / in_word>());
+    }
 
     template <u32 K>
     [[gnu::always_inline]] void set(u32 offset)
@@ -142,11 +145,21 @@ struct SlotWords {
 
     [[gnu::always_inline]] void close() const
     {
-        for (u32 i = 0; i < N / in_word; ++i)
-            store(at + i * sizeof(Word), words[i]);
-        for (u32 k = N / in_word * in_word; k < N; ++k)
-            store(at + std::size_t{slot_bytes} * k,
-                  static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
+        // As constants, so that the words never need an address.
+        detail::each_number(
+            [&](auto i) __attribute__((always_inline)) {
+                store(at + i * sizeof(Word), words[i]);
+                return true;
+            },
+            std::make_integer_sequence<u32, N / in_word>());
+        detail::each_number(
+            [&](auto i) __attribute__((always_inline)) {
+                constexpr u32 k = N / in_word * in_word + i;
+                store(at + std::size_t{slot_bytes} * k,
+                      static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
+                return true;
+            },
+            std::make_integer_sequence<u32, N % in_word>());
     }
 };
 
@@ -341,14 +354,29 @@ u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     return end;
 }
 
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool write_full_table_here(u8* vtable, const u8* record)
+{
+    if (!has_full_form<L>(record))
+        return false;
+    FullForm<L>::write_here(vtable, record);
+    return true;
+}
+
+template <class L>
+[[nodiscard, gnu::noinline]] bool write_large_full_table(u8* vtable, const u8* record)
+{
+    return write_full_table_here<L>(vtable, record);
+}
+
 // The fast way: a record without a zero scalar. False, and nothing is done, when it is not such a one.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool write_full_table(u8* vtable, const u8* record)
 {
-    if (!has_full_form<L>(record))
-        return false;
-    FullForm<L>::write(vtable, record);
-    return true;
+    if constexpr (L::is_small)
+        return write_full_table_here<L>(vtable, record);
+    else
+        return write_large_full_table<L>(vtable, record);
 }
 
 template <class L>
@@ -360,25 +388,34 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
+// Elements: pictures as long as they are, then any. A branch per scalar is cheap where the zeros are where they were in
+// the row before, and dear where they are not. That two rows in turn came to the same size is the sign for it.
 template <class L>
 u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
 {
-    bool full = !L::has_heap_parts;   // as long as all before were
-    for (u32 i = 0; i < count; ++i) {
-        u8* const cell = cells + std::size_t{cell_bytes} * i;
-        const u8* const record = records + std::size_t{i} * L::record_size;
-        store(cell, static_cast<u32>(at + L::vtable_bytes - cell));
-        if constexpr (!L::has_heap_parts) {
-            full = full && write_full_table<L>(at, record);
-            if (full) {
-                at += FullForm<L>::length;
-                continue;
-            }
+    const u8* record = records;
+    u8* cell = cells;
+    const u8* const end = records + std::size_t{count} * L::record_size;
+    const auto lead = [&] { store(cell, static_cast<u32>(at + L::vtable_bytes - cell)); };
+    if constexpr (!L::has_heap_parts) {
+        for (; record != end && write_full_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
+            lead();
+            at += FullForm<L>::length;
         }
-        if (i + 1 < count)
-            at = write_any_table<L, Tail::follows>(at, record, nested);
+    }
+    std::ptrdiff_t size = 0;
+    bool alike = false;
+    for (; record != end; record += L::record_size, cell += cell_bytes) {
+        lead();
+        u8* const vtable = at;
+        if (own_tail<L> == Tail::none && (alike || record + L::record_size == end))
+            at = write_any_table<L, Tail::none>(at, record, nested);
         else
-            at = write_any_table<L, own_tail<L>>(at, record, nested);
+            at = write_any_table<L, Tail::follows>(at, record, nested);
+        if constexpr (own_tail<L> == Tail::none) {
+            alike = at - vtable == size;
+            size = at - vtable;
+        }
     }
     return at;
 }

@@ -128,6 +128,9 @@ struct Layout {
         return any;
     }();
 
+    // Whether a call costs more than it spares, of code that more than one routine needs.
+    static constexpr bool is_small = slots <= 16;
+
     // Whether every table, in any form, has at least 8 bytes behind its scalars: a cell and a body or another table.
     static constexpr bool has_tail = [] {
         bool any = false;

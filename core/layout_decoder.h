@@ -12,9 +12,8 @@ namespace kesto {
 
 // ---- pictures: what our own writers make of most records is recognised as a whole and copied ----
 
-// A table in compact form, with all beneath it. False, and nothing is written, when it is not such a picture.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_full_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool read_full_table_here(Input in, u32 table, u8* record)
 {
     using Form = FullForm<L>;
     u32 at = 0;
@@ -25,6 +24,22 @@ template <class L>
         return false;
     Form::read(record, bytes);
     return true;
+}
+
+template <class L>
+[[nodiscard, gnu::noinline]] bool read_large_full_table(Input in, u32 table, u8* record)
+{
+    return read_full_table_here<L>(in, table, record);
+}
+
+// A table in compact form, with all beneath it. False, and nothing is written, when it is not such a picture.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool read_full_table(Input in, u32 table, u8* record)
+{
+    if constexpr (L::is_small)
+        return read_full_table_here<L>(in, table, record);
+    else
+        return read_large_full_table<L>(in, table, record);
 }
 
 // A message in fixed form.
@@ -63,7 +78,7 @@ template <class L>
 }
 
 template <class T, u32 N>
-[[nodiscard, gnu::noinline]] bool decode_array(Input in, const TableView<Input>& view, u32 offset, u8* field)
+[[nodiscard, gnu::noinline]] bool decode_array(Input in, TableView<Input> view, u32 offset, u8* field)
 {
     return read_array<T>(in, view, offset, N, field);
 }
@@ -107,7 +122,7 @@ template <class L>
 // ---- nested tables and elements ----
 
 template <class L>
-[[nodiscard]] bool decode_nested(const Input& in, u32 table, u8* record, const NestedDecoder& message)
+[[nodiscard]] bool decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     if constexpr (L::has_heap_parts)
         return decode_any_nested(in, table, record, message);
@@ -116,19 +131,22 @@ template <class L>
                decode_nested_anew(in, table, record, message);
 }
 
-// Elements of a layout without heap parts.
+// Elements of a layout without heap parts: pictures as long as they are, then any.
 template <class L>
-bool decode_plain_elements(const Input& shared_in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
-    const Input in = shared_in;   // held in registers: no store to a record can change a copy
-    bool full = true;             // as long as all before were
-    for (u32 i = 0; i < count; ++i) {
-        u8* const record = records + std::size_t{i} * L::record_size;
-        u32 table = 0;
+    u32 i = 0, table = 0;
+    u8* record = records;
+    for (; i < count; ++i, record += L::record_size) {
         if (!element_table(in, cells, i, table))
             return false;
-        full = full && read_full_table<L>(in, table, record);
-        if (!full && !read_plain_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
+        if (!read_full_table<L>(in, table, record))
+            break;
+    }
+    for (; i < count; ++i, record += L::record_size) {
+        if (!element_table(in, cells, i, table))
+            return false;
+        if (!read_plain_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
             return false;
     }
     return true;
@@ -164,14 +182,19 @@ template <class L, u32 K>
     }
 }
 
-// As decode_any_slots. In slot order, as a refusal leaves unset what comes behind it.
+// As decode_any_slots, for a table whose scalars are tested. In slot order, as a refusal leaves unset what is behind it.
 template <class L>
-bool decode_heap_slots(const Frame& shared_frame, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool decode_tested_slots(const Frame& frame, u8* record)
 {
-    const Frame frame = shared_frame;   // held in registers, likewise
+    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, record); });
+}
+
+template <class L>
+bool decode_heap_slots(const Frame& frame, u8* record)
+{
     if (!has_tested_scalars<L>(frame.in, frame.view)) [[unlikely]]
         return decode_any_slots(frame, record);
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, record); });
+    return decode_tested_slots<L>(frame, record);
 }
 
 // ---- a layout as data, and the fastest routines for it ----
@@ -237,25 +260,36 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
+// False, and nothing is done that decode_message does not do anew, when there is no fast way.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_plain_message(const Input& in, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool read_message(Input in, u8* record, const Decoder& decoder)
 {
     const u32 table = root_table(in);
-    return (table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) ||
-           read_plain_table<L>(in, table, record);
+    if constexpr (L::has_heap_parts) {
+        Frame frame{in, {}, &decoder, decoder.unpack_routine};
+        if (open_table(in, table, frame.view) != TableFault::none || !has_tested_scalars<L>(in, frame.view))
+            return false;
+        ensure_memory_services(*decoder.unit);
+        clear_run<L::record_size>(record);
+        if (!decode_tested_slots<L>(frame, record)) [[unlikely]]
+            release_record(decoder, record);
+        return true;
+    } else {
+        if (!(table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) &&
+            !read_plain_table<L>(in, table, record))
+            return false;
+        ensure_memory_services(*decoder.unit);
+        return true;
+    }
 }
 
 // The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
 template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    if constexpr (!L::has_heap_parts) {
-        if (may_decode(bytes, length, record) && read_plain_message<L>({bytes, length}, record)) [[likely]] {
-            ensure_memory_services(*decoder.unit);
-            return L::record_size;
-        }
-    }
-    decode_message(bytes, length, record, decoder);
+    const bool done = may_decode(bytes, length, record) && read_message<L>({bytes, length}, record, decoder);
+    if (!done) [[unlikely]]
+        decode_message(bytes, length, record, decoder);
     return L::record_size;
 }
 

@@ -151,7 +151,7 @@ struct Picture {
     }>;
 
     // Writes `length` bytes.
-    static void write(u8* to, const u8* record)
+    [[gnu::always_inline]] static void write_here(u8* to, const u8* record)
     {
         if constexpr (!host_has_wire_order) {
             copy_run<length>(to, image.data());
@@ -164,6 +164,8 @@ struct Picture {
             });
         }
     }
+
+    [[gnu::noinline]] static void write(u8* to, const u8* record) { write_here(to, record); }
 
     // Whether `length` bytes are a picture of some record.
     static bool matches(const u8* bytes)

@@ -59,7 +59,10 @@ template <class L>
     } else {
         u8 buffer[L::fixed_length];
         ensure_memory_services(*encoder.unit);
-        FixedForm<L>::write(buffer, record);
+        if constexpr (L::is_small)
+            FixedForm<L>::write_here(buffer, record);
+        else
+            FixedForm<L>::write(buffer, record);
         const MeshSendItem item{buffer, encoder.id, L::fixed_length};
         return hand_over(channel, &item, 1, destination);
     }
