@@ -78,6 +78,17 @@ bool decode_slot(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field
     return decode_vector(frame, offset, field, frame.decoder->nested[slot.nested]);
 }
 
+bool decode_slots(const Frame& frame, u8* record)
+{
+    for (u32 k = 0; k < frame.decoder->slot_count; ++k) {
+        const SlotInfo& slot = frame.decoder->slots[k];
+        const u32 offset = slot_offset(frame.in, frame.view, k);
+        if (offset != 0 && !decode_slot(frame, offset, slot, record + slot.record_offset))
+            return false;
+    }
+    return true;
+}
+
 }   // namespace
 
 void release_record(const Decoder& decoder, u8* record)
@@ -173,17 +184,6 @@ void free_unpacked(void* record, const Decoder& decoder)
         release_record(decoder, static_cast<u8*>(record));
 }
 
-bool decode_any_slots(const Frame& frame, u8* record)
-{
-    for (u32 k = 0; k < frame.decoder->slot_count; ++k) {
-        const SlotInfo& slot = frame.decoder->slots[k];
-        const u32 offset = slot_offset(frame.in, frame.view, k);
-        if (offset != 0 && !decode_slot(frame, offset, slot, record + slot.record_offset))
-            return false;
-    }
-    return true;
-}
-
 bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     const Decoder& decoder = *message.decoder;
@@ -193,7 +193,7 @@ bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& mes
         refuse_table(frame, fault);
         return false;
     }
-    if (decoder.decode_slots(frame, record)) [[likely]]
+    if (decode_slots(frame, record)) [[likely]]
         return true;
     if (decoder.heap_field_count != 0)
         release_record(decoder, record);
@@ -204,18 +204,6 @@ bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& me
 {
     std::memset(record, 0, message.decoder->record_size);
     return decode_any_nested(in, table, record, message);
-}
-
-bool decode_any_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
-{
-    for (u32 i = 0; i < count; ++i) {
-        u32 table = 0;
-        if (!element_table(in, cells, i, table))
-            return false;
-        if (!decode_any_nested(in, table, records + std::size_t{i} * element.decoder->record_size, element))
-            return false;
-    }
-    return true;
 }
 
 void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
@@ -232,7 +220,7 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
     }
     ensure_memory_services(*decoder.unit);
     std::memset(record, 0, decoder.record_size);
-    if (!decoder.decode_slots(frame, record) && decoder.heap_field_count != 0)
+    if (!decode_slots(frame, record) && decoder.heap_field_count != 0)
         release_record(decoder, record);
 }
 

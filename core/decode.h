@@ -22,9 +22,6 @@ struct SlotInfo {
     u16 record_offset;
 };
 
-// Decodes all slots of the frame's table.
-using DecodeSlots = bool (*)(const Frame& frame, u8* record);
-
 // What decoding and releasing need to know about one message.
 struct Decoder {
     Unit* unit;
@@ -35,7 +32,6 @@ struct Decoder {
     u32 slot_count;
     u32 heap_field_count;           // 0 for a message without heap parts
     const SlotInfo* heap_fields;    // the slots that own memory, or whose nested record does
-    DecodeSlots decode_slots;       // decode_any_slots, or a faster one that does the same
     u32 record_size;
 };
 
@@ -45,7 +41,7 @@ using DecodeElements = bool (*)(Input in, u32 cells, u32 count, u8* records, con
 struct NestedDecoder {
     const Decoder* decoder;
     const char* routine;              // its name as a nested decoder
-    DecodeElements decode_elements;   // decode_any_elements or a faster one; null for a table
+    DecodeElements decode_elements;   // null for a table
 };
 
 // The table that is being decoded.
@@ -67,12 +63,9 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 
 // A table inside a message, into a record that is clear. One that is refused is reported, and its record released.
 [[nodiscard]] bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
-[[nodiscard]] bool decode_any_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
 
 // Into a record that need not be clear.
 [[nodiscard]] bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message);
-
-[[nodiscard]] bool decode_any_slots(const Frame& frame, u8* record);
 
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);               // logs a failed allocation

@@ -119,17 +119,78 @@ template <class L>
     return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
 }
 
-// ---- nested tables and elements ----
+// ---- nested tables ----
+
+template <class L>
+[[nodiscard]] bool decode_heap_table(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 template <class L>
 [[nodiscard]] bool decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     if constexpr (L::has_heap_parts)
-        return decode_any_nested(in, table, record, message);
+        return decode_heap_table<L>(in, table, record, message);
     else
         return read_full_table<L>(in, table, record) || read_plain_table<L>(in, table, record) ||
                decode_nested_anew(in, table, record, message);
 }
+
+// ---- layouts with heap parts ----
+
+// `in` and `view` are the frame's: copies that no store to a record can change.
+template <class L, u32 K>
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in, const TableView<Input>& view,
+                                                          u8* record)
+{
+    using Slot = typename L::template Slot<K>;
+    const u32 offset = slot_unchecked(in, view, K);
+    u8* const field = record + L::record_offset[K];
+    if constexpr (Slot::kind == Kind::scalar) {
+        read_tested_scalar<typename Slot::Value>(in, view, offset, field);
+        return true;
+    } else if (offset == 0) {
+        return true;   // the record is clear already
+    } else if constexpr (Slot::kind == Kind::array) {
+        return decode_array<typename Slot::Value, Slot::count>(in, view, offset, field);
+    } else if constexpr (Slot::kind == Kind::text) {
+        return decode_text(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::block) {
+        return decode_block(frame, offset, field);
+    } else if constexpr (Slot::kind == Kind::vector) {
+        return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+    } else {
+        u32 table = 0;
+        if (!nested_table(in, view, offset, table))
+            return false;
+        const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
+        return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
+    }
+}
+
+// A table whose scalars are tested, into a record that is clear; on a fault it is released. In slot order, as a fault
+// leaves unset what is behind it.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool decode_tested_table(Input in, const TableView<Input>& view, u8* record,
+                                                                  const Decoder& decoder, const char* routine)
+{
+    const Frame frame{in, view, &decoder, routine};
+    if (each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, in, view, record); }))
+        [[likely]]
+        return true;
+    release_record(decoder, record);
+    return false;
+}
+
+// As decode_any_nested.
+template <class L>
+bool decode_heap_table(Input in, u32 table, u8* record, const NestedDecoder& message)
+{
+    TableView<Input> view;
+    if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
+        return decode_any_nested(in, table, record, message);
+    return decode_tested_table<L>(in, view, record, *message.decoder, message.routine);
+}
+
+// ---- elements ----
 
 // Elements of a layout without heap parts: pictures as long as they are, then any.
 template <class L>
@@ -152,49 +213,17 @@ bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const Ne
     return true;
 }
 
-// ---- layouts with heap parts ----
-
-template <class L, u32 K>
-[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, u8* record)
+template <class L>
+bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
-    using Slot = typename L::template Slot<K>;
-    const u32 offset = slot_unchecked(frame.in, frame.view, K);
-    u8* const field = record + L::record_offset[K];
-    if constexpr (Slot::kind == Kind::scalar) {
-        read_tested_scalar<typename Slot::Value>(frame.in, frame.view, offset, field);
-        return true;
-    } else if (offset == 0) {
-        return true;   // the record is clear already
-    } else if constexpr (Slot::kind == Kind::array) {
-        return decode_array<typename Slot::Value, Slot::count>(frame.in, frame.view, offset, field);
-    } else if constexpr (Slot::kind == Kind::text) {
-        return decode_text(frame, offset, field);
-    } else if constexpr (Slot::kind == Kind::block) {
-        return decode_block(frame, offset, field);
-    } else if constexpr (Slot::kind == Kind::vector) {
-        return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
-    } else {
+    for (u32 i = 0; i < count; ++i) {
         u32 table = 0;
-        if (!nested_table(frame.in, frame.view, offset, table))
+        if (!element_table(in, cells, i, table))
             return false;
-        const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
-        return decode_nested<typename Slot::Layout>(frame.in, table, field, message) || !Slot::fault_ends_read;
+        if (!decode_heap_table<L>(in, table, records + std::size_t{i} * L::record_size, element))
+            return false;
     }
-}
-
-// As decode_any_slots, for a table whose scalars are tested. In slot order, as a refusal leaves unset what is behind it.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool decode_tested_slots(const Frame& frame, u8* record)
-{
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, record); });
-}
-
-template <class L>
-bool decode_heap_slots(const Frame& frame, u8* record)
-{
-    if (!has_tested_scalars<L>(frame.in, frame.view)) [[unlikely]]
-        return decode_any_slots(frame, record);
-    return decode_tested_slots<L>(frame, record);
+    return true;
 }
 
 // ---- a layout as data, and the fastest routines for it ----
@@ -241,19 +270,10 @@ constexpr auto heap_fields = [] {
 }();
 
 template <class L>
-constexpr DecodeSlots slots_decoder()
-{
-    if constexpr (L::has_heap_parts)
-        return decode_heap_slots<L>;
-    else
-        return decode_any_slots;
-}
-
-template <class L>
 constexpr DecodeElements elements_decoder()
 {
     if constexpr (L::has_heap_parts)
-        return decode_any_elements;
+        return decode_heap_elements<L>;
     else
         return decode_plain_elements<L>;
 }
@@ -266,13 +286,12 @@ template <class L>
 {
     const u32 table = root_table(in);
     if constexpr (L::has_heap_parts) {
-        Frame frame{in, {}, &decoder, decoder.unpack_routine};
-        if (open_table(in, table, frame.view) != TableFault::none || !has_tested_scalars<L>(in, frame.view))
+        TableView<Input> view;
+        if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
             return false;
         ensure_memory_services(*decoder.unit);
         clear_run<L::record_size>(record);
-        if (!decode_tested_slots<L>(frame, record)) [[unlikely]]
-            release_record(decoder, record);
+        (void)decode_tested_table<L>(in, view, record, decoder, decoder.unpack_routine);
         return true;
     } else {
         if (!(table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) &&

@@ -41,7 +41,6 @@ struct Receiving {
         made.slot_count = L::slots;
         made.heap_fields = heap_fields<L>.data();
         made.heap_field_count = heap_fields<L>.size();
-        made.decode_slots = slots_decoder<L>();
         made.record_size = L::record_size;
         return made;
     }();
