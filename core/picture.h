@@ -48,14 +48,28 @@ struct Piece {
 struct Move {
     u32 to;
     u32 from;
-    u32 bytes;   // a power of two
+    u32 bytes;   // a power of two, or those of a long piece
     bool constant;
 };
+
+// Where a move of 16 bytes takes four registers, a piece as long as this one goes by a call.
+constexpr u32 long_piece = sizeof(void*) == 8 ? 0xFFFFFFFF : move_bytes + 1;
+
+[[gnu::noinline]] inline void copy_long(u8* to, const u8* from, u32 bytes) { std::memcpy(to, from, bytes); }
+[[gnu::noinline]] inline void clear_long(u8* to, u32 bytes) { std::memset(to, 0, bytes); }
+[[gnu::noinline]] inline bool differ_long(const u8* left, const u8* right, u32 bytes)
+{
+    return std::memcmp(left, right, bytes) != 0;
+}
 
 // Calls visit(move) for the moves of one piece, none of which passes the given ends.
 template <class Visit>
 constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, Visit&& visit)
 {
+    if (piece.bytes >= long_piece) {
+        visit(Move{piece.to, piece.from, piece.bytes, piece.constant});
+        return;
+    }
     u32 done = 0;
     while (done < piece.bytes) {
         u32 width = std::min(move_bytes, std::bit_ceil(piece.bytes - done));
@@ -160,7 +174,11 @@ struct Picture {
         } else {
             make_moves<writing>([&](auto m) __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
-                std::memcpy(to + move.to, (move.constant ? image.data() : record) + move.from, move.bytes);
+                const u8* const from = (move.constant ? image.data() : record) + move.from;
+                if constexpr (move.bytes > detail::move_bytes)
+                    detail::copy_long(to + move.to, from, move.bytes);
+                else
+                    detail::copy_move<move.bytes>(to + move.to, from);
             });
         }
     }
@@ -176,7 +194,9 @@ struct Picture {
             constexpr detail::Move move = comparing[m];
             const u8* const left = bytes + move.to;
             const u8* const right = image.data() + move.to;
-            if constexpr (move.bytes == 16)
+            if constexpr (move.bytes > detail::move_bytes)
+                narrow |= detail::differ_long(left, right, move.bytes);
+            else if constexpr (move.bytes == detail::move_bytes)
                 detail::gather_difference(wide, left, right);
             else if constexpr (move.bytes == 8)
                 detail::gather_difference<u64>(narrow, left, right);
@@ -202,10 +222,14 @@ struct Picture {
         } else {
             make_moves<reading>([&](auto m) __attribute__((always_inline)) {
                 constexpr detail::Move move = reading[m];
-                if constexpr (move.constant)
+                if constexpr (move.constant && move.bytes > detail::move_bytes)
+                    detail::clear_long(record + move.to, move.bytes);
+                else if constexpr (move.constant)
                     std::memset(record + move.to, 0, move.bytes);
+                else if constexpr (move.bytes > detail::move_bytes)
+                    detail::copy_long(record + move.to, bytes + move.from, move.bytes);
                 else
-                    std::memcpy(record + move.to, bytes + move.from, move.bytes);
+                    detail::copy_move<move.bytes>(record + move.to, bytes + move.from);
             });
         }
     }
