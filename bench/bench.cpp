@@ -204,7 +204,7 @@ void add_all()
             add_threads(set);
     }
     for (const u32 rows : {4u, 64u, 1024u, 4096u}) {   // 1, 16 and 256 are among the sets
-        const RecordSet& set = keep(make_records({"ifit_flow_base_mesh_update", rows, 0, 0, false}, Fill::full));
+        const RecordSet& set = keep(make_records({"ifit_flow_base_mesh_update", rows, 0, 0, false, false}, Fill::full));
         for (const Contender& contender : contenders())
             if (std::string_view(contender.name) != "nanopb")
                 add_both_ways(set, contender);

@@ -20,9 +20,6 @@ using reference::Random;
 using reference::Record;
 using reference::Slot;
 
-constexpr u32 most_records = 64;
-constexpr u64 most_bytes = 256 << 10;
-
 [[noreturn]] void fail(const std::string& text)
 {
     std::fprintf(stderr, "%s\n", text.c_str());
@@ -84,7 +81,7 @@ Record make_record(const Message& message, const Shape& shape, Fill fill, Random
         Field& field = record.fields[k];
         switch (slot.kind) {
         case Kind::scalar: {
-            const bool zero = fill == Fill::sparse ? random.below(10) < 6 : fill == Fill::uniform && zeros[k];
+            const bool zero = fill == Fill::uniform ? zeros[k] : fill != Fill::full && random.below(10) < 6;
             field.number = zero ? 0 : not_zero(slot.width, random);
             break;
         }
@@ -114,18 +111,22 @@ Record make_record(const Message& message, const Shape& shape, Fill fill, Random
 
 }   // namespace
 
-const char* name_of(Fill fill) { return fill == Fill::full ? "full" : fill == Fill::sparse ? "sparse" : "uniform"; }
+const char* name_of(Fill fill)
+{
+    constexpr const char* names[] = {"full", "sparse", "varied", "uniform"};
+    return names[static_cast<u8>(fill)];
+}
 
 const std::vector<Shape> shapes = {
-    {"ifit_color_intf_mesh", 0, 0, 0, false},
-    {"ifit_flow_base_mesh", 0, 0, 0, false},
-    {"ifit_flow_statistics_entry_to_mdtlm", 0, 0, 0, false},
-    {"ifit_sync_ifit_session_entry", 0, 0, 0, false},
-    {"ifit_flow_base_mesh_update", 1, 0, 0, false},
-    {"ifit_flow_base_mesh_update", 16, 0, 0, true},
-    {"ifit_flow_base_mesh_update", 256, 0, 0, true},
-    {"ifit_dfx_query_queryhash_rec_mesh", 0, 24, 64, false},
-    {"ntvifit_stats_info_list", 32, 0, 40, false},
+    {"ifit_color_intf_mesh", 0, 0, 0, true, false},
+    {"ifit_flow_base_mesh", 0, 0, 0, true, false},
+    {"ifit_flow_statistics_entry_to_mdtlm", 0, 0, 0, true, false},
+    {"ifit_sync_ifit_session_entry", 0, 0, 0, true, false},
+    {"ifit_flow_base_mesh_update", 1, 0, 0, false, false},
+    {"ifit_flow_base_mesh_update", 16, 0, 0, true, true},
+    {"ifit_flow_base_mesh_update", 256, 0, 0, false, true},
+    {"ifit_dfx_query_queryhash_rec_mesh", 0, 24, 64, false, false},
+    {"ntvifit_stats_info_list", 32, 0, 40, false, false},
 };
 
 RecordSet make_records(const Shape& shape, Fill fill)
@@ -133,6 +134,8 @@ RecordSet make_records(const Shape& shape, Fill fill)
     const Message& message = message_named(shape.message);
     Random random(message.id + shape.rows + static_cast<u32>(fill));
     RecordSet set{shape, fill, {}, {}};
+    const std::size_t most_records = fill == Fill::varied ? 16384 : 64;
+    const u64 most_bytes = fill == Fill::varied ? 4 << 20 : 256 << 10;
     u64 bytes = 0;
     do {
         set.records.push_back(make_record(message, shape, fill, random));
@@ -147,8 +150,8 @@ std::vector<RecordSet> make_all_records()
 {
     std::vector<RecordSet> sets;
     for (const Shape& shape : shapes)
-        for (const Fill fill : {Fill::full, Fill::sparse, Fill::uniform})
-            if (fill != Fill::uniform || shape.has_uniform)
+        for (const Fill fill : {Fill::full, Fill::sparse, Fill::varied, Fill::uniform})
+            if ((fill != Fill::varied || shape.varied) && (fill != Fill::uniform || shape.uniform))
                 sets.push_back(make_records(shape, fill));
     return sets;
 }

@@ -13,6 +13,7 @@ namespace kesto::bench {
 enum class Fill : u8 {
     full,      // no zero scalar
     sparse,    // three of five scalars zero, in a pattern of its own for each record and row
+    varied,    // like sparse, in so many records that no processor learns their patterns
     uniform,   // three of five scalars zero, the same ones in all rows of all records
 };
 
@@ -20,16 +21,18 @@ const char* name_of(Fill fill);
 
 struct Shape {
     const char* message;
-    u32 rows;           // 0 for a message without rows
-    u32 text, block;    // bytes of each
-    bool has_uniform;   // is measured with this fill as well
+    u32 rows;          // 0 for a message without rows
+    u32 text, block;   // bytes of each
+    bool varied;       // is measured with these fills as well
+    bool uniform;
 
     std::string name() const { return rows == 0 ? message : message + (":" + std::to_string(rows)); }
 };
 
 extern const std::vector<Shape> shapes;
 
-// Records that are used in turn: 64, or as many as stay within 256 KiB together with their bytes.
+// Records that are used in turn: 64, or as many as stay within 256 KiB together with their bytes; varied ones are
+// 16384, or as many as stay within 4 MiB.
 struct RecordSet {
     Shape shape;
     Fill fill;

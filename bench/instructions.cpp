@@ -65,6 +65,7 @@ int main()
         return 2;
     }
     for (const kesto::bench::RecordSet& set : kesto::bench::make_all_records())
-        kesto::bench::count_all(set);
+        if (set.fill != kesto::bench::Fill::varied)   // takes as many as sparse
+            kesto::bench::count_all(set);
     return 0;
 }

@@ -62,6 +62,7 @@ OPERATIONS = ["send", "pack", "unpack", "unpack_sent"]
 COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # of the peers and the limit
 CONTENDERS = ["ours", "limit", "protobuf", "capnp", "nanopb"]
 PEERS = ["protobuf", "capnp"]   # the faster one is `best`
+FILLS = ["full", "sparse", "varied", "uniform"]
 ROWS = [1, 4, 16, 64, 256, 1024, 4096]
 SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
 
@@ -109,7 +110,7 @@ class Results:
         return ours / min(others) if ours and others else None
 
     def sets(self, operation):
-        sets = [f"{message}/{fill}" for message in SHOWN for fill in ("full", "sparse", "uniform")]
+        sets = [f"{message}/{fill}" for message in SHOWN for fill in FILLS]
         return [records for records in sets if (operation, records, "ours") in self.times]
 
 
@@ -137,16 +138,14 @@ def goals(results):
     head = ["goal", "/ limit", "at most", "/ best", "at most", "/ protobuf", "at most", ""]
     rows = []
     for operation, records, *bounds in GOALS:
-        row, met = [f"{operation}/{records}"], True
+        row, held = [f"{operation}/{records}"], []
         for bound, others in zip(bounds, (["limit"], PEERS, ["protobuf"])):
-            ratio = results.ratio(operation, records, others)
-            if bound is None or ratio is None:
-                row += ["", ""]
-                met = met and bound is None
-                continue
-            row += [number(ratio), f"{bound:g}"]
-            met = met and ratio <= bound
-        rows.append([*row, "met" if met else "NOT MET"])
+            ratio = results.ratio(operation, records, others) if bound else None
+            row += [number(ratio), f"{bound:g}"] if ratio else ["", ""]
+            if bound:
+                held.append(ratio and ratio <= bound)
+        known = None not in held
+        rows.append([*row, "not measured" if not known else "met" if all(held) else "NOT MET"])
     for message in SINGLE:
         full, sparse = (results.time("send", f"{message}/{fill}", "ours") for fill in ("full", "sparse"))
         if full and sparse:
@@ -181,7 +180,8 @@ def parts(results):
         if results.sets(operation):
             yield f"{operation}: nanoseconds, and ours as a multiple of the others'", table(results, operation)
     head, rows = goals(results)
-    yield f"Goals: {sum(row[-1] == 'met' for row in rows)} of {len(rows)} met", (head, rows)
+    met, missed = (sum(row[-1] == word for row in rows) for word in ("met", "NOT MET"))
+    yield f"Goals: {met} of {met + missed} met", (head, rows)
     if results.rates:
         yield "Threads", threads(results)
 
@@ -249,8 +249,8 @@ def draw(results):
         pyplot.close(figure)
 
     for operation in ("send", "pack", "unpack"):
-        sets = [records for records in results.sets(operation) if "sparse" not in records or UPDATE not in records]
-        sets = [records for records in sets if records.split("/")[0].split(":")[-1] not in ("4", "64", "1024", "4096")]
+        sets = results.sets(operation)
+        sets = [records for records in sets if not re.search(":(4|64|1024|4096)/", records)]   # are in the last plot
         shown = [each for each in CONTENDERS if each != "limit"]
         figure, axes = pyplot.subplots(figsize=(7.5, 0.5 * len(sets) + 0.8))
         height = 0.8 / len(shown)
@@ -267,7 +267,8 @@ def draw(results):
         axes.set_xlabel(f"{operation}: time as a multiple of a straight copy's")
         axes.grid(axis="x", which="major", linewidth=0.4)
         axes.set_axisbelow(True)
-        axes.legend(loc="lower right")
+        axes.margins(y=0.01)
+        axes.legend(loc="lower center", bbox_to_anchor=(0.5, 1), ncol=len(shown), frameon=False)
         save(figure, operation)
 
     figure, both = pyplot.subplots(1, 2, figsize=(7.5, 3), sharey=True)
@@ -283,7 +284,8 @@ def draw(results):
         axes.set_xlabel(f"{operation}: rows of {UPDATE}, full")
         axes.grid(linewidth=0.4)
     both[0].set_ylabel("ns per row")
-    both[1].legend()
+    figure.legend(*both[0].get_legend_handles_labels(), loc="lower center", bbox_to_anchor=(0.5, 0.88), ncol=4,
+                  frameon=False)
     save(figure, "rows")
 
 

@@ -130,7 +130,8 @@ template <class In>
 // Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the root.
 // n is at least `before`, and small.
 template <class In>
-[[nodiscard]] inline bool picture_fits(const In& in, typename In::Word table, u32 before, u32 n, typename In::Word& at)
+[[nodiscard]] inline bool picture_fits(const In& in, typename In::Word table, typename In::Word before,
+                                       typename In::Word n, typename In::Word& at)
 {
     using Word = typename In::Word;
     if (in.length < root_bytes + n)
@@ -151,7 +152,7 @@ inline bool holds_slots(const TableView<In>& view, typename In::Word slots)
 
 // Slot `k`, of a vtable that holds it: the field's offset from the table, 0 when it is absent.
 template <class In>
-inline typename In::Word slot_unchecked(const In& in, const TableView<In>& view, u32 k)
+inline typename In::Word slot_unchecked(const In& in, const TableView<In>& view, typename In::Word k)
 {
     return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // holds_slots
 }
@@ -163,7 +164,7 @@ inline typename In::Word slot_offset(const In& in, const TableView<In>& view, ty
     using Word = typename In::Word;
     if (!holds_slots(view, k + 1))
         return Word(0);
-    return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // holds_slots
+    return slot_unchecked(in, view, k);
 }
 
 // Whether the n bytes at `offset` behind the table's start lie inside. n is 8 at the most and an offset has 16 bits.
@@ -174,7 +175,7 @@ template <class In>
 }
 
 // The bounds of many fields at once: the offsets of four slots, or of two where a word has 32 bits, lie in lanes of one
-// word. A lane's top bit says whether an offset is beyond its limit; so neither may be as large as that bit.
+// word, whose top bit is left free.
 using LaneWord = std::conditional_t<sizeof(void*) == 8, u64, u32>;
 
 constexpr u32 lane_bits = 16;
@@ -191,12 +192,12 @@ constexpr W each_lane(W value)
     return word;
 }
 
-// Has the top bit in each lane in which offset + width > room. `room` has the room in each lane, from widest_scalar to
-// largest_lane, and `widths` the widths.
+// No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in each
+// lane, from widest_scalar to largest_lane. Only a lane that is beyond borrows from its neighbour.
 template <class W>
-inline W lanes_beyond(const W& room, const W& widths, const W& offsets, const W& top_bits)
+inline W lanes_beyond(const W& room, const W& widths, const W& offsets)
 {
-    return ~(((room | top_bits) - widths) - offsets) | offsets;
+    return (room - widths - offsets) | offsets;
 }
 
 // Whether all fields of a vtable that holds so many slots lie inside; `widths` are 0 where that does not matter. False
@@ -205,7 +206,6 @@ template <std::size_t N>
 [[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
                                                           const std::array<u8, N>& widths)
 {
-    constexpr LaneWord top_bits = each_lane<LaneWord>(largest_lane + 1);
     if (view.room < widest_scalar)
         return false;
     const LaneWord room = each_lane<LaneWord>(1) * (view.room < largest_lane ? view.room : largest_lane);
@@ -219,7 +219,7 @@ template <std::size_t N>
         else
             for (u32 i = 0; i < count; ++i)
                 offsets |= LaneWord{slot_unchecked(in, view, first + i)} << (lane_bits * i);
-        beyond |= lanes_beyond<LaneWord>(room, fields, offsets, top_bits);
+        beyond |= lanes_beyond<LaneWord>(room, fields, offsets);
     };
     constexpr u32 slots = N;
 #pragma GCC unroll 64
@@ -231,7 +231,7 @@ template <std::size_t N>
         else
             look(0, slots);
     }
-    return (beyond & top_bits) == 0;
+    return (beyond & each_lane<LaneWord>(largest_lane + 1)) == 0;
 }
 
 // A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read: at offset 0 the table's head stands,

@@ -145,9 +145,38 @@ struct HeldSlots {
         const bool held = Reader::holds_slots(view, slots);
         world.state(Role::promised, held == (wide(view.vtable_length) >= wide(slots) * 2 + 4),
                     "slots are held if and only if the vtable is long enough");
-        if (held)
-            Reader::slots_unchecked(world.input(), view, slots);   // all of them are read
+        if (held) {
+            const auto k = world.any();
+            world.state(Role::relied_on, k < slots, "one of them");
+            slot_value(world, Role::promised, Reader::slot_unchecked(world.input(), view, k));
+        }
         return held;
+    }
+};
+
+// For any picture of up to 64 KiB, and any part of it in front of the table.
+template <class Reader>
+struct PictureFits {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto table = world.any(), before = world.any(), n = world.any();
+        world.state(Role::relied_on, n <= 0xffff, "a picture is small");
+        world.state(Role::relied_on, before <= n, "the table is in the picture");
+        const auto at_before = world.any();
+        auto at = at_before;
+        const bool accepted = Reader::picture_fits(in, table, before, n, at);
+        const auto fits = (wide(table) >= wide(before) + root_bytes) &
+                          (wide(table) + wide(n) <= wide(in.length) + wide(before));
+        world.state(Role::promised, accepted == fits, "a picture is looked at if and only if it lies inside");
+        if (!accepted) {
+            world.state(Role::promised, at == at_before, "a refusal writes nothing");
+            return 0;
+        }
+        world.state(Role::promised, wide(at) + wide(before) == wide(table), "the table is where it was said to be");
+        in.touch(wide(at), wide(n));
+        return 1;
     }
 };
 

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <random>
 
 #include "tests/proof/contracts.h"
 #include "tests/proof/readers.h"
@@ -34,7 +35,8 @@ template <class Reader>
 struct Contracts {
     static constexpr Subject root_table = subject<RootTable<Reader>>("root_table", 1);
     static constexpr Subject open_table = subject<OpenTable<Reader>>("open_table", 4);
-    static constexpr Subject held_slots = subject<HeldSlots<Reader>>("holds_slots, slots_unchecked", 2);
+    static constexpr Subject held_slots = subject<HeldSlots<Reader>>("holds_slots, slot_unchecked", 2);
+    static constexpr Subject picture_fits = subject<PictureFits<Reader>>("picture_fits", 2);
     static constexpr Subject slot_offset = subject<SlotOffset<Reader>>("slot_offset", 2);
     static constexpr Subject scalar_u8 = subject<typename ScalarOf<u8>::template Read<Reader>>("read_scalar<u8>", 2);
     static constexpr Subject scalar_u16 = subject<typename ScalarOf<u16>::template Read<Reader>>("read_scalar<u16>", 2);
@@ -50,7 +52,7 @@ struct Contracts {
     static constexpr Subject element_table = subject<ElementTable<Reader>>("element_table", 2);
     static constexpr Subject message = subject<Message<Reader>>("message", Message<Reader>::outcomes);
 
-    static constexpr Subject all[] = {root_table, open_table,   held_slots,    slot_offset, scalar_u8, scalar_u16,
+    static constexpr Subject all[] = {root_table, open_table,   held_slots,    picture_fits, slot_offset, scalar_u8, scalar_u16,
                                       scalar_u32, scalar_u64,   open_body,     bytes_fit,   cells_fit, array_u8,
                                       array_u32,  nested_table, element_table, message};
 };
@@ -196,6 +198,10 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(slots_with_a_byte_missing, held_slots, broken_promise, read_outside),
                                          FAULT(slots_without_head, held_slots, broken_promise, read_outside),
                                          FAULT(slot_one_further, slot_offset, read_outside, read_outside),
+                                         FAULT(picture_in_the_root, picture_fits, broken_promise, none),
+                                         FAULT(picture_of_any_length, picture_fits, broken_promise, none),
+                                         FAULT(picture_by_its_end, picture_fits, broken_promise, none),
+                                         FAULT(picture_one_too_far, picture_fits, broken_promise, none),
                                          FAULT(field_without_width, scalar_u16, read_outside, read_outside),
                                          FAULT(body_without_cell, open_body, read_outside, read_outside),
                                          FAULT(body_without_count, open_body, read_outside, read_outside),
@@ -211,6 +217,80 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(element_may_wrap, element_table, broken_promise, none),
                                          FAULT(element_one_further, element_table, read_outside, read_outside)),
                          [](const auto& fault) { return std::string(fault.param.name); });
+
+// ---- many fields at once ----
+
+// No lane is said to be beyond if and only if every field is inside.
+template <class Lanes>
+bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = largest_lane)
+{
+    z3::context& context = solver_context();
+    z3::solver solver(context);
+    const z3::expr offsets = context.bv_const("offsets", bits), widths = context.bv_const("widths", bits),
+                   rooms = context.bv_const("rooms", bits), beyond = lanes(rooms, widths, offsets);
+    z3::expr said = context.bool_val(true), true_of_all = said;
+    for (unsigned i = 0; i < bits / 16; ++i) {
+        const auto lane = [&](const z3::expr& word) { return z3::zext(word.extract(16 * i + 15, 16 * i), 16); };
+        const auto number = [&](unsigned value) { return context.bv_val(value, 32); };
+        solver.add(z3::ule(lane(widths), number(widest_scalar)));
+        solver.add(z3::uge(lane(rooms), number(widest_scalar)) && z3::ule(lane(rooms), number(greatest_room)));
+        said = said && z3::ule(lane(beyond), number(largest_lane));
+        true_of_all = true_of_all && z3::ule(lane(offsets) + lane(widths), lane(rooms));
+    }
+    solver.add(said != true_of_all);
+    return solver.check() == z3::unsat;
+}
+
+TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
+{
+    using Word = z3::expr;
+    for (const unsigned bits : {32U, 64U}) {
+        EXPECT_TRUE(lanes_are_proved(bits, lanes_beyond<Word>));
+        EXPECT_FALSE(lanes_are_proved(bits, lanes_beyond<Word>, largest_lane + 1 + widest_scalar));
+        EXPECT_FALSE(lanes_are_proved(bits, [](const Word& room, const Word& widths, const Word& offsets) {
+            return room - widths - offsets;   // an offset that goes round
+        }));
+        EXPECT_FALSE(lanes_are_proved(bits, [](const Word& room, const Word&, const Word& offsets) {
+            return (room - offsets) | offsets;   // a field that starts inside
+        }));
+    }
+}
+
+// The words that scalars_fit makes of a vtable: it says what a test of each field says.
+template <std::size_t N>
+void expect_fits_like_one_by_one(std::mt19937& chance)
+{
+    std::array<u8, N> widths{};
+    std::array<u8, 4 + 2 * N> bytes{};
+    const auto below = [&](u32 bound) { return static_cast<u32>(chance() % bound); };
+    for (int round = 0; round < 3000; ++round) {
+        const u32 rooms[] = {below(40), below(0x9000), 0x7FF0 + below(0x20)};
+        const u32 room = rooms[round % 3];
+        bool all = room >= widest_scalar;
+        for (u32 k = 0; k < N; ++k) {
+            constexpr u8 all_widths[] = {0, 1, 2, 4, 8};
+            widths[k] = all_widths[below(5)];
+            // Mostly close to the last place that fits, or absent.
+            const u32 limit = std::min(room, largest_lane) - std::min<u32>(room, widths[k]);
+            const u32 offset = below(2 * N) == 0 ? below(0x10000) : limit - below(std::min(limit, 3U) + 1);
+            store(bytes.data() + 4 + 2 * k, static_cast<u16>(below(2) == 0 ? 0 : offset));
+            const u32 written = load<u16>(bytes.data() + 4 + 2 * k);
+            all = all && written + widths[k] <= std::min(room, largest_lane);
+        }
+        const Input in{bytes.data(), static_cast<u32>(bytes.size())};
+        const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};
+        ASSERT_EQ(scalars_fit(in, view, widths), all) << N << " slots, room " << room;
+    }
+}
+
+TEST(Lanes, say_of_a_vtable_what_each_of_its_slots_says)
+{
+    std::mt19937 chance(5);
+    [&]<std::size_t... N>(std::index_sequence<N...>) { (expect_fits_like_one_by_one<N + 1>(chance), ...); }(
+        std::make_index_sequence<13>());
+    expect_fits_like_one_by_one<46>(chance);
+    expect_fits_like_one_by_one<64>(chance);
+}
 
 }   // namespace
 }   // namespace kesto::proof

@@ -22,9 +22,14 @@ struct Shipping {
         return kesto::holds_slots(view, slots);
     }
     template <class In, class Word>
-    static const u8* slots_unchecked(const In& in, const TableView<In>& view, const Word& slots)
+    static auto slot_unchecked(const In& in, const TableView<In>& view, const Word& k)
     {
-        return kesto::slots_unchecked(in, view, slots);
+        return kesto::slot_unchecked(in, view, k);
+    }
+    template <class In, class Word>
+    static bool picture_fits(const In& in, const Word& table, const Word& before, const Word& n, Word& at)
+    {
+        return kesto::picture_fits(in, table, before, n, at);
     }
     template <class In, class Word>
     static auto slot_offset(const In& in, const TableView<In>& view, const Word& k)
@@ -78,6 +83,10 @@ enum class Weakness {
     slots_with_a_byte_missing,
     slots_without_head,
     slot_one_further,
+    picture_in_the_root,
+    picture_of_any_length,
+    picture_by_its_end,
+    picture_one_too_far,
     field_without_width,
     field_by_a_sum,
     body_without_cell,
@@ -137,9 +146,25 @@ struct Weakened {
     }
 
     template <class In, class Word>
-    static const u8* slots_unchecked(const In& in, const TableView<In>& view, const Word& slots)
+    static Word slot_unchecked(const In& in, const TableView<In>& view, const Word& k)
     {
-        return in.bytes_unchecked(view.vtable, vtable_head_bytes, slot_bytes * slots);
+        return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);
+    }
+
+    template <class In, class Word>
+    static bool picture_fits(const In& in, const Word& table, const Word& before, const Word& n, Word& at)
+    {
+        const u32 root = is(Weakness::picture_in_the_root) ? 0 : root_bytes;
+        if (!is(Weakness::picture_of_any_length) && in.length < n + root)
+            return false;
+        if (is(Weakness::picture_by_its_end)) {
+            if (table - before + n > in.length)
+                return false;
+        } else if (table - (before + root) > in.length - (n + root) + (is(Weakness::picture_one_too_far) ? 1 : 0)) {
+            return false;
+        }
+        at = table - before;
+        return true;
     }
 
     template <class In, class Word>
