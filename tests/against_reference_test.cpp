@@ -59,6 +59,37 @@ TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
         }
 }
 
+// Elements of every density in every order: each may take another way than the one before it.
+void mix_elements(Record& record, Random& chance)
+{
+    const reference::Message& message = *record.message;
+    for (std::size_t k = 0; k < record.fields.size(); ++k) {
+        reference::Field& field = record.fields[k];
+        if (field.records.empty())
+            continue;
+        if (message.slots[k].kind == reference::Kind::vector) {
+            const reference::Message& element = *field.records[0].message;
+            field.records.clear();
+            for (std::uint32_t i = chance.below(8) + 1; i != 0; --i)
+                field.records.push_back(reference::random_record(element, reference::densities[chance.below(4)], chance));
+            field.number = field.records.size();
+        }
+        for (Record& inner : field.records)
+            mix_elements(inner, chance);
+    }
+}
+
+TEST_P(EveryMessage, elements_of_every_kind_stand_side_by_side)
+{
+    Random chance = random(6);
+    for (int round = 0; round < 40; ++round) {
+        Record record = reference::random_record(message(), Density::full, chance);
+        mix_elements(record, chance);
+        ASSERT_EQ(check_encoders(record), "") << to_text(record);
+        ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, reference::compact_form(record))) << to_text(record);
+    }
+}
+
 TEST_P(EveryMessage, decodes_strange_but_valid_layouts)
 {
     Random chance = random(2);

@@ -193,6 +193,20 @@ std::string check_encoders(const reference::Record& record)
     std::string fault = first_difference({packed, packed + size}, expected);
     if (!fault.empty())
         return message.name + ", packed: " + fault;
+
+    // With room for more, where the packer need not measure first: the same, and nothing behind it.
+    const std::uint32_t margin = 64;
+    std::uint8_t* const roomy = buffer.place(static_cast<std::uint32_t>(buffer.most()));
+    std::memset(roomy, untouched, size + margin);
+    length = static_cast<std::uint32_t>(buffer.most());
+    if (library.pack(memory.data(), roomy, &length) != 0 || length != size)
+        return message.name + ": packed " + std::to_string(length) + " bytes with room for more, expected " + std::to_string(size);
+    ByteString behind = expected;
+    behind.resize(size + margin, untouched);
+    fault = first_difference({roomy, roomy + size + margin}, behind);
+    if (!fault.empty())
+        return message.name + ", packed with room for more: " + fault;
+
     length = size - 1;
     if (library.pack(memory.data(), packed, &length) != -1 || length != size - 1)
         return message.name + ": packed with a byte too few";
