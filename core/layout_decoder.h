@@ -263,7 +263,7 @@ constexpr auto heap_fields = [] {
     u32 next = 0;
     each_slot<L>([&](auto k) {
         if constexpr (L::template Slot<k>::fixed_bytes == 0)
-            infos[next++] = slot_infos<L>[k];
+            infos[next++] = slot_infos<L>.data()[k];
         return true;
     });
     return infos;

@@ -31,19 +31,17 @@ struct Receiving {
         return list;
     }();
 
-    static constexpr Decoder decoder = [] {
-        Decoder made{};
-        made.unit = unit;
-        made.unpack_routine = unpack_routine.data();
-        made.free_routine = L::has_heap_parts ? free_routine.data() : nullptr;
-        made.nested = nested.data();
-        made.slots = slot_infos<L>.data();
-        made.slot_count = L::slots;
-        made.heap_fields = heap_fields<L>.data();
-        made.heap_field_count = heap_fields<L>.size();
-        made.record_size = L::record_size;
-        return made;
-    }();
+    static constexpr Decoder decoder{
+        .unit = unit,
+        .unpack_routine = unpack_routine.data(),
+        .free_routine = L::has_heap_parts ? free_routine.data() : nullptr,
+        .nested = nested.data(),
+        .slots = slot_infos<L>.data(),
+        .slot_count = L::slots,
+        .heap_field_count = heap_fields<L>.size(),
+        .heap_fields = heap_fields<L>.data(),
+        .record_size = L::record_size,
+    };
 };
 
 // One message's hooks, as MESH is given them.

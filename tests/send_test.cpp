@@ -245,10 +245,20 @@ TEST(Sizes, beyond_32_bits_are_refused)
         EXPECT_EQ(ntvifit_entry_list_mdtlm__sendmsg(1, &list, 1), -1);
         EXPECT_EQ(ntvifit_entry_list_mdtlm__sendbatch(1, &list, 1, 0), -1);
     }
+    const std::uint32_t around = 4 + 60 + 8;   // an element's cell, table and count
     list.f0.count = 1;
     std::uint32_t length = 0xFFFFFFFF;
     EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), 0);   // null buffer: nothing is written
-    EXPECT_EQ(length, 16u + 4 + 8 + 60 + 8 + 0x7FFFFFFF);
+    EXPECT_EQ(length, 24 + around + 0x7FFFFFFF);
+
+    list.f0.count = 2;   // the largest size there is, and one more
+    entries[1].f17.length = 0xFFFFFFFF - 24 - 2 * around - 0x7FFFFFFF;
+    EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
+    length = 0xFFFFFFFF;
+    EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), 0);
+    EXPECT_EQ(length, 0xFFFFFFFF);
+    ++entries[1].f17.length;
+    EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
 }
 
 TEST(Registration, gives_every_hook_in_order_and_stops_at_the_first_failure)

@@ -176,6 +176,38 @@ TEST(Services, are_not_looked_up_without_need)
     });
 }
 
+TEST(Services, are_looked_up_by_whichever_way_of_decoding_or_releasing_comes_first)
+{
+    void (*const ways[])() = {
+        [] { uses[0].receive(); },
+        [] {   // one slot is missing: not for the fast way
+            const std::uint8_t bytes[] = {10, 0, 0, 0, 4, 0, 4, 0, 0, 0, 6, 0, 0, 0};
+            ifit_dfx_query_comm_param_mesh record{};
+            ifit_dfx_query_comm_param_mesh__unpack(bytes, sizeof bytes, &record);
+        },
+        [] {
+            std::uint8_t bytes[40] = {};
+            ifit_color_intf_mesh record{};
+            std::uint32_t length = sizeof bytes;
+            offer = &offers[0];   // the send unit finds nothing
+            ifit_color_intf_mesh__pack(&record, bytes, &length);
+            offer = &offers[8];
+            lookups_of_flag = 0;
+            ifit_color_intf_mesh__unpack(bytes, length, &record);
+        },
+        [] {
+            ifit_dfx_query_comm_param_mesh record{};
+            ifit_dfx_query_comm_param_mesh_free__unpacked(&record);
+        },
+    };
+    for (void (*const use)() : ways)
+        expect_in_child([&](Verdict& verdict) {
+            offer = &offers[8];
+            use();
+            verdict.expect("look-ups of the flag", lookups_of_flag, 1);
+        });
+}
+
 TEST(Services, are_looked_up_by_whichever_way_of_encoding_comes_first)
 {
     static const ifit_color_intf_mesh plain[2] = {};
