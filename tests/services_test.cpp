@@ -218,6 +218,11 @@ TEST(Services, are_looked_up_by_whichever_way_of_encoding_comes_first)
             std::uint32_t length = sizeof buffer;
             ifit_color_intf_mesh__pack(plain, buffer, &length);
         },
+        [] {   // just enough, so that the size is measured first
+            std::uint8_t buffer[22];
+            std::uint32_t length = sizeof buffer;
+            ifit_color_intf_mesh__pack(plain, buffer, &length);
+        },
         [] { ifit_color_intf_mesh__sendsingle(1, plain, 0, 0); },
         [] { ifit_color_intf_mesh__sendmsg(1, plain, 2); },
         [] { ifit_dfx_query_comm_param_mesh__sendsingle(1, with_block, 0, 0); },

@@ -109,6 +109,11 @@ def limit_memory():
     resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
 
 
+def limit_dumps():
+    """What a mutant leaves when it crashes may be as large as all memory that a test maps."""
+    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+
+
 def run(command, **kwargs):
     """Whether it succeeded in time. Nothing that it started goes on."""
     with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True,
@@ -159,7 +164,8 @@ class Tree:
         # The tests find the library by the path that they were linked with, unless this one comes first.
         environment = dict(os.environ, LD_LIBRARY_PATH=self.build)
         for test in TESTS:
-            if not run([os.path.join(self.tests, "tests", test[0])] + test[1:], env=environment, cwd=self.root):
+            if not run([os.path.join(self.tests, "tests", test[0])] + test[1:], env=environment, cwd=self.root,
+                       preexec_fn=limit_dumps):
                 return "noticed"
         return "survived"
 

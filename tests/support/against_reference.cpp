@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "reference/memory.h"
+#include "reference/view.h"
 #include "tests/support/figures.h"
 #include "tests/support/mesh_double.h"
 #include "tests/support/services_double.h"
@@ -31,6 +32,46 @@ std::string first_difference(const ByteString& is, const ByteString& expected)
         is.begin());
     return "first difference at position " + std::to_string(at) + "\n  is       " + hex(is) + "\n  expected " +
            hex(expected);
+}
+
+// Whether all bytes between fields are zero, as the record is cleared before it is filled.
+bool gaps_are_zero(const reference::Message& message, const std::uint8_t* record)
+{
+    const reference::MemoryView view(message, record);
+    const reference::RecordLayout& layout = message.layout(reference::host_pointer_width);
+    std::uint32_t at = 0;
+    const auto zero_up_to = [&](std::uint32_t end) {
+        return std::all_of(record + at, record + end, [](std::uint8_t byte) { return byte == 0; });
+    };
+    for (std::size_t k = 0; k < message.slots.size(); ++k) {
+        const reference::Slot& slot = message.slots[k];
+        if (!zero_up_to(layout.offsets[k]))
+            return false;
+        at = layout.offsets[k];
+        switch (slot.kind) {
+        case reference::Kind::scalar: at += slot.width; break;
+        case reference::Kind::array: at += slot.width * slot.count; break;
+        case reference::Kind::string: at += sizeof(void*); break;
+        case reference::Kind::table:
+            if (!gaps_are_zero(*slot.nested, record + at))
+                return false;
+            at += slot.nested->layout(reference::host_pointer_width).size;
+            break;
+        case reference::Kind::vector:
+            for (std::uint32_t i = 0; view.present(k) && i < view.count(k); ++i)
+                if (!gaps_are_zero(*slot.nested, view.pointer(k) + std::size_t{slot.nested->layout(
+                                                     reference::host_pointer_width).size} * i))
+                    return false;
+            [[fallthrough]];
+        case reference::Kind::bytes:
+            at += 4;
+            if (!zero_up_to(layout.offsets[k] + sizeof(void*)))
+                return false;
+            at = layout.offsets[k] + 2 * sizeof(void*);
+            break;
+        }
+    }
+    return zero_up_to(layout.size);
 }
 
 // Without a search by name, which would take longer than a decode.
@@ -134,6 +175,8 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
     fault = reference::difference(outcome_.record, record);
     if (!fault.empty())
         return "record: " + fault;
+    if (!gaps_are_zero(*outcome_.record.message, record))
+        return "bytes between the fields are not zero";
 
     if (expected != nullptr)
         fault = outcome_.failure ? "refused" : reference::difference(*expected, record);
