@@ -27,11 +27,11 @@ struct Decoder {
     Unit* unit;
     const char* unpack_routine;   // the routine names that logs and memory services are given
     const char* free_routine;
-    const NestedDecoder* nested;    // one for each table and vector, in slot order
+    const NestedDecoder* nested;   // one for each table and vector, in slot order
     const SlotInfo* slots;
     u32 slot_count;
-    u32 heap_field_count;           // 0 for a message without heap parts
-    const SlotInfo* heap_fields;    // the slots that own memory, or whose nested record does
+    u32 heap_field_count;          // 0 for a message without heap parts
+    const SlotInfo* heap_fields;   // the slots that own memory, or whose nested record does
     u32 record_size;
 };
 
@@ -68,8 +68,8 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 [[nodiscard]] bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
-[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);               // logs a failed allocation
-[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);              // logs a failed allocation
+[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
+[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);   // logs a failed allocation
 [[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
 
 // Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.

@@ -15,7 +15,8 @@ struct NestedEncoder;
 
 enum class Measure : bool { exactly, bound };
 
-// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32 bits.
+// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32
+// bits.
 using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
 
 // Writes `count` tables from `at` on and fills their cells. Returns the end of what was written.
@@ -70,8 +71,6 @@ template <class L, Measure how>
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
                 size += measure(records, count, element.nested);
-                if (!exactly && records == nullptr)
-                    size = too_large;
             }
         } else {
             using Inner = typename Slot::Layout;
@@ -133,8 +132,9 @@ struct SlotWords {
 
     [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_)
     {
-        detail::each_number([&](auto i) __attribute__((always_inline)) { return words[i] = 0, true; },
-                            std::make_integer_sequence<u32, (N + in_word - 1) / in_word>());
+        detail::each_number(
+            [&](auto i) __attribute__((always_inline)) { return words[i] = 0, true; },
+            std::make_integer_sequence<u32, (N + in_word - 1) / in_word>());
     }
 
     template <u32 K>

@@ -106,8 +106,8 @@ template <class L, u32 K>
     }
 }
 
-// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of it,
-// unless the tests of the table itself have failed.
+// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
+// it, unless the tests of the table itself have failed.
 template <class L>
 [[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
 {
@@ -138,8 +138,8 @@ template <class L>
 
 // `in` and `view` are the frame's: copies that no store to a record can change.
 template <class L, u32 K>
-[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in, const TableView<Input>& view,
-                                                          u8* record)
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in,
+                                                          const TableView<Input>& view, u8* record)
 {
     using Slot = typename L::template Slot<K>;
     const u32 offset = slot_unchecked(in, view, K);

@@ -1,5 +1,5 @@
 // A picture: a form of a message in which every byte is either constant or a byte of the record, at a place known when
-// compiled. The fixed form is one; the compact form of a record without a zero scalar and without heap parts is another.
+// compiled. The fixed form is one, and the compact form of a record with neither zero scalars nor heap parts another.
 //
 // To write a picture is to copy, without a look at the values; to read one is to compare the constants and to copy.
 // Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece where a later piece is
@@ -134,8 +134,8 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// Layout is the record's. Form gives the length of the picture, how long it is (`length`) and
-// walk(constant, field): calls of constant(position, value, width) and field(run) that describe all of it.
+// `L` is the record's layout. Form has the picture's `length` and walk(constant, field), which describes all of it by calls
+// of constant(position, value, width) and field(run).
 template <class L, class Form>
 struct Picture {
     static constexpr u32 length = Form::length;
@@ -256,10 +256,10 @@ private:
     }>;
 
     static constexpr auto reading = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(runs_by_record, &Run::record_offset, &Run::position, L::record_size,
-                           [&](const detail::Piece& piece) {
-                               detail::each_move_of(piece, L::record_size, piece.constant ? L::record_size : length, visit);
-                           });
+        detail::each_piece(
+            runs_by_record, &Run::record_offset, &Run::position, L::record_size, [&](const detail::Piece& piece) {
+                detail::each_move_of(piece, L::record_size, piece.constant ? L::record_size : length, visit);
+            });
     }>;
 
     template <const auto& moves, class Make>

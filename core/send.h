@@ -70,7 +70,8 @@ template <class L>
 
 template <class L>
 constexpr LayoutEncoder layout_encoder = [] {
-    LayoutEncoder made{measure_message<L>, write_message<L>, bound_message<L>, nullptr, send_single<L>, 0, L::record_size};
+    LayoutEncoder made{measure_message<L>, write_message<L>, bound_message<L>, nullptr, send_single<L>, 0,
+                       L::record_size};
     if constexpr (!L::has_heap_parts) {
         made.write_fixed = FixedForm<L>::write;
         made.fixed_length = L::fixed_length;

@@ -127,8 +127,8 @@ template <class In>
     return TableFault::none;
 }
 
-// Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the root.
-// n is at least `before`, and small.
+// Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the
+// root. n is at least `before`, and small.
 template <class In>
 [[nodiscard]] inline bool picture_fits(const In& in, typename In::Word table, typename In::Word before,
                                        typename In::Word n, typename In::Word& at)
@@ -192,8 +192,8 @@ constexpr W each_lane(W value)
     return word;
 }
 
-// No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in each
-// lane, from widest_scalar to largest_lane. Only a lane that is beyond borrows from its neighbour.
+// No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in
+// each lane, from widest_scalar to largest_lane. Only a lane that is beyond borrows from its neighbour.
 template <class W>
 inline W lanes_beyond(const W& room, const W& widths, const W& offsets)
 {
@@ -210,7 +210,8 @@ template <std::size_t N>
         return false;
     const LaneWord room = each_lane<LaneWord>(1) * (view.room < largest_lane ? view.room : largest_lane);
     LaneWord beyond = 0;
-    const auto look = [&](u32 first, u32 count) __attribute__((always_inline)) {
+    const auto look = [&](u32 first, u32 count) __attribute__((always_inline))
+    {
         LaneWord offsets = 0, fields = 0;
         for (u32 i = 0; i < count; ++i)
             fields |= LaneWord{widths[first + i]} << (lane_bits * i);
@@ -237,7 +238,8 @@ template <std::size_t N>
 // A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read: at offset 0 the table's head stands,
 // and behind it the room that scalars_fit asks for.
 template <class T>
-[[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset, u8* field)
+[[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset,
+                                                      u8* field)
 {
     const T value = load<T>(in.bytes_unchecked(view.table, offset, sizeof(T)));   // scalars_fit
     const T present = offset != 0 ? value : T{0};

@@ -71,7 +71,8 @@ void mix_elements(Record& record, Random& chance)
             const reference::Message& element = *field.records[0].message;
             field.records.clear();
             for (std::uint32_t i = chance.below(8) + 1; i != 0; --i)
-                field.records.push_back(reference::random_record(element, reference::densities[chance.below(4)], chance));
+                field.records.push_back(
+                    reference::random_record(element, reference::densities[chance.below(4)], chance));
             field.number = field.records.size();
         }
         for (Record& inner : field.records)
@@ -95,7 +96,8 @@ TEST_P(EveryMessage, decodes_strange_but_valid_layouts)
     Random chance = random(2);
     for (int round = 0; round < 60; ++round) {
         const Record record = reference::random_record(message(), reference::densities[round % 4], chance);
-        ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, reference::strange_layout(record, chance))) << to_text(record);
+        ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, reference::strange_layout(record, chance)))
+            << to_text(record);
     }
 }
 
@@ -115,15 +117,28 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
 {
     Random chance = random(4);
     for (int round = 0; round < 400; ++round) {
-        const Record record = reference::random_record(message(), round % 2 == 0 ? Density::full : Density::sparse, chance);
+        const Record record =
+            reference::random_record(message(), round % 2 == 0 ? Density::full : Density::sparse, chance);
         ByteString bytes = round % 3 == 0   ? reference::strange_layout(record, chance)
                            : round % 3 == 1 ? both_forms(record).back()
                                             : reference::compact_form(record);
         const std::uint32_t length = static_cast<std::uint32_t>(bytes.size());
         for (std::uint32_t changes = 1 + chance.below(3); changes != 0; --changes) {
             const std::uint32_t at = chance.below(length - 3);
-            const std::uint32_t values[] = {0, 1, 3, 4, 5, chance.below(256), chance.below(length + 2), length - at,
-                                            0x3FFFFFFF, 0x40000000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
+            const std::uint32_t values[] = {0,
+                                            1,
+                                            3,
+                                            4,
+                                            5,
+                                            chance.below(256),
+                                            chance.below(length + 2),
+                                            length - at,
+                                            0x3FFFFFFF,
+                                            0x40000000,
+                                            0x7FFFFFFF,
+                                            0x80000000,
+                                            0xFFFFFFF8,
+                                            0xFFFFFFFF};
             const std::uint32_t value = values[chance.below(std::size(values))];
             const std::uint32_t width = 1 + chance.below(4);
             for (std::uint32_t i = 0; i < width; ++i)
@@ -133,7 +148,8 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
     }
 }
 
-// Null pointers and lengths below 4 or, as signed numbers, negative: one log line, and no look at what the others lead to.
+// Null pointers and lengths below 4 or, as signed numbers, negative: one log line, and no look at what the others lead
+// to.
 TEST_P(EveryMessage, refused_parameters_touch_nothing)
 {
     const ByteString bytes = reference::compact_form(reference::zero_record(message()));
@@ -161,7 +177,8 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
     EXPECT_EQ(services().difference({}), "");
 }
 
-// Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left behind.
+// Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left
+// behind.
 TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
 {
     Random chance = random(5);

@@ -59,8 +59,11 @@ TEST_P(EverySend, a_count_of_one_goes_single_two_and_more_as_one_batch_none_not_
     EXPECT_EQ(library().sendsingle(4, memory.data(), 1234, 8), 42);
     EXPECT_EQ(library().sendbatch(5, memory.data(), 3, 0), 42);
     ASSERT_EQ(mesh().sends.size(), 5u);
-    const struct { bool to; std::uint32_t channel, destination; std::size_t count; } expected[] = {
-        {false, 1, 0, 1}, {true, 2, 9, 3}, {false, 3, 0, 2}, {true, 4, 8, 1}, {false, 5, 0, 3}};
+    const struct {
+        bool to;
+        std::uint32_t channel, destination;
+        std::size_t count;
+    } expected[] = {{false, 1, 0, 1}, {true, 2, 9, 3}, {false, 3, 0, 2}, {true, 4, 8, 1}, {false, 5, 0, 3}};
     for (std::size_t i = 0; i < 5; ++i) {
         const SendCall& call = mesh().sends[i];
         EXPECT_EQ(call.to_destination, expected[i].to);
@@ -69,7 +72,8 @@ TEST_P(EverySend, a_count_of_one_goes_single_two_and_more_as_one_batch_none_not_
         ASSERT_EQ(call.sent.size(), expected[i].count);
         for (std::size_t k = 0; k < call.sent.size(); ++k) {
             ByteString bytes = fixed() ? reference::fixed_form(made[k]) : reference::compact_form(made[k]);
-            bytes.resize(fixed() ? message().fixed_length : reference::reported_size(reference::exact_size(made[k])), 0);
+            bytes.resize(fixed() ? message().fixed_length : reference::reported_size(reference::exact_size(made[k])),
+                         0);
             EXPECT_EQ(hex(call.sent[k].bytes), hex(bytes));
             EXPECT_EQ(call.sent[k].id, message().id);
         }

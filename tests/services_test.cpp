@@ -25,8 +25,7 @@
 #include "tests/support/unit_uses.h"
 #include "tools/operations.h"
 
-namespace
-{
+namespace {
 
 using kesto::tests::malloc_watch;
 using kesto::tests::one_empty_text;
@@ -56,10 +55,7 @@ const Offer* offer = &offers[0];
 std::atomic<int> lookups_of_flag, lookups_of_allocate, lookups_of_release, lookups_of_log;
 std::atomic<int> allocated, released, logged;
 
-std::uint32_t use_flag(std::uint32_t module)
-{
-    return module == 12 ? static_cast<std::uint32_t>(offer->use_flag) : 0;
-}
+std::uint32_t use_flag(std::uint32_t module) { return module == 12 ? static_cast<std::uint32_t>(offer->use_flag) : 0; }
 
 void* service_allocate(std::uint32_t size, std::uint32_t, const char*)
 {
@@ -81,8 +77,7 @@ std::uint32_t service_log(const OsalLogDescriptor*, std::uint32_t, std::uint32_t
 }
 
 // In the child of a case: prints what is not as expected and ends the process.
-class Verdict
-{
+class Verdict {
 public:
     void expect(const char* what, int is, int expected)
     {
@@ -117,9 +112,7 @@ void expect_one_lookup_for_each_unit(Verdict& verdict)
     verdict.expect("look-ups of the log", lookups_of_log, 8);
 }
 
-class EveryOffer : public testing::TestWithParam<Offer>
-{
-};
+class EveryOffer : public testing::TestWithParam<Offer> {};
 
 INSTANTIATE_TEST_SUITE_P(All, EveryOffer, testing::ValuesIn(offers),
                          [](const auto& test) { return std::string(test.param.name); });
@@ -256,7 +249,8 @@ TEST(Services, are_looked_up_once_by_threads_that_come_together)
         });
 }
 
-// With the plain pair it is malloc that fails, at each allocation of a record that has every part, once or from there on.
+// With the plain pair it is malloc that fails, at each allocation of a record that has every part, once or from there
+// on.
 TEST(Services, plain_allocation_may_fail_anywhere)
 {
     namespace reference = kesto::reference;
@@ -291,7 +285,8 @@ TEST(Services, plain_allocation_may_fail_anywhere)
                         const WatchMalloc watch(at, all_after);
                         library.unpack(bytes.data(), length, record.data());
                     }
-                    verdict.expect("mallocs", static_cast<int>(malloc_watch.mallocs), static_cast<int>(expected.allocations));
+                    verdict.expect("mallocs", static_cast<int>(malloc_watch.mallocs),
+                                   static_cast<int>(expected.allocations));
                     verdict.expect("frees", static_cast<int>(malloc_watch.frees), static_cast<int>(releases));
                     verdict.expect("log lines", logged, lines);
                     const std::string fault = reference::difference(expected.record, record.data());

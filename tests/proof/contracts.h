@@ -167,8 +167,8 @@ struct PictureFits {
         const auto at_before = world.any();
         auto at = at_before;
         const bool accepted = Reader::picture_fits(in, table, before, n, at);
-        const auto fits = (wide(table) >= wide(before) + root_bytes) &
-                          (wide(table) + wide(n) <= wide(in.length) + wide(before));
+        const auto fits =
+            (wide(table) >= wide(before) + root_bytes) & (wide(table) + wide(n) <= wide(in.length) + wide(before));
         world.state(Role::promised, accepted == fits, "a picture is looked at if and only if it lies inside");
         if (!accepted) {
             world.state(Role::promised, at == at_before, "a refusal writes nothing");

@@ -52,9 +52,9 @@ struct Contracts {
     static constexpr Subject element_table = subject<ElementTable<Reader>>("element_table", 2);
     static constexpr Subject message = subject<Message<Reader>>("message", Message<Reader>::outcomes);
 
-    static constexpr Subject all[] = {root_table, open_table,   held_slots,    picture_fits, slot_offset, scalar_u8, scalar_u16,
-                                      scalar_u32, scalar_u64,   open_body,     bytes_fit,   cells_fit, array_u8,
-                                      array_u32,  nested_table, element_table, message};
+    static constexpr Subject all[] = {root_table, open_table, held_slots,   picture_fits,  slot_offset, scalar_u8,
+                                      scalar_u16, scalar_u32, scalar_u64,   open_body,     bytes_fit,   cells_fit,
+                                      array_u8,   array_u32,  nested_table, element_table, message};
 };
 
 template <Weakness weakness>
@@ -286,8 +286,8 @@ void expect_fits_like_one_by_one(std::mt19937& chance)
 TEST(Lanes, say_of_a_vtable_what_each_of_its_slots_says)
 {
     std::mt19937 chance(5);
-    [&]<std::size_t... N>(std::index_sequence<N...>) { (expect_fits_like_one_by_one<N + 1>(chance), ...); }(
-        std::make_index_sequence<13>());
+    [&]<std::size_t... N>(std::index_sequence<N...>) { (expect_fits_like_one_by_one<N + 1>(chance), ...); }
+    (std::make_index_sequence<13>());
     expect_fits_like_one_by_one<46>(chance);
     expect_fits_like_one_by_one<64>(chance);
 }

@@ -59,8 +59,9 @@ bool gaps_are_zero(const reference::Message& message, const std::uint8_t* record
             break;
         case reference::Kind::vector:
             for (std::uint32_t i = 0; view.present(k) && i < view.count(k); ++i)
-                if (!gaps_are_zero(*slot.nested, view.pointer(k) + std::size_t{slot.nested->layout(
-                                                     reference::host_pointer_width).size} * i))
+                if (!gaps_are_zero(*slot.nested,
+                                   view.pointer(k) +
+                                       std::size_t{slot.nested->layout(reference::host_pointer_width).size} * i))
                     return false;
             [[fallthrough]];
         case reference::Kind::bytes:
@@ -243,7 +244,8 @@ std::string check_encoders(const reference::Record& record)
     std::memset(roomy, untouched, size + margin);
     length = static_cast<std::uint32_t>(buffer.most());
     if (library.pack(memory.data(), roomy, &length) != 0 || length != size)
-        return message.name + ": packed " + std::to_string(length) + " bytes with room for more, expected " + std::to_string(size);
+        return message.name + ": packed " + std::to_string(length) + " bytes with room for more, expected " +
+               std::to_string(size);
     ByteString behind = expected;
     behind.resize(size + margin, untouched);
     fault = first_difference({roomy, roomy + size + margin}, behind);
