@@ -35,8 +35,8 @@ constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits s
 
 // ---- the size routine ----
 
-// The size of one table and all beneath it, without a root. A bound counts every scalar; it is too_large where size and
-// packer differ, so that nobody relies on it there.
+// The size of one table and all beneath it, without a root. A bound counts every scalar; it is too_large for a block
+// with a pointer and length 0, so that nobody takes the packer's end for the size there.
 template <class L, Measure how>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
@@ -133,7 +133,10 @@ struct SlotWords {
     [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_)
     {
         detail::each_number(
-            [&](auto i) __attribute__((always_inline)) { return words[i] = 0, true; },
+            [&](auto i) __attribute__((always_inline)) {
+                words[i] = 0;
+                return true;
+            },
             std::make_integer_sequence<u32, (N + in_word - 1) / in_word>());
     }
 

@@ -1,8 +1,8 @@
-// What a list of slots fixes when it is compiled: where each field stands in the record and in the fixed form, the
-// bytes of the fixed form that no field touches, and the runs that record and fixed form have alike.
+// What a list of slots fixes when it is compiled: where each field stands in the record and in the fixed form, and how
+// long tables and forms are.
 //
 // Messages of equal layout share their code: a Layout says nothing about names and ids, and an element of a vector is
-// data (see decode.h, encode.h).
+// data (see layout_decoder.h, encode.h).
 #pragma once
 
 #include <array>

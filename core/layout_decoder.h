@@ -47,9 +47,9 @@ template <class L>
 [[nodiscard, gnu::always_inline]] inline bool read_fixed_message(Input in, u8* record)
 {
     using Form = FixedForm<L>;
-    if (in.length < Form::length)
+    if (!holds_bytes(in, Form::length))
         return false;
-    const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);
+    const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);   // holds_bytes
     if (!Form::matches(bytes))
         return false;
     Form::read(record, bytes);
@@ -70,7 +70,7 @@ constexpr std::array<u8, L::slots> scalar_widths = [] {
     return widths;
 }();
 
-// Opens a table all of whose slots are there and all of whose scalars lie inside.
+// Whether the vtable has all slots and all scalars lie inside.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool has_tested_scalars(const Input& in, const TableView<Input>& view)
 {
@@ -142,27 +142,26 @@ template <class L, u32 K>
                                                           const TableView<Input>& view, u8* record)
 {
     using Slot = typename L::template Slot<K>;
-    const u32 offset = slot_unchecked(in, view, K);
-    u8* const field = record + L::record_offset[K];
-    if constexpr (Slot::kind == Kind::scalar) {
-        read_tested_scalar<typename Slot::Value>(in, view, offset, field);
-        return true;
-    } else if (offset == 0) {
-        return true;   // the record is clear already
-    } else if constexpr (Slot::kind == Kind::array) {
-        return decode_array<typename Slot::Value, Slot::count>(in, view, offset, field);
-    } else if constexpr (Slot::kind == Kind::text) {
-        return decode_text(frame, offset, field);
-    } else if constexpr (Slot::kind == Kind::block) {
-        return decode_block(frame, offset, field);
-    } else if constexpr (Slot::kind == Kind::vector) {
-        return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+    if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array) {
+        return read_plain_slot<L, K>(in, view, record);
     } else {
-        u32 table = 0;
-        if (!nested_table(in, view, offset, table))
-            return false;
-        const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
-        return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
+        const u32 offset = slot_unchecked(in, view, K);
+        u8* const field = record + L::record_offset[K];
+        if (offset == 0)
+            return true;   // the record is clear already
+        if constexpr (Slot::kind == Kind::text) {
+            return decode_text(frame, offset, field);
+        } else if constexpr (Slot::kind == Kind::block) {
+            return decode_block(frame, offset, field);
+        } else if constexpr (Slot::kind == Kind::vector) {
+            return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+        } else {
+            u32 table = 0;
+            if (!nested_table(in, view, offset, table))
+                return false;
+            const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
+            return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
+        }
     }
 }
 

@@ -85,6 +85,21 @@ constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, 
     }
 }
 
+// Whether each move of a plan stays inside both sides, and together they reach every byte of the target.
+template <std::size_t N>
+constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 source_end, u32 constant_end)
+{
+    u32 reached = 0;
+    for (const Move& move : moves) {
+        if (move.to > reached || move.to + move.bytes > target_end)
+            return false;
+        if (move.from + move.bytes > (move.constant ? constant_end : source_end))
+            return false;
+        reached = std::max(reached, move.to + move.bytes);
+    }
+    return reached == target_end;
+}
+
 // Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
 // are in that order too; `to` and `from` say which side of a run is which.
 template <std::size_t N, class Visit>
@@ -134,8 +149,8 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form has the picture's `length` and walk(constant, field), which describes all of it by calls
-// of constant(position, value, width) and field(run).
+// `L` is the record's layout. Form has the picture's `length` and walk(constant, field), which describes all of it by
+// calls of constant(position, value, width) and field(run).
 template <class L, class Form>
 struct Picture {
     static constexpr u32 length = Form::length;
@@ -261,6 +276,12 @@ private:
                 detail::each_move_of(piece, L::record_size, piece.constant ? L::record_size : length, visit);
             });
     }>;
+
+    static_assert(detail::is_whole(writing, length, L::record_size, length));
+    static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
+    static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
+        return move.to == move.from && move.to + move.bytes <= length;
+    }));
 
     template <const auto& moves, class Make>
     [[gnu::always_inline]] static void make_moves(Make&& make)

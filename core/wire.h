@@ -127,6 +127,13 @@ template <class In>
     return TableFault::none;
 }
 
+// Whether the byte string has n bytes.
+template <class In>
+[[nodiscard]] inline bool holds_bytes(const In& in, typename In::Word n)
+{
+    return static_cast<bool>(in.length >= n);
+}
+
 // Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the
 // root. n is at least `before`, and small.
 template <class In>

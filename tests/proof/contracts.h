@@ -154,6 +154,21 @@ struct HeldSlots {
     }
 };
 
+template <class Reader>
+struct HoldsBytes {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto n = world.any();
+        const bool held = Reader::holds_bytes(in, n);
+        world.state(Role::promised, held == (wide(n) <= wide(in.length)), "so many bytes are there or not");
+        if (held)
+            in.touch(0, wide(n));
+        return held;
+    }
+};
+
 // For any picture of up to 64 KiB, and any part of it in front of the table.
 template <class Reader>
 struct PictureFits {
@@ -350,15 +365,33 @@ struct ElementTable {
 // the length: a counterexample is a byte string that somebody could send.
 template <class Reader>
 struct Message {
-    static constexpr std::size_t outcomes = 3 * 13;   // directly, in a nested table, in an element
+    static constexpr std::size_t outcomes = 3 * 13 + 2;   // directly, in a nested table, in an element; and pictures
 
     template <class World>
     int operator()(World& world) const
     {
-        return table(world, Reader::root_table(world.input()), 1);
+        const auto in = world.input();
+        const auto root = Reader::root_table(in);
+        return world.any() == 0 ? picture(world, root) : table(world, root, 1);
     }
 
 private:
+    // A message that is looked at as a whole: in fixed form, or around its root table.
+    template <class World, class Word>
+    static int picture(World& world, const Word& root)
+    {
+        const auto in = world.input();
+        const auto before = world.any(), n = world.any();
+        world.state(Role::relied_on, n <= 0xffff, "a picture is small");
+        world.state(Role::relied_on, n != 0, "a picture has bytes");
+        world.state(Role::relied_on, before <= n, "the table is in the picture");
+        Word at{};
+        if (root == root_bytes ? !Reader::holds_bytes(in, n) : !Reader::picture_fits(in, root, before, n, at))
+            return 39;
+        in.touch(wide(at), wide(n));
+        return 40;
+    }
+
     template <class World, class Word>
     static int table(World& world, const Word& position, int levels_below)
     {

@@ -36,6 +36,7 @@ struct Contracts {
     static constexpr Subject root_table = subject<RootTable<Reader>>("root_table", 1);
     static constexpr Subject open_table = subject<OpenTable<Reader>>("open_table", 4);
     static constexpr Subject held_slots = subject<HeldSlots<Reader>>("holds_slots, slot_unchecked", 2);
+    static constexpr Subject holds_bytes = subject<HoldsBytes<Reader>>("holds_bytes", 2);
     static constexpr Subject picture_fits = subject<PictureFits<Reader>>("picture_fits", 2);
     static constexpr Subject slot_offset = subject<SlotOffset<Reader>>("slot_offset", 2);
     static constexpr Subject scalar_u8 = subject<typename ScalarOf<u8>::template Read<Reader>>("read_scalar<u8>", 2);
@@ -52,9 +53,9 @@ struct Contracts {
     static constexpr Subject element_table = subject<ElementTable<Reader>>("element_table", 2);
     static constexpr Subject message = subject<Message<Reader>>("message", Message<Reader>::outcomes);
 
-    static constexpr Subject all[] = {root_table, open_table, held_slots,   picture_fits,  slot_offset, scalar_u8,
-                                      scalar_u16, scalar_u32, scalar_u64,   open_body,     bytes_fit,   cells_fit,
-                                      array_u8,   array_u32,  nested_table, element_table, message};
+    static constexpr Subject all[] = {root_table, open_table, held_slots, holds_bytes,  picture_fits,  slot_offset,
+                                      scalar_u8,  scalar_u16, scalar_u32, scalar_u64,   open_body,     bytes_fit,
+                                      cells_fit,  array_u8,   array_u32,  nested_table, element_table, message};
 };
 
 template <Weakness weakness>
@@ -198,10 +199,11 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(slots_with_a_byte_missing, held_slots, broken_promise, read_outside),
                                          FAULT(slots_without_head, held_slots, broken_promise, read_outside),
                                          FAULT(slot_one_further, slot_offset, read_outside, read_outside),
+                                         FAULT(message_one_short, holds_bytes, broken_promise, read_outside),
                                          FAULT(picture_in_the_root, picture_fits, broken_promise, none),
-                                         FAULT(picture_of_any_length, picture_fits, broken_promise, none),
-                                         FAULT(picture_by_its_end, picture_fits, broken_promise, none),
-                                         FAULT(picture_one_too_far, picture_fits, broken_promise, none),
+                                         FAULT(picture_of_any_length, picture_fits, broken_promise, read_outside),
+                                         FAULT(picture_by_its_end, picture_fits, broken_promise, read_outside),
+                                         FAULT(picture_one_too_far, picture_fits, broken_promise, read_outside),
                                          FAULT(field_without_width, scalar_u16, read_outside, read_outside),
                                          FAULT(body_without_cell, open_body, read_outside, read_outside),
                                          FAULT(body_without_count, open_body, read_outside, read_outside),

@@ -27,6 +27,11 @@ struct Shipping {
         return kesto::slot_unchecked(in, view, k);
     }
     template <class In, class Word>
+    static bool holds_bytes(const In& in, const Word& n)
+    {
+        return kesto::holds_bytes(in, n);
+    }
+    template <class In, class Word>
     static bool picture_fits(const In& in, const Word& table, const Word& before, const Word& n, Word& at)
     {
         return kesto::picture_fits(in, table, before, n, at);
@@ -83,6 +88,7 @@ enum class Weakness {
     slots_with_a_byte_missing,
     slots_without_head,
     slot_one_further,
+    message_one_short,
     picture_in_the_root,
     picture_of_any_length,
     picture_by_its_end,
@@ -149,6 +155,12 @@ struct Weakened {
     static Word slot_unchecked(const In& in, const TableView<In>& view, const Word& k)
     {
         return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);
+    }
+
+    template <class In, class Word>
+    static bool holds_bytes(const In& in, const Word& n)
+    {
+        return static_cast<bool>(in.length + (is(Weakness::message_one_short) ? 1 : 0) >= n);
     }
 
     template <class In, class Word>
