@@ -114,6 +114,14 @@ void release_record(const Decoder& decoder, u8* record)
     }
 }
 
+TableView<Input> open_table_of(Input in, u32 table, u32 slots)
+{
+    TableView<Input> view;
+    if (open_table(in, table, view) != TableFault::none || !holds_slots(view, slots))
+        view.vtable = 0;
+    return view;
+}
+
 bool decode_text(const Frame& frame, u32 offset, u8* field)
 {
     u32 payload = 0, length = 0;
@@ -167,7 +175,8 @@ bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecode
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;
-    memset_s(records, size, 0, size);
+    if (element.decoder->heap_field_count != 0)
+        memset_s(records, size, 0, size);   // others are written whole, and a fault gives back the block unseen
     if (size == needed) [[likely]]
         return element.decode_elements(frame.in, cells, count, records, element);
     // The block of a wrapped size holds fewer elements than the count says. None is decoded past its end, and the block

@@ -67,6 +67,9 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // Into a record that need not be clear.
 [[nodiscard]] bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message);
 
+// The view of a table that has at least so many slots; its vtable is at 0, where none can be, when it has not.
+[[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
+
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
 [[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);   // logs a failed allocation

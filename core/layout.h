@@ -120,8 +120,6 @@ struct Layout {
     static constexpr u32 record_size =
         rounded_up(record_offset[slots - 1] + Slot<slots - 1>::record_size, record_align);
 
-    static constexpr bool has_gaps = (0 + ... + Slots::record_size) != record_size;
-
     static constexpr bool has_heap_parts = [] {
         bool any = false;
         ((any = any || Slots::fixed_bytes == 0), ...);

@@ -59,32 +59,44 @@ template <class L>
 // ---- tables whose scalars all lie inside ----
 
 template <class L>
-constexpr std::array<u8, L::slots> scalar_widths = [] {
-    std::array<u8, L::slots> widths{};
+constexpr Widths<L::slots> scalar_widths = [] {
+    Widths<L::slots> widths{};
     each_slot<L>([&](auto k) {
         using Slot = typename L::template Slot<k>;
-        if constexpr (Slot::kind == Kind::scalar)
-            widths[k] = Slot::record_size;
+        if constexpr (Slot::kind == Kind::scalar) {
+            widths.of[k] = Slot::record_size;
+            widths.widest = std::max(widths.widest, widths.of[k]);
+        }
         return true;
     });
     return widths;
 }();
 
-// Whether the vtable has all slots and all scalars lie inside.
+// Opens a table whose vtable has all slots and whose scalars all lie inside.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool has_tested_scalars(const Input& in, const TableView<Input>& view)
+[[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {
-    return holds_slots(view, L::slots) && scalars_fit(in, view, scalar_widths<L>);
-}
-
-template <class T, u32 N>
-[[nodiscard, gnu::noinline]] bool decode_array(Input in, TableView<Input> view, u32 offset, u8* field)
-{
-    return read_array<T>(in, view, offset, N, field);
+    if (!open_compact_table(in, table, L::slots, view)) [[unlikely]] {
+        view = open_table_of(in, table, L::slots);
+        if (view.vtable == 0)
+            return false;
+    }
+    return scalars_fit(in, view, scalar_widths<L>);
 }
 
 template <class L>
 [[nodiscard]] bool read_plain_table(Input in, u32 table, u8* record);
+
+// The bytes of a record that belong to no field.
+template <class L>
+[[gnu::always_inline]] inline void clear_gaps(u8* record)
+{
+    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        constexpr u32 end = L::record_offset[k] + L::template Slot<k>::record_size;
+        clear_run<(k + 1 < L::slots ? L::record_offset[(k + 1) % L::slots] : L::record_size) - end>(record + end);
+        return true;
+    });
+}
 
 template <class L, u32 K>
 [[nodiscard, gnu::always_inline]] inline bool read_plain_slot(const Input& in, const TableView<Input>& view, u8* record)
@@ -99,7 +111,7 @@ template <class L, u32 K>
         clear_run<Slot::record_size>(field);
         return true;
     } else if constexpr (Slot::kind == Kind::array) {
-        return decode_array<typename Slot::Value, Slot::count>(in, view, offset, field);
+        return read_array<typename Slot::Value>(in, view, offset, Slot::count, field);
     } else {
         u32 table = 0;
         return nested_table(in, view, offset, table) && read_plain_table<typename Slot::Layout>(in, table, field);
@@ -112,10 +124,9 @@ template <class L>
 [[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
 {
     TableView<Input> view;
-    if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
+    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return false;
-    if constexpr (L::has_gaps)
-        clear_run<L::record_size>(record);
+    clear_gaps<L>(record);
     return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
 }
 
@@ -184,7 +195,7 @@ template <class L>
 bool decode_heap_table(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     TableView<Input> view;
-    if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
+    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return decode_any_nested(in, table, record, message);
     return decode_tested_table<L>(in, view, record, *message.decoder, message.routine);
 }
@@ -286,7 +297,7 @@ template <class L>
     const u32 table = root_table(in);
     if constexpr (L::has_heap_parts) {
         TableView<Input> view;
-        if (open_table(in, table, view) != TableFault::none || !has_tested_scalars<L>(in, view)) [[unlikely]]
+        if (!open_tested_table<L>(in, table, view)) [[unlikely]]
             return false;
         ensure_memory_services(*decoder.unit);
         clear_run<L::record_size>(record);

@@ -10,6 +10,10 @@
 #include <cstring>
 #include <type_traits>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace kesto {
 
 using u8 = std::uint8_t;
@@ -53,6 +57,20 @@ constexpr u32 least_length = 4;        // a byte string that can hold a root
 
 // ---- reading foreign bytes ----
 
+// A copy whose size may be known when compiled. In cold code the compiler would make a `rep` instruction of it then,
+// which takes longer than the rest of a table.
+inline void copy_some(u8* to, const u8* from, std::size_t n)
+{
+    constexpr std::size_t step = 16;
+    if (!__builtin_constant_p(n) || n < step || n % step != 0) {
+        std::memcpy(to, from, n);
+        return;
+    }
+#pragma GCC unroll 32
+    for (std::size_t i = 0; i < n; i += step)
+        std::memcpy(to + i, from + i, step);
+}
+
 // The bytes of one message as they came. Everything below relies on length >= least_length, which the parameter test of
 // the decoder guarantees, and on no upper bound.
 struct Input {
@@ -69,6 +87,13 @@ struct Input {
         return load<T>(bytes + at + behind);
     }
 
+#ifdef __SSE2__
+    __m128i load_wide_unchecked(u32 at, u32 behind) const
+    {
+        return _mm_loadu_si128(reinterpret_cast<const __m128i*>(bytes + at + behind));
+    }
+#endif
+
     // All n bytes lie inside.
     const u8* bytes_unchecked(u32 at, u32 behind, u32 /*n*/) const { return bytes + at + behind; }
 
@@ -83,7 +108,7 @@ struct Input {
     void copy_values_unchecked(u32 at, u32 count, u8* to) const
     {
         if constexpr (host_has_wire_order || sizeof(T) == 1)
-            std::memcpy(to, bytes + at, count * sizeof(T));
+            copy_some(to, bytes + at, count * sizeof(T));
         else
             for (u32 i = 0; i < count; ++i)
                 copy_value_unchecked<T>(at, i * u32{sizeof(T)}, to + i * sizeof(T));
@@ -150,6 +175,24 @@ template <class In>
     return true;
 }
 
+// The same for a table whose vtable has just so many slots and stands right in front of it, as we write it in compact
+// form. False for any other, be it well formed or not.
+template <class In>
+[[nodiscard]] inline bool open_compact_table(const In& in, typename In::Word table, typename In::Word slots,
+                                             TableView<In>& view)
+{
+    using Word = typename In::Word;
+    const Word vtable_bytes = vtable_head_bytes + slot_bytes * slots;
+    Word vtable{};
+    if (!picture_fits(in, table, vtable_bytes, vtable_bytes + table_head_bytes, vtable))
+        return false;
+    if (in.template load_unchecked<u32>(table) != vtable_bytes ||   // picture_fits
+        in.template load_unchecked<u16>(vtable) != vtable_bytes)    // the same
+        return false;
+    view = {table, vtable, vtable_bytes, in.length - table};
+    return true;
+}
+
 // Whether the vtable has as many slots. An odd length is legal.
 template <class In>
 inline bool holds_slots(const TableView<In>& view, typename In::Word slots)
@@ -181,14 +224,30 @@ template <class In>
     return static_cast<bool>(offset + n <= view.room);
 }
 
-// The bounds of many fields at once: the offsets of four slots, or of two where a word has 32 bits, lie in lanes of one
-// word, whose top bit is left free.
+// The bounds of many fields at once: the offsets of as many slots as a word has lanes of 16 bits.
+
+#ifdef __SSE2__
+// Eight slots. No lane of the result has a bit if and only if offset <= limit in all of them.
+using WideLanes = __m128i;
+constexpr u32 wide_lanes = 8;
+
+inline WideLanes lanes_beyond(const WideLanes& limits, const WideLanes& offsets)
+{
+    return _mm_subs_epu16(offsets, limits);
+}
+#else
+constexpr u32 wide_lanes = 0xFFFFFFFF;   // there are none
+#endif
+
+// Four slots, or two where a word has 32 bits; the top bit of a lane is left free.
 using LaneWord = std::conditional_t<sizeof(void*) == 8, u64, u32>;
 
 constexpr u32 lane_bits = 16;
 constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
 constexpr u32 largest_lane = 0x7FFF;
-constexpr u32 widest_scalar = 8;
+
+// The greatest room that can be told apart.
+constexpr u32 largest_room(std::size_t slots) { return slots >= wide_lanes ? 0xFFFF : largest_lane; }
 
 template <class W>
 constexpr W each_lane(W value)
@@ -200,28 +259,63 @@ constexpr W each_lane(W value)
 }
 
 // No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in
-// each lane, from widest_scalar to largest_lane. Only a lane that is beyond borrows from its neighbour.
+// each lane, from the width to largest_lane. Only a lane that is beyond borrows from its neighbour.
 template <class W>
 inline W lanes_beyond(const W& room, const W& widths, const W& offsets)
 {
     return (room - widths - offsets) | offsets;
 }
 
-// Whether all fields of a vtable that holds so many slots lie inside; `widths` are 0 where that does not matter. False
-// also where this way of looking at them cannot tell.
+// Calls look(first) for groups of N slots that together are all of them, the last one looked at twice where it must be.
+template <u32 N, class Look>
+[[gnu::always_inline]] inline void each_group(u32 slots, Look&& look)
+{
+#pragma GCC unroll 64
+    for (u32 first = 0; first + N <= slots; first += N)
+        look(first);
+    if (slots % N != 0)
+        look(slots - N);
+}
+
+// How wide the field of each slot is, 0 where that does not matter, and the widest of them.
+template <std::size_t N>
+struct Widths {
+    std::array<u8, N> of;
+    u8 widest;
+};
+
+// Whether all fields of a vtable that holds so many slots lie inside. False also where this way of looking at them
+// cannot tell.
 template <std::size_t N>
 [[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
-                                                          const std::array<u8, N>& widths)
+                                                          const Widths<N>& widths)
 {
-    if (view.room < widest_scalar)
+    constexpr u32 slots = N;
+    if (view.room < widths.widest)
         return false;
-    const LaneWord room = each_lane<LaneWord>(1) * (view.room < largest_lane ? view.room : largest_lane);
+    const u32 told_apart = view.room < largest_room(slots) ? view.room : largest_room(slots);
+#ifdef __SSE2__
+    if constexpr (slots >= wide_lanes) {
+        const WideLanes room = _mm_set1_epi16(static_cast<short>(told_apart));
+        WideLanes beyond = _mm_setzero_si128();
+        each_group<wide_lanes>(
+            slots, [&](u32 first) __attribute__((always_inline)) {
+                const auto width = [&](u32 i) { return short{widths.of[first + i]}; };
+                const WideLanes limits = _mm_sub_epi16(room, _mm_setr_epi16(width(0), width(1), width(2), width(3),
+                                                                            width(4), width(5), width(6), width(7)));
+                const WideLanes offsets = in.load_wide_unchecked(view.vtable, vtable_head_bytes + slot_bytes * first);
+                beyond = _mm_or_si128(beyond, lanes_beyond(limits, offsets));   // holds_slots
+            });
+        return _mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) == 0xFFFF;
+    }
+#endif
+    const LaneWord room = each_lane<LaneWord>(1) * told_apart;
     LaneWord beyond = 0;
     const auto look = [&](u32 first, u32 count) __attribute__((always_inline))
     {
         LaneWord offsets = 0, fields = 0;
         for (u32 i = 0; i < count; ++i)
-            fields |= LaneWord{widths[first + i]} << (lane_bits * i);
+            fields |= LaneWord{widths.of[first + i]} << (lane_bits * i);
         if (count == lanes)
             offsets = in.load_unchecked<LaneWord>(view.vtable, vtable_head_bytes + slot_bytes * first);   // holds_slots
         else
@@ -229,16 +323,11 @@ template <std::size_t N>
                 offsets |= LaneWord{slot_unchecked(in, view, first + i)} << (lane_bits * i);
         beyond |= lanes_beyond<LaneWord>(room, fields, offsets);
     };
-    constexpr u32 slots = N;
-#pragma GCC unroll 64
-    for (u32 first = 0; first + lanes <= slots; first += lanes)
-        look(first, lanes);
-    if constexpr (slots % lanes != 0) {
-        if constexpr (slots >= lanes)
-            look(slots - lanes, lanes);   // some of them once more
-        else
-            look(0, slots);
-    }
+    if constexpr (slots >= lanes)
+        each_group<lanes>(
+            slots, [&](u32 first) __attribute__((always_inline)) { look(first, lanes); });
+    else
+        look(0, slots);
     return (beyond & each_lane<LaneWord>(largest_lane + 1)) == 0;
 }
 
@@ -287,16 +376,24 @@ template <class In>
     return static_cast<bool>(count <= (in.length - payload) / width);
 }
 
+// Follows the reference cell at `offset` to an array of so many values, of which there are fewer than 2^16.
 template <class T, class In>
 [[nodiscard]] inline bool read_array(const In& in, const TableView<In>& view, typename In::Word offset,
                                      typename In::Word elements, u8* field)
 {
-    typename In::Word payload{}, count{};
-    if (!open_body(in, view, offset, payload, count))
+    using Word = typename In::Word;
+    if (!field_fits(view, offset, cell_bytes))
         return false;
-    if (count != elements || !payload_fits(in, payload, count, sizeof(T)))
+    const Word cell = view.table + offset;
+    const Word distance = in.template load_unchecked<u32>(cell);   // field_fits
+    const Word needed = count_bytes + u32{sizeof(T)} * elements;
+    const Word room = in.length - cell;
+    if (room < needed || distance > room - needed)   // also refuses a sum that would wrap
         return false;
-    in.template copy_values_unchecked<T>(payload, elements, field);   // payload_fits
+    const Word body = cell + distance;
+    if (in.template load_unchecked<u32>(body) != elements)   // body + needed <= length
+        return false;
+    in.template copy_values_unchecked<T>(body + count_bytes, elements, field);   // the same
     return true;
 }
 

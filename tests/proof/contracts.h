@@ -196,6 +196,28 @@ struct PictureFits {
 };
 
 template <class Reader>
+struct OpenCompactTable {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto table = world.any();
+        const auto slots = any_slot_number(world);
+        View<World> view{};
+        if (!Reader::open_compact_table(in, table, slots, view))
+            return 0;
+        opened_view(world, Role::promised, view);
+        const auto vtable = table - in.template content<u32>(wide(table));
+        world.state(Role::promised, view.table == table, "the view has the table");
+        world.state(Role::promised, view.vtable == vtable, "the view has the vtable");
+        world.state(Role::promised, view.vtable_length == in.template content<u16>(wide(vtable)),
+                    "the view has the vtable's length");
+        world.state(Role::promised, wide(view.vtable_length) == wide(slots) * 2 + 4, "it has all slots");
+        return 1;
+    }
+};
+
+template <class Reader>
 struct SlotOffset {
     template <class World>
     int operator()(World& world) const
@@ -296,6 +318,7 @@ struct ArrayOf {
             const View<World> view = any_opened_view(world);
             const auto offset = any_slot_value(world);
             const auto elements = world.any();
+            world.state(Role::relied_on, elements <= 0xffff, "a message's array is small");
             const bool accepted = Reader::template read_array<T>(in, view, offset, elements, nullptr);
 
             const auto cell_fits = cell_lies_inside(world, view, offset);
@@ -397,7 +420,8 @@ private:
     {
         const auto in = world.input();
         View<World> view{};
-        if (Reader::open_table(in, position, view) != TableFault::none)
+        if (world.any() == 0 ? !Reader::open_compact_table(in, position, any_slot_number(world), view)
+                             : Reader::open_table(in, position, view) != TableFault::none)
             return 0;
         const auto offset = Reader::slot_offset(in, view, any_slot_number(world));
         if (offset == 0)
@@ -405,8 +429,11 @@ private:
         const auto kind = world.any();
         if (kind == 0)
             return Reader::template read_scalar<u64>(in, view, offset, nullptr) ? 2 : 3;
-        if (kind == 1)
-            return Reader::template read_array<u32>(in, view, offset, world.any(), nullptr) ? 4 : 5;
+        if (kind == 1) {
+            const auto elements = world.any();
+            world.state(Role::relied_on, elements <= 0xffff, "a message's array is small");
+            return Reader::template read_array<u32>(in, view, offset, elements, nullptr) ? 4 : 5;
+        }
         if (kind == 2) {
             Word nested{};
             if (!Reader::nested_table(in, view, offset, nested) || levels_below == 0)

@@ -38,6 +38,7 @@ struct Contracts {
     static constexpr Subject held_slots = subject<HeldSlots<Reader>>("holds_slots, slot_unchecked", 2);
     static constexpr Subject holds_bytes = subject<HoldsBytes<Reader>>("holds_bytes", 2);
     static constexpr Subject picture_fits = subject<PictureFits<Reader>>("picture_fits", 2);
+    static constexpr Subject open_compact = subject<OpenCompactTable<Reader>>("open_compact_table", 2);
     static constexpr Subject slot_offset = subject<SlotOffset<Reader>>("slot_offset", 2);
     static constexpr Subject scalar_u8 = subject<typename ScalarOf<u8>::template Read<Reader>>("read_scalar<u8>", 2);
     static constexpr Subject scalar_u16 = subject<typename ScalarOf<u16>::template Read<Reader>>("read_scalar<u16>", 2);
@@ -53,9 +54,10 @@ struct Contracts {
     static constexpr Subject element_table = subject<ElementTable<Reader>>("element_table", 2);
     static constexpr Subject message = subject<Message<Reader>>("message", Message<Reader>::outcomes);
 
-    static constexpr Subject all[] = {root_table, open_table, held_slots, holds_bytes,  picture_fits,  slot_offset,
-                                      scalar_u8,  scalar_u16, scalar_u32, scalar_u64,   open_body,     bytes_fit,
-                                      cells_fit,  array_u8,   array_u32,  nested_table, element_table, message};
+    static constexpr Subject all[] = {root_table,   open_table,   held_slots,    holds_bytes, picture_fits,
+                                      open_compact, slot_offset,  scalar_u8,     scalar_u16,  scalar_u32,
+                                      scalar_u64,   open_body,    bytes_fit,     cells_fit,   array_u8,
+                                      array_u32,    nested_table, element_table, message};
 };
 
 template <Weakness weakness>
@@ -204,6 +206,9 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(picture_of_any_length, picture_fits, broken_promise, read_outside),
                                          FAULT(picture_by_its_end, picture_fits, broken_promise, read_outside),
                                          FAULT(picture_one_too_far, picture_fits, broken_promise, read_outside),
+                                         FAULT(compact_anywhere, open_compact, read_outside, read_outside),
+                                         FAULT(compact_of_any_vtable, open_compact, broken_promise, none),
+                                         FAULT(compact_of_any_distance, open_compact, broken_promise, none),
                                          FAULT(field_without_width, scalar_u16, read_outside, read_outside),
                                          FAULT(body_without_cell, open_body, read_outside, read_outside),
                                          FAULT(body_without_count, open_body, read_outside, read_outside),
@@ -212,8 +217,9 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(payload_by_a_sum, bytes_fit, broken_promise, read_outside),
                                          FAULT(payload_from_the_start, cells_fit, broken_promise, read_outside),
                                          FAULT(payload_of_bytes, cells_fit, broken_promise, read_outside),
-                                         FAULT(array_of_any_count, array_u32, read_outside, read_outside),
+                                         FAULT(array_of_any_count, array_u32, broken_promise, none),
                                          FAULT(array_without_payload, array_u8, read_outside, read_outside),
+                                         FAULT(array_longer_than_all, array_u32, read_outside, read_outside),
                                          FAULT(nested_without_cell, nested_table, read_outside, read_outside),
                                          FAULT(nested_may_wrap, nested_table, broken_promise, none),
                                          FAULT(element_may_wrap, element_table, broken_promise, none),
@@ -226,6 +232,7 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
 template <class Lanes>
 bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = largest_lane)
 {
+    constexpr unsigned widest = 8;
     z3::context& context = solver_context();
     z3::solver solver(context);
     const z3::expr offsets = context.bv_const("offsets", bits), widths = context.bv_const("widths", bits),
@@ -234,8 +241,8 @@ bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = large
     for (unsigned i = 0; i < bits / 16; ++i) {
         const auto lane = [&](const z3::expr& word) { return z3::zext(word.extract(16 * i + 15, 16 * i), 16); };
         const auto number = [&](unsigned value) { return context.bv_val(value, 32); };
-        solver.add(z3::ule(lane(widths), number(widest_scalar)));
-        solver.add(z3::uge(lane(rooms), number(widest_scalar)) && z3::ule(lane(rooms), number(greatest_room)));
+        solver.add(z3::ule(lane(widths), number(widest)));
+        solver.add(z3::uge(lane(rooms), lane(widths)) && z3::ule(lane(rooms), number(greatest_room)));
         said = said && z3::ule(lane(beyond), number(largest_lane));
         true_of_all = true_of_all && z3::ule(lane(offsets) + lane(widths), lane(rooms));
     }
@@ -248,7 +255,7 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
     using Word = z3::expr;
     for (const unsigned bits : {32U, 64U}) {
         EXPECT_TRUE(lanes_are_proved(bits, lanes_beyond<Word>));
-        EXPECT_FALSE(lanes_are_proved(bits, lanes_beyond<Word>, largest_lane + 1 + widest_scalar));
+        EXPECT_FALSE(lanes_are_proved(bits, lanes_beyond<Word>, largest_lane + 9));
         EXPECT_FALSE(lanes_are_proved(bits, [](const Word& room, const Word& widths, const Word& offsets) {
             return room - widths - offsets;   // an offset that goes round
         }));
@@ -262,22 +269,25 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
 template <std::size_t N>
 void expect_fits_like_one_by_one(std::mt19937& chance)
 {
-    std::array<u8, N> widths{};
     std::array<u8, 4 + 2 * N> bytes{};
     const auto below = [&](u32 bound) { return static_cast<u32>(chance() % bound); };
     for (int round = 0; round < 3000; ++round) {
-        const u32 rooms[] = {below(40), below(0x9000), 0x7FF0 + below(0x20)};
+        const u32 rooms[] = {below(40), below(0x9000), largest_room(N) - 0x10 + below(0x20)};
         const u32 room = rooms[round % 3];
-        bool all = room >= widest_scalar;
-        for (u32 k = 0; k < N; ++k) {
+        Widths<N> widths{};
+        for (u8& width : widths.of) {
             constexpr u8 all_widths[] = {0, 1, 2, 4, 8};
-            widths[k] = all_widths[below(5)];
+            width = all_widths[below(5)];
+            widths.widest = std::max(widths.widest, width);
+        }
+        bool all = room >= widths.widest;
+        for (u32 k = 0; k < N; ++k) {
             // Mostly close to the last place that fits, or absent.
-            const u32 limit = std::min(room, largest_lane) - std::min<u32>(room, widths[k]);
+            const u32 limit = std::min(room, largest_room(N)) - std::min<u32>(room, widths.of[k]);
             const u32 offset = below(2 * N) == 0 ? below(0x10000) : limit - below(std::min(limit, 3U) + 1);
             store(bytes.data() + 4 + 2 * k, static_cast<u16>(below(2) == 0 ? 0 : offset));
             const u32 written = load<u16>(bytes.data() + 4 + 2 * k);
-            all = all && written + widths[k] <= std::min(room, largest_lane);
+            all = all && written + widths.of[k] <= std::min(room, largest_room(N));
         }
         const Input in{bytes.data(), static_cast<u32>(bytes.size())};
         const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};

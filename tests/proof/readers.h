@@ -37,6 +37,11 @@ struct Shipping {
         return kesto::picture_fits(in, table, before, n, at);
     }
     template <class In, class Word>
+    static bool open_compact_table(const In& in, const Word& table, const Word& slots, TableView<In>& view)
+    {
+        return kesto::open_compact_table(in, table, slots, view);
+    }
+    template <class In, class Word>
     static auto slot_offset(const In& in, const TableView<In>& view, const Word& k)
     {
         return kesto::slot_offset(in, view, k);
@@ -93,6 +98,9 @@ enum class Weakness {
     picture_of_any_length,
     picture_by_its_end,
     picture_one_too_far,
+    compact_anywhere,
+    compact_of_any_vtable,
+    compact_of_any_distance,
     field_without_width,
     field_by_a_sum,
     body_without_cell,
@@ -104,6 +112,7 @@ enum class Weakness {
     payload_of_bytes,
     array_of_any_count,
     array_without_payload,
+    array_longer_than_all,
     nested_may_wrap,
     nested_without_cell,
     element_may_wrap,
@@ -180,6 +189,22 @@ struct Weakened {
     }
 
     template <class In, class Word>
+    static bool open_compact_table(const In& in, const Word& table, const Word& slots, TableView<In>& view)
+    {
+        const Word vtable_bytes = vtable_head_bytes + slot_bytes * slots;
+        Word vtable = table - vtable_bytes;
+        if (!is(Weakness::compact_anywhere) &&
+            !picture_fits(in, table, vtable_bytes, vtable_bytes + table_head_bytes, vtable))
+            return false;
+        if (!is(Weakness::compact_of_any_distance) && in.template load_unchecked<u32>(table) != vtable_bytes)
+            return false;
+        if (!is(Weakness::compact_of_any_vtable) && in.template load_unchecked<u16>(vtable) != vtable_bytes)
+            return false;
+        view = {table, vtable, vtable_bytes, in.length - table};
+        return true;
+    }
+
+    template <class In, class Word>
     static Word slot_offset(const In& in, const TableView<In>& view, const Word& k)
     {
         if (!holds_slots(view, k + (is(Weakness::slot_one_further) ? 0 : 1)))
@@ -238,14 +263,20 @@ struct Weakened {
     template <class T, class In, class Word>
     static bool read_array(const In& in, const TableView<In>& view, const Word& offset, const Word& elements, u8* field)
     {
-        Word payload{}, count{};
-        if (!open_body(in, view, offset, payload, count))
+        if (!field_fits(in, view, offset, cell_bytes))
             return false;
-        if (!is(Weakness::array_of_any_count) && count != elements)
+        const Word cell = view.table + offset;
+        const Word distance = in.template load_unchecked<u32>(cell);
+        const Word needed = count_bytes + (is(Weakness::array_without_payload) ? 0 : u32{sizeof(T)}) * elements;
+        const Word room = in.length - cell;
+        if (!is(Weakness::array_longer_than_all) && room < needed)
             return false;
-        if (!is(Weakness::array_without_payload) && !payload_fits(in, payload, count, sizeof(T)))
+        if (distance > room - needed)
             return false;
-        in.template copy_values_unchecked<T>(payload, elements, field);
+        const Word body = cell + distance;
+        if (!is(Weakness::array_of_any_count) && in.template load_unchecked<u32>(body) != elements)
+            return false;
+        in.template copy_values_unchecked<T>(body + count_bytes, elements, field);
         return true;
     }
 
