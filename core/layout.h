@@ -129,6 +129,9 @@ struct Layout {
     // Whether a call costs more than it spares, of code that more than one routine needs.
     static constexpr bool is_small = slots <= 16;
 
+    // Whether it costs more even in a loop over elements. Never where code is larger and its size matters more.
+    static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
+
     // Whether every table, in any form, has at least 8 bytes behind its scalars: a cell and a body or another table.
     static constexpr bool has_tail = [] {
         bool any = false;

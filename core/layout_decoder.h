@@ -72,11 +72,12 @@ constexpr Widths<L::slots> scalar_widths = [] {
     return widths;
 }();
 
-// Opens a table whose vtable has all slots and whose scalars all lie inside.
+// Opens a table whose vtable has all slots and whose scalars all lie inside. The compact way is code for each layout,
+// which 32-bit machines, with less room for it, do without.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {
-    if (!open_compact_table(in, table, L::slots, view)) [[unlikely]] {
+    if (pointer_bytes < 8 || !open_compact_table(in, table, L::slots, view)) {
         view = open_table_of(in, table, L::slots);
         if (view.vtable == 0)
             return false;
@@ -118,16 +119,22 @@ template <class L, u32 K>
     }
 }
 
-// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
-// it, unless the tests of the table itself have failed.
 template <class L>
-[[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool read_plain_table_here(Input in, u32 table, u8* record)
 {
     TableView<Input> view;
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return false;
     clear_gaps<L>(record);
     return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
+}
+
+// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
+// it, unless the tests of the table itself have failed.
+template <class L>
+[[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
+{
+    return read_plain_table_here<L>(in, table, record);
 }
 
 // ---- nested tables ----
@@ -217,7 +224,9 @@ bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const Ne
     for (; i < count; ++i, record += L::record_size) {
         if (!element_table(in, cells, i, table))
             return false;
-        if (!read_plain_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
+        const bool done =
+            L::is_tiny ? read_plain_table_here<L>(in, table, record) : read_plain_table<L>(in, table, record);
+        if (!done && !decode_nested_anew(in, table, record, element))
             return false;
     }
     return true;
