@@ -19,6 +19,9 @@ struct ExplainChoices {
 
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices);
 
+// Without a message: what the bytes themselves tell.
+int explain_raw(std::span<const u8> bytes);
+
 struct DecodeChoices {
     u64 most_memory = 64 << 20;
     bool compact_json = false;   // in one line
@@ -36,6 +39,23 @@ struct EncodeChoices {
 
 int encode_json(const Message& message, const std::string& text, const std::string& where,
                 const EncodeChoices& choices);
+
+struct DiffChoices {
+    ColourChoice colour = ColourChoice::automatic;
+    bool json = false;
+};
+
+int compare(const Record& left, const Record& right, const DiffChoices& choices);
+
+struct ListChoices {
+    bool names = false;   // nothing but names, one a line
+    bool json = false;
+};
+
+int list_messages(const std::string& pattern, const ListChoices& choices);
+int show_message(const Message& message, bool json);
+int show_sizes(const Message& message, bool json);
+int show_sizes(const Record& record, bool json);
 
 // What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record.
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
