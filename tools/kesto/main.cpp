@@ -242,6 +242,7 @@ int run(int argc, char** argv)
 {
     CLI::App app("Explains, decodes, encodes and compares KESTO byte strings.", "kesto");
     app.require_subcommand(1);
+    app.set_version_flag("--version", KESTO_VERSION);
     app.failure_message(CLI::FailureMessage::simple);
     Explain explain(app);
     Decode decode(app);

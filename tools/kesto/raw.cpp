@@ -15,7 +15,8 @@ namespace {
 constexpr u32 most_tables = 200;
 constexpr u32 most_depth = 8;
 constexpr u32 most_elements = 4;   // of a vector that are shown; more are looked at
-constexpr u32 most_elements_tested = 64;
+constexpr u32 most_elements_tested = 16;
+constexpr u32 most_slots = 256;
 constexpr std::size_t most_bytes_tried = 1 << 20;
 
 struct Table {
@@ -39,6 +40,7 @@ private:
     bool may_be_table(u64 position) const;
     bool may_be_vector(u64 body) const;
     bool may_be_text(u64 body) const;
+    bool may_be_target(u64 target) const;
     void show_table(const Table& table, u32 depth);
     void show_slot(const Table& table, std::size_t slot, u32 room, u32 depth);
     void show_target(u32 target, u32 depth);
@@ -67,7 +69,7 @@ bool Guesser::open(u32 position, Table& table) const
     table.length = number(table.vtable + 2, 2);
     if (!fits(table.vtable, length))
         return false;
-    for (u32 at = 4; at + 2 <= length; at += 2)
+    for (u32 at = 4; at + 2 <= length && table.offsets.size() < most_slots; at += 2)
         table.offsets.push_back(number(table.vtable + at, 2));
     return true;
 }
@@ -107,8 +109,16 @@ bool Guesser::may_be_text(u64 body) const
 {
     const u32 length = number(static_cast<u32>(body), 4);
     const u8* const text = bytes_.data() + body + 4;
-    return fits(body + 4, u64{length} + 1) && text[length] == 0 && is_utf8(text, length) &&
+    return length != 0 && fits(body + 4, u64{length} + 1) && text[length] == 0 && is_utf8(text, length) &&
            std::none_of(text, text + length, [](u8 byte) { return byte < ' ' && byte != '\n' && byte != '\t'; });
+}
+
+bool Guesser::may_be_target(u64 target) const
+{
+    if (!fits(target, 4))
+        return false;
+    const u32 count = number(static_cast<u32>(target), 4);
+    return may_be_table(target) || may_be_vector(target) || (count != 0 && fits(target + 4, count));
 }
 
 void Guesser::show_target(u32 target, u32 depth)
@@ -133,7 +143,7 @@ void Guesser::show_target(u32 target, u32 depth)
         line(depth, target,
              fmt::format("text of {}? {}{}", counted(count, "byte"), quoted(bytes_.data() + target + 4, shown),
                          shown < count ? "..." : ""));
-    } else if (fits(target + 4, count)) {
+    } else {
         const std::size_t shown = std::min<std::size_t>(count, 16);
         line(depth, target,
              fmt::format("bytes or an array, count {}? {}{}", count, to_hex(bytes_.data() + target + 4, shown, " "),
@@ -145,16 +155,14 @@ void Guesser::show_target(u32 target, u32 depth)
 void Guesser::show_slot(const Table& table, std::size_t slot, u32 room, u32 depth)
 {
     const u32 position = table.position + table.offsets[slot];
-    const u32 width = room >= 8 ? 8 : room >= 4 ? 4 : room >= 2 ? 2 : 1;
+    const u32 width = room >= 4 ? 4 : room >= 2 ? 2 : 1;
     if (!fits(position, width))
         return line(depth, position, fmt::format("slot {}: behind the end", slot));
-    std::string text = fmt::format("slot {}: ", slot);
-    for (u32 each = std::min(width, 4U); each != 0; each /= 2)
-        text += fmt::format("{}u{} {}", each == std::min(width, 4U) ? "" : ", ", 8 * each, number(position, each));
-    if (width == 8)
+    std::string text = fmt::format("slot {}: u{} {}", slot, 8 * width, number(position, width));
+    if (room == 8 && fits(position, 8))
         text += fmt::format(", u64 {}", reference::get(bytes_.data() + position, 8));
     const u64 target = width < 4 ? 0 : u64{position} + number(position, 4);
-    const bool leads = target >= position + u64{4} && fits(target, 4);
+    const bool leads = target >= position + u64{4} && may_be_target(target);
     line(depth, position, leads ? text + fmt::format("; or a cell to {}", target) : text);
     if (leads)
         show_target(static_cast<u32>(target), depth + 1);
