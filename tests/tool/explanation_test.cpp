@@ -258,13 +258,13 @@ TEST(Notes, stay_few_where_a_byte_string_asks_for_much)
 {
     const reference::Message& message = *find_message("ntvifit_entry_list_mdtlm");
     Record record = reference::zero_record(message);
-    record.fields[1].records.assign(8000, reference::zero_record(*message.slots[1].nested));
-    record.fields[1].number = 8000;
-    record.fields[1].present = true;
-    for (std::size_t k = 0; k < message.slots[1].nested->slots.size(); ++k) {
-        if (message.slots[1].nested->slots[k].kind != reference::Kind::bytes)
+    record.fields[0].records.assign(8000, reference::zero_record(*message.slots[0].nested));
+    record.fields[0].number = 8000;
+    record.fields[0].present = true;
+    for (std::size_t k = 0; k < message.slots[0].nested->slots.size(); ++k) {
+        if (message.slots[0].nested->slots[k].kind != reference::Kind::bytes)
             continue;
-        reference::Field& block = record.fields[1].records.back().fields[k];
+        reference::Field& block = record.fields[0].records.back().fields[k];
         block.present = true;
         block.number = 10000;
         block.octets.assign(10000, 'x');

@@ -305,8 +305,8 @@ private:
         if (at >= next)
             return;
         const bool zero = std::all_of(bytes.begin() + at, bytes.begin() + next, [](u8 byte) { return byte == 0; });
-        // The fixed form rounds up to 4 and to 8.
-        const bool padding = zero && next - at < 8;
+        // The fixed form rounds up to 8, and right behind that a table around it to 4.
+        const bool padding = zero && next - at <= 7 + 3;
         add(padding ? Part::padding : Part::unread, at, next - at, {});
         if (!padding && !explanation_.refused && explanation_.left_out == 0)
             notes_.add("not_read", at, next - at, ".", counted(next - at, "byte") + " that no decoder reads");
