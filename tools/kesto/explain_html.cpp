@@ -166,8 +166,7 @@ void append_head(std::string& out, const Explanation& explanation)
     if (!explanation.notes.empty())
         out += "<ul>\n";
     for (const Note& note : explanation.notes)
-        fmt::format_to(into, "<li><b>{}</b> at {}, <code>{}</code>: {}</li>\n", note.code, note.position,
-                       escaped(note.path), escaped(note.text));
+        fmt::format_to(into, "<li><b>{}</b>{}: {}</li>\n", note.code, escaped(place_text(note)), escaped(note.text));
     if (!explanation.notes.empty())
         out += "</ul>\n";
     out += "<div class=key><span class=structure>root, table</span><span class=vtable>vtable</span>"

@@ -140,8 +140,8 @@ std::string explanation_text(const Explanation& explanation, const TextOptions& 
         fmt::format_to(into, "memory: {} in {}\n", counted(explanation.memory, "byte"),
                        counted(explanation.allocations, "block"));
     for (const Note& note : explanation.notes)
-        fmt::format_to(into, "{} at {}, {}: {}\n", colours.odd(fmt::format("note: {}", note.code)), note.position,
-                       note.path, note.text);
+        fmt::format_to(into, "{}{}: {}\n", colours.odd(fmt::format("note: {}", note.code)), place_text(note),
+                       note.text);
     return out;
 }
 

@@ -43,7 +43,7 @@ struct Note {
     const char* code;
     u32 position;
     u32 length;
-    std::string path;
+    std::string path;   // empty in a note that tells of other notes only
     std::string text;
 };
 
@@ -77,7 +77,7 @@ struct Explanation {
 struct ExplainOptions {
     u32 pointer_width = reference::host_pointer_width;
     std::size_t most_ranges = 100000;
-    u64 most_memory = 64 << 20;   // for the comparison with what the writers write
+    u64 most_memory = 16 << 20;   // for the comparison with what the writers write
 };
 
 // `bytes` has to outlive the explanation.
@@ -92,6 +92,7 @@ std::string value_text(const Explanation& explanation, const Range& range);
 std::string rule_text(const reference::Failure& failure);         // what the check demands
 std::string comparison_text(const reference::Failure& failure);   // the numbers, empty if there are none
 std::string origin_text(Origin origin);
+std::string place_text(const Note& note);   // " at 18, .f0", or empty
 
 // "1 byte", "2 bytes".
 std::string counted(u64 count, const char* thing);

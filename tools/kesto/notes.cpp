@@ -13,7 +13,7 @@ std::vector<Note> Notes::all() const
                      [](const Note& left, const Note& right) { return left.position < right.position; });
     for (const auto& [code, count] : counts_)
         if (count > most_of_a_kind)
-            notes.push_back({code.data(), 0, 0, ".", fmt::format("{} more of this kind", count - most_of_a_kind)});
+            notes.push_back({code.data(), 0, 0, "", fmt::format("{} more of this kind", count - most_of_a_kind)});
     return notes;
 }
 

@@ -1,4 +1,4 @@
-// A collection of notes that a byte string cannot make endless.
+// A collection of notes that no byte string can make endless.
 #pragma once
 
 #include <map>

@@ -186,7 +186,9 @@ std::string value_text(const Explanation& explanation, const Range& range)
     case Part::padding: return "not read";
     case Part::unread: break;
     }
-    return explanation.refused ? "not reached" : "not read";
+    if (explanation.refused)
+        return "not reached";
+    return explanation.left_out == 0 ? "not read" : "not read, or read and not listed";
 }
 
 std::string rule_text(const Failure& failure) { return rule_of(failure.refusal).demand; }
@@ -194,6 +196,11 @@ std::string rule_text(const Failure& failure) { return rule_of(failure.refusal).
 std::string comparison_text(const Failure& failure)
 {
     return fmt::format(fmt::runtime(rule_of(failure.refusal).comparison), failure.value, failure.limit);
+}
+
+std::string place_text(const Note& note)
+{
+    return note.path.empty() ? "" : fmt::format(" at {}, {}", note.position, note.path);
 }
 
 std::string origin_text(Origin origin)
