@@ -30,7 +30,7 @@ CLI::Option* add_choice(CLI::App& app, const std::string& name, Value& value,
         .add_option_function<std::string>(
             name, [&value, &values](const std::string& word) { value = values.at(word); }, help)
         ->check(CLI::IsMember(words))
-        ->type_name("");
+        ->type_name("WORD");
 }
 
 void add_colour(CLI::App& app, ColourChoice& colour)
@@ -103,7 +103,7 @@ struct Explain {
                 "--pointers", [this](u32 bits) { choices.options.pointer_width = bits / 8; },
                 "reckon memory for a process of 32 or 64 bits")
             ->check(CLI::IsMember({32, 64}))
-            ->type_name("");
+            ->type_name("WORD");
     }
 
     int run()
