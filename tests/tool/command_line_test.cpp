@@ -66,6 +66,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain" + named + " --json --hex " + hello, 0, "\"accepted\": true"},
         {"explain" + named + " --hex 0a0000000600", 1, "refused: table_position at ., position 10"},
         {"explain" + named + " --hex ''", 1, "refused: length_below_4"},
+        {"explain ifit_mcp_mesh --hex " + std::string(hello), 0, "written for ifit_dfx_query_glbdata_item_mesh"},
         {"explain --raw --hex " + std::string(hello), 0, item},
         {"explain --raw --hex 00", 1, "less than the 4 bytes"},
         {"decode" + named + " --hex 0a0000000600", 1, "refused: table_position"},
@@ -96,6 +97,29 @@ TEST(CommandLine, colours_only_where_they_are_wanted)
     const std::string explain = std::string("explain ") + item + " --hex " + hello;
     EXPECT_EQ(kesto(explain).output.find('\033'), std::string::npos);
     EXPECT_NE(kesto(explain + " --color always").output.find('\033'), std::string::npos);
+}
+
+// What bash is offered behind the words that are there.
+std::string completions(const std::string& words)
+{
+    const std::string script = "source " KESTO_SOURCE_DIR "/tools/kesto/kesto.bash; COMP_WORDS=(" KESTO_PROGRAM " " +
+                               words + "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _kesto; echo ${COMPREPLY[@]}";
+    std::string output;
+    std::FILE* const pipe = popen(("bash -c '" + script + "' 2>&1").c_str(), "r");
+    for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
+        output += static_cast<char>(c);
+    if (pipe != nullptr)
+        pclose(pipe);
+    return output;
+}
+
+TEST(Completion, offers_commands_options_and_messages)
+{
+    EXPECT_EQ(completions("ex"), "explain\n");
+    EXPECT_EQ(completions("explain --h"), "--help --hex --html\n");
+    EXPECT_EQ(completions("encode --form c"), "compact\n");
+    EXPECT_EQ(completions("decode --line ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
+    EXPECT_EQ(completions("diff ifit_mcp_mesh /dev/nul"), "/dev/null\n");
 }
 
 class Files : public testing::Test {

@@ -42,7 +42,9 @@ const Message& message_named(const std::string& name)
 
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
 {
-    const Explanation explanation = explain(message, bytes, choices.options);
+    Explanation explanation = explain(message, bytes, choices.options);
+    if (explanation.refused || explanation.origin == Origin::other)
+        explanation.written_for = fitting_messages(bytes).written_so;
     if (!choices.html.empty()) {
         const std::string page = explanation_html(explanation);
         write_bytes(choices.html, page.data(), page.size());

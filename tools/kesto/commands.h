@@ -22,6 +22,14 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
 // Without a message: what the bytes themselves tell.
 int explain_raw(std::span<const u8> bytes);
 
+// The messages whose writers leave just these bytes, and all that accept them. None for more than 1 MiB.
+struct Fitting {
+    std::vector<std::string> written_so;
+    std::vector<std::string> accepted;
+};
+
+Fitting fitting_messages(std::span<const u8> bytes);
+
 struct DecodeChoices {
     u64 most_memory = 64 << 20;
     bool compact_json = false;   // in one line

@@ -163,6 +163,11 @@ void append_head(std::string& out, const Explanation& explanation)
                        memory);
     if (explanation.ignored)
         append_refused(out, explanation, *explanation.ignored, "ignored");
+    if (!explanation.written_for.empty())
+        fmt::format_to(into,
+                       "<div class=\"verdict ignored\"><p><b>another message?</b> Just these bytes are written for "
+                       "{}</p></div>\n",
+                       fmt::join(explanation.written_for, ", "));
     if (!explanation.notes.empty())
         out += "<ul>\n";
     for (const Note& note : explanation.notes)

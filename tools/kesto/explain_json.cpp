@@ -58,6 +58,7 @@ ordered_json explanation_json(const Explanation& explanation)
         {"refused", nullptr},
         {"ignored", nullptr},
         {"origin", origin_text(explanation.origin)},
+        {"written_for", explanation.written_for},
         {"memory", {{"bytes", explanation.memory}, {"blocks", explanation.allocations}}},
         {"notes", ordered_json::array()},
         {"ranges", ordered_json::array()},

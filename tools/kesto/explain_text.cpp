@@ -136,6 +136,9 @@ std::string explanation_text(const Explanation& explanation, const TextOptions& 
         fmt::format_to(into, "{}: {}\n", colours.good("accepted"), origin_text(explanation.origin));
     if (explanation.ignored)
         append_refused(out, explanation, *explanation.ignored, true, colours);
+    if (!explanation.written_for.empty())
+        fmt::format_to(into, "{}: just these bytes are written for {}\n", colours.odd("another message?"),
+                       fmt::join(explanation.written_for, ", "));
     if (explanation.allocations != 0)
         fmt::format_to(into, "memory: {} in {}\n", counted(explanation.memory, "byte"),
                        counted(explanation.allocations, "block"));

@@ -72,6 +72,7 @@ struct Explanation {
     u64 memory = 0;   // what the decoder asks for, in all
     u32 allocations = 0;
     Origin origin = Origin::unknown;
+    std::vector<std::string> written_for;   // other messages whose writers leave just these bytes, if somebody looked
 };
 
 struct ExplainOptions {

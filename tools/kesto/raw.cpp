@@ -207,27 +207,35 @@ bool Guesser::root()
     return true;
 }
 
-// Of all messages: those whose writers leave just these bytes, and how many more accept them.
-std::string message_guess(std::span<const u8> bytes)
+std::string fitting_text(const Fitting& fitting)
 {
-    std::vector<std::string> exact;
-    std::vector<std::string> others;
-    for (const Message& message : catalogue().messages) {
-        const Explanation explanation = explain(message, bytes, {.most_ranges = 0});
-        const Origin origin = explanation.origin;
-        if (origin == Origin::compact || origin == Origin::fixed)
-            exact.push_back(message.name);
-        else if (!explanation.refused)
-            others.push_back(message.name);
-    }
-    if (!exact.empty())
-        return fmt::format("written just so for: {}\n", fmt::join(exact, ", "));
-    others.resize(std::min<std::size_t>(others.size(), 10));
-    return others.empty() ? "no message accepts it\n"
-                          : fmt::format("no message is written just so; accepted for: {}\n", fmt::join(others, ", "));
+    constexpr std::size_t most = 10;
+    if (!fitting.written_so.empty())
+        return fmt::format("written just so for: {}\n", fmt::join(fitting.written_so, ", "));
+    if (fitting.accepted.empty())
+        return "no message accepts it\n";
+    const auto end = fitting.accepted.begin() + static_cast<std::ptrdiff_t>(std::min(fitting.accepted.size(), most));
+    return fmt::format("written just so for no message; {} accept it: {}{}\n", fitting.accepted.size(),
+                       fmt::join(fitting.accepted.begin(), end, ", "), end == fitting.accepted.end() ? "" : ", ...");
 }
 
 }   // namespace
+
+Fitting fitting_messages(std::span<const u8> bytes)
+{
+    Fitting fitting;
+    for (const Message& message : catalogue().messages) {
+        if (bytes.size() > most_bytes_tried)
+            break;
+        const Explanation explanation = explain(message, bytes, {.most_ranges = 0});
+        const Origin origin = explanation.origin;
+        if (origin == Origin::compact || origin == Origin::fixed)
+            fitting.written_so.push_back(message.name);
+        if (!explanation.refused)
+            fitting.accepted.push_back(message.name);
+    }
+    return fitting;
+}
 
 int explain_raw(std::span<const u8> bytes)
 {
@@ -235,7 +243,7 @@ int explain_raw(std::span<const u8> bytes)
     const bool is_table = Guesser(bytes, out).root();
     out += "\n";
     if (bytes.size() <= most_bytes_tried)
-        out += message_guess(bytes);
+        out += fitting_text(fitting_messages(bytes));
     write_bytes("-", out.data(), out.size());
     return is_table ? accepted : refused;
 }
