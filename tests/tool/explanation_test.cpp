@@ -252,6 +252,29 @@ TEST(Notes, tell_what_passes_without_a_word)
         EXPECT_EQ(codes_of(explain(*find_message(each.message), each.bytes)), each.codes) << hex(each.bytes);
 }
 
+TEST(Texts, cannot_steer_a_terminal)
+{
+    const std::string text = "a\x1b[2J\x7f\"\xc2\x9b\xc3\xa9";
+    EXPECT_EQ(command::quoted(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()),
+              "\"a\\x1b[2J\\x7f\\\"\\u009b\xc3\xa9\"");
+}
+
+// X__pack counts 8 bytes for a block of length 0 behind a pointer and does not write them.
+TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
+{
+    Record record = reference::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));
+    record.fields[2].present = true;
+    ByteString bytes = reference::compact_form(record);
+    bytes.resize(reference::exact_size(record));
+    EXPECT_EQ(explain(*record.message, bytes).origin, command::Origin::compact_with_rest);
+    const ByteString text = [] {
+        ByteString longer = one_text();
+        longer.resize(longer.size() + 8);
+        return longer;
+    }();
+    EXPECT_EQ(explain(*find_message("ifit_dfx_query_glbdata_item_mesh"), text).origin, command::Origin::other);
+}
+
 // 8000 cells that all lead to one element with three blocks: the decoder copies 240 MB, while the explanation stays as
 // short as the byte string is simple.
 TEST(Notes, stay_few_where_a_byte_string_asks_for_much)

@@ -8,8 +8,8 @@
 
 namespace kesto::command {
 
-// A table that is read again, by another cell, is not followed again: what a few bytes ask
-// the decoder to read a million times would be listed as often.
+// A table that is read again, by another cell, is not followed again: what a few bytes ask the decoder to read a
+// million times would be listed as often.
 class Collector final : public reference::Walk {
 public:
     Collector(Explanation& explanation, Notes& notes, const ExplainOptions& options)

@@ -115,6 +115,13 @@ private:
 
 // ---- which writer ----
 
+bool holds_block(const Message& message)
+{
+    return std::any_of(message.slots.begin(), message.slots.end(), [](const Slot& slot) {
+        return slot.kind == Kind::bytes || (slot.nested != nullptr && holds_block(*slot.nested));
+    });
+}
+
 Origin origin_of(const Message& message, std::span<const u8> bytes)
 {
     reference::Outcome outcome;
@@ -126,8 +133,8 @@ Origin origin_of(const Message& message, std::span<const u8> bytes)
         return Origin::compact;
     if (message.fixed_length != 0 && std::ranges::equal(bytes, reference::fixed_form(outcome.record)))
         return Origin::fixed;
-    const bool begins_alike =
-        bytes.size() > compact.size() && std::equal(compact.begin(), compact.end(), bytes.begin());
+    const bool begins_alike = bytes.size() > compact.size() && holds_block(message) &&
+                              std::equal(compact.begin(), compact.end(), bytes.begin());
     return begins_alike && (bytes.size() - compact.size()) % 8 == 0 ? Origin::compact_with_rest : Origin::other;
 }
 

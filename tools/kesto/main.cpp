@@ -58,9 +58,11 @@ struct Source {
     void add_to(CLI::App& app)
     {
         app.add_option("MESSAGE", message, "name or id of the message");
-        app.add_option("FILE", file, "the byte string; - for standard input (the default)");
+        CLI::Option* const path = app.add_option("FILE", file, "the byte string; - for standard input (the default)");
         add_format(app, format);
-        app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"")->type_name("TEXT");
+        app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"")
+            ->type_name("TEXT")
+            ->excludes(path);
     }
 
     const Message& message_meant() const
@@ -73,7 +75,7 @@ struct Source {
     // The only word of a command line that names no message.
     void take_message_for_file()
     {
-        if (!message.empty() && file != "-")
+        if (!message.empty() && (file != "-" || hex))
             throw Fault("--raw takes a FILE and no MESSAGE");
         if (!message.empty())
             file = message;

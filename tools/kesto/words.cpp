@@ -107,6 +107,8 @@ std::string quoted(const u8* text, std::size_t length)
             out += fmt::format("\\{}", character);
         else if (text[i] < ' ' || text[i] == 0x7f || (text[i] >= 0x80 && !is_text))
             out += fmt::format("\\x{:02x}", text[i]);
+        else if (text[i] == 0xc2 && text[i + 1] < 0xa0)   // control characters of two bytes
+            out += fmt::format("\\u{:04x}", text[++i]);
         else
             out += character;
     }
