@@ -51,8 +51,9 @@ span.read-last { outline: 2px solid var(--bad); }
 @media (max-width: 62rem) { main { grid-template-columns: minmax(0, 1fr); }
   .grid { position: static; max-height: 40vh; grid-template-columns: repeat(auto-fill, minmax(min(21rem, 100%), 1fr)); } }
 @media (max-width: 34rem) { body { padding: .7rem .7rem 5rem; } code, table, .grid, #hint { font-size: 12px; }
-  .grid i:last-child { display: none; } th, td { padding: .1rem .3rem; }
+  th, td { padding: .1rem .3rem; }
   th:nth-child(2), td:nth-child(2) { display: none; } td:nth-child(5) { min-width: 0; } }
+@media (max-width: 22rem) { .grid i:last-child { display: none; } }
 )";
 
 inline constexpr const char page_script[] = R"(

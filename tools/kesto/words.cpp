@@ -202,7 +202,10 @@ std::string comparison_text(const Failure& failure)
 
 std::string place_text(const Note& note)
 {
-    return note.path.empty() ? "" : fmt::format(" at {}, {}", note.position, note.path);
+    if (note.path.empty())
+        return "";
+    return note.path == "." ? fmt::format(" at {}", note.position)
+                            : fmt::format(" at {}, {}", note.position, note.path);
 }
 
 std::string origin_text(Origin origin)
