@@ -13,8 +13,6 @@ namespace kesto::command {
 
 namespace {
 
-void print(const std::string& text) { write_bytes("-", text.data(), text.size()); }
-
 // A writer stops at the NUL.
 void warn_of_cut_text(const Record& record)
 {

@@ -31,8 +31,8 @@ struct Fitting {
 Fitting fitting_messages(std::span<const u8> bytes);
 
 struct DecodeChoices {
-    u64 most_memory = 64 << 20;
-    bool compact_json = false;   // in one line
+    u64 most_memory = 16 << 20;   // of a record; its JSON takes many times that
+    bool compact_json = false;    // in one line
 };
 
 int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices);

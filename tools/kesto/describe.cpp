@@ -16,27 +16,11 @@ namespace {
 
 using nlohmann::ordered_json;
 
-void print(const std::string& text) { write_bytes("-", text.data(), text.size()); }
-
 std::string id_text(const Message& message) { return fmt::format("{:#010x}", message.id); }
 
 bool is_heap(const Slot& slot)
 {
     return slot.kind == Kind::string || slot.kind == Kind::bytes || slot.kind == Kind::vector;
-}
-
-u32 member_size(const Message& message, std::size_t k, u32 pointer_width)
-{
-    const Slot& slot = message.slots[k];
-    switch (slot.kind) {
-    case Kind::scalar: return slot.width;
-    case Kind::array: return slot.width * slot.count;
-    case Kind::string: return pointer_width;
-    case Kind::bytes:
-    case Kind::vector: return 2 * pointer_width;
-    case Kind::table: break;
-    }
-    return slot.nested->layout(pointer_width).size;
 }
 
 std::string lengths_text(const Message& message)
@@ -79,14 +63,13 @@ void append_compact_picture(std::string& out, const Message& message)
     append_line(out, table, fmt::format("table: vtable {} back", message.vtable_length));
     append_more(out, "scalars that are not 0",
                 fields_that(message, [](const Slot& slot) { return slot.kind == Kind::scalar; }));
-    append_more(out, "cells, always", fields_that(message, [](const Slot& slot) {
-                    return slot.kind == Kind::array || slot.kind == Kind::table;
-                }));
-    append_more(out, "cells of what is there", fields_that(message, is_heap));
-    append_more(out, "then counts and contents, in slot order",
+    append_more(out, "cells of all others, in slot order",
+                fields_that(message, [](const Slot& slot) { return slot.kind != Kind::scalar; }));
+    append_more(out, "counts and contents, in slot order",
                 fields_that(message, [](const Slot& slot) { return slot.kind == Kind::array || is_heap(slot); }));
     append_more(out, "behind the table, each with its vtable in front",
                 fields_that(message, [](const Slot& slot) { return slot.nested != nullptr; }));
+    append_more(out, "left out with all its parts if null or empty", fields_that(message, is_heap));
 }
 
 void append_fixed_picture(std::string& out, const Message& message)
@@ -126,7 +109,8 @@ ordered_json message_json(const Message& message)
 
 ordered_json layout_json(const Message& message, std::size_t k, u32 pointer_width)
 {
-    return {{"offset", message.layout(pointer_width).offsets[k]}, {"size", member_size(message, k, pointer_width)}};
+    return {{"offset", message.layout(pointer_width).offsets[k]},
+            {"size", reference::member_size(message.slots[k], pointer_width)}};
 }
 
 std::string show_json(const Message& message)
@@ -155,7 +139,8 @@ std::string fields_table(const Message& message)
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         fmt::format_to(std::back_inserter(out), "{:>4}  {:{}}  {:{}}  {:>5}  {:>7}  {:>5}  {:>7}\n", k,
                        field_name(message, k), name, slot_type(message, k), type, message.narrow.offsets[k],
-                       member_size(message, k, 4), message.wide.offsets[k], member_size(message, k, 8));
+                       reference::member_size(message.slots[k], 4), message.wide.offsets[k],
+                       reference::member_size(message.slots[k], 8));
     return out;
 }
 

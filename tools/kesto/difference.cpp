@@ -55,7 +55,7 @@ int compare(const Record& left, const Record& right, const DiffChoices& choices)
         if (!choices.json)
             out += fmt::format("{}: {}  {}\n", colours.name(each.path), colours.bad(each.left.dump()),
                                colours.good(each.right.dump()));
-    write_bytes("-", out.data(), out.size());
+    print(out);
     return found.empty() ? accepted : refused;
 }
 

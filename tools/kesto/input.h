@@ -28,5 +28,6 @@ std::string read_text(const std::string& path);
 
 // To the file, or to standard output for "-".
 void write_bytes(const std::string& path, const void* bytes, std::size_t count);
+inline void print(const std::string& text) { write_bytes("-", text.data(), text.size()); }
 
 }   // namespace kesto::command

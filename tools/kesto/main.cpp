@@ -45,7 +45,7 @@ void add_format(CLI::App& app, InputFormat& format)
 
 void add_memory(CLI::App& app, u64& most)
 {
-    app.add_option("--memory", most, "do not decode what takes more bytes of memory (64 MiB)")->type_name("BYTES");
+    app.add_option("--memory", most, "do not decode what takes more bytes of memory (16 MiB)")->type_name("BYTES");
 }
 
 // What `explain` and `decode` read.

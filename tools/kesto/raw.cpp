@@ -244,7 +244,7 @@ int explain_raw(std::span<const u8> bytes)
     out += "\n";
     if (bytes.size() <= most_bytes_tried)
         out += fitting_text(fitting_messages(bytes));
-    write_bytes("-", out.data(), out.size());
+    print(out);
     return is_table ? accepted : refused;
 }
 
