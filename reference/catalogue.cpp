@@ -224,6 +224,11 @@ void note_users(Catalogue& catalogue)
 
 }   // namespace
 
+u32 member_size(const Slot& slot, u32 pointer_width)
+{
+    return member_of(slot, pointer_width).size;
+}
+
 bool Catalogue::add(std::string_view text, std::string& error)
 {
     for (u32 number = 1; !text.empty(); ++number) {

@@ -61,6 +61,9 @@ struct Message {
     const RecordLayout& layout(u32 pointer_width) const { return pointer_width == 4 ? narrow : wide; }
 };
 
+// Bytes that the slot's member takes in the structure.
+u32 member_size(const Slot& slot, u32 pointer_width);
+
 inline constexpr u32 host_pointer_width = sizeof(void*);
 inline constexpr u32 greatest_depth = 8;
 

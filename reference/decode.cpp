@@ -108,6 +108,7 @@ private:
     const DecodeOptions& options_;
     Outcome& outcome_;
     Path path_;
+    i32 fresh_log_ = -1;   // the refusal that follows a log is the one it tells of
 };
 
 void Decoder::show(Piece piece, u32 position, u32 length, u64 value, const Table& table)
@@ -126,7 +127,8 @@ u32 Decoder::number_at(Piece piece, u32 position, u32 width, const Table& table)
 
 bool Decoder::refuse(const Routine& routine, Refusal refusal, u32 position, u64 value, u64 limit)
 {
-    outcome_.failure = {refusal, routine, path_, position, value, limit};
+    outcome_.failure = {refusal, routine, path_, position, value, limit, fresh_log_};
+    fresh_log_ = -1;
     return false;
 }
 
@@ -137,6 +139,7 @@ void Decoder::log(const Routine& routine, Format format, u32 first, u32 second, 
     event.routine = routine;
     event.format = format;
     event.arguments = {first, second, third};
+    fresh_log_ = static_cast<i32>(outcome_.trace.size());
     outcome_.trace.push_back(event);
 }
 
@@ -321,7 +324,8 @@ bool Decoder::read_octets(const Table& table, const Slot& slot, u32 offset, Fiel
     if (!allocate(table.routine, is_text ? count + 1 : count, field.block))
         return false;
     field.present = true;
-    field.octets.assign(bytes_ + body + 4, bytes_ + body + 4 + count);
+    if (options_.contents)
+        field.octets.assign(bytes_ + body + 4, bytes_ + body + 4 + count);
     show(Piece::payload, body + 4, count, 0, table);
     return true;
 }
@@ -400,7 +404,7 @@ bool Decoder::read_vector(const Table& table, const Slot& slot, u32 offset, Fiel
 
 bool Decoder::read_elements(const Table& table, const Slot& slot, u32 first_cell, const Block& block, Field& field)
 {
-    field.records.reserve(std::min(block.elements_inside, 1024U));
+    field.records.reserve(options_.contents ? std::min(block.elements_inside, 1024U) : 1);
     for (u32 i = 0; i < field.number; ++i) {
         step().element = static_cast<i32>(i);
         if (!read_element(table, slot, first_cell + 4 * i, block, field))
@@ -419,11 +423,12 @@ bool Decoder::read_element(const Table& table, const Slot& slot, u32 cell, const
         log(element, Format::unpack_parameters, 1, length_, 0);
         return refuse(element, Refusal::element_null, cell, target, 0);
     }
-    const u32 number = static_cast<u32>(field.records.size());
+    const u32 number = static_cast<u32>(step().element);
     if (number >= block.elements_inside) {
         return refuse(table.routine, Refusal::element_block, cell, u64{number} + 1, block.elements_inside);
     }
-    field.records.emplace_back();
+    if (options_.contents || field.records.empty())
+        field.records.emplace_back();
     clear(field.records.back(), *slot.nested);
     return read_non_root(*slot.nested, target, field.records.back());
 }

@@ -53,6 +53,7 @@ struct Failure {
     u32 position = 0;   // of the number that is refused, 0 for a parameter
     u64 value = 0;      // the number compared
     u64 limit = 0;      // and what it was compared with
+    i32 log = -1;       // which event of the trace tells of it; -1 for none
 
     explicit operator bool() const { return refusal != Refusal::none; }
 };
@@ -106,6 +107,7 @@ struct DecodeOptions {
     u32 pointer_width = host_pointer_width;   // gives the size of an element's record
     AllocationFaults faults;
     bool record_null = false;
+    bool contents = true;   // false: record and releases are of no use, and stay small whatever the bytes ask for
     Walk* walk = nullptr;
 };
 

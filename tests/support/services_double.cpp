@@ -1,6 +1,7 @@
 #include "tests/support/services_double.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -23,7 +24,8 @@ void ServicesDouble::start()
 
 std::uint32_t ServicesDouble::live_blocks() const
 {
-    return static_cast<std::uint32_t>(std::count_if(blocks_.begin(), blocks_.end(), [](void* block) { return block != nullptr; }));
+    return static_cast<std::uint32_t>(
+        std::count_if(blocks_.begin(), blocks_.end(), [](void* block) { return block != nullptr; }));
 }
 
 void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const char* caller)
@@ -32,14 +34,28 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
     const bool failed = faults.refuses(number, size);
     void* const block = failed ? nullptr : std::malloc(size);
     blocks_.push_back(block);
-    events_.push_back({reference::Act::allocate, caller, nullptr, 0, {}, size, static_cast<std::int32_t>(number), failed,
+    events_.push_back({reference::Act::allocate,
+                       caller,
+                       nullptr,
+                       0,
+                       {},
+                       size,
+                       static_cast<std::int32_t>(number),
+                       failed,
                        module == OSAL_MEMORY_MODULE ? nullptr : "module"});
     return block;
 }
 
 void ServicesDouble::release(void* pointer, std::uint32_t module, const char* caller)
 {
-    Happened event{reference::Act::release, caller, nullptr, 0, {}, 0, -1, false,
+    Happened event{reference::Act::release,
+                   caller,
+                   nullptr,
+                   0,
+                   {},
+                   0,
+                   -1,
+                   false,
                    module == OSAL_MEMORY_MODULE ? nullptr : "module"};
     if (pointer != nullptr) {
         const auto found = std::find(blocks_.begin(), blocks_.end(), pointer);
@@ -58,6 +74,15 @@ void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint3
                          const char* function, const char* format, std::va_list arguments)
 {
     Happened event{reference::Act::log, function, format, code, {}, 0, -1, false, nullptr};
+    if (lines != nullptr) {
+        std::va_list copy;
+        va_copy(copy, arguments);
+        char text[256];
+        std::vsnprintf(text, sizeof text, format, copy);
+        va_end(copy);
+        lines->push_back("level " + std::to_string(level) + " code " + std::to_string(code) + " " + function + ": " +
+                         text);
+    }
     const auto* words = static_cast<const OsalLogDescriptor*>(descriptor);
     if (std::strcmp(words->tag, "KESTO") != 0 || std::strcmp(words->sub_tag, "KESTO_MARLOCK_SERIAL") != 0 ||
         words->value != 25088 || words->spare != 0)
@@ -84,7 +109,8 @@ std::string ServicesDouble::difference(std::size_t i, const reference::Event& ex
     if (event.routine != reference::name_of(expected.routine))
         return std::string("routine ") + event.routine;
     if (event.act == reference::Act::log) {
-        if (std::strcmp(event.format, reference::text_of(expected.format)) != 0 || event.code != reference::code_of(expected.format))
+        if (std::strcmp(event.format, reference::text_of(expected.format)) != 0 ||
+            event.code != reference::code_of(expected.format))
             return "format or code";
         for (std::uint32_t a = 0; a < reference::argument_count(expected.format); ++a)
             if (event.arguments[a] != expected.arguments[a])

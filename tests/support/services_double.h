@@ -16,6 +16,7 @@ class ServicesDouble {
 public:
     std::uint32_t use_flag = 1;                  // what RVL_OsalMemUseFlagGet answers
     reference::AllocationFaults faults;          // which allocations give null
+    std::vector<std::string>* lines = nullptr;   // when set, gets every log line as a process would print it
 
     // Forgets events and allocations; what is still allocated stays so and is forgotten too.
     void start();
@@ -35,19 +36,19 @@ private:
     struct Happened {
         reference::Act act;
         const char* routine;
-        const char* format;                      // of a log
+        const char* format;   // of a log
         std::uint32_t code;
         std::uint32_t arguments[3];
         std::uint32_t size;
-        std::int32_t block;                      // -1 for null
+        std::int32_t block;   // -1 for null
         bool failed;
-        const char* fault;                       // what is wrong with the call in itself; null where nothing is
+        const char* fault;   // what is wrong with the call in itself; null where nothing is
     };
 
     std::string difference(std::size_t i, const reference::Event& expected) const;
 
     std::vector<Happened> events_;
-    std::vector<void*> blocks_;                  // by number; null when failed or released
+    std::vector<void*> blocks_;   // by number; null when failed or released
     std::uint32_t allocations_ = 0;
 };
 

@@ -1,0 +1,98 @@
+// Records as JSON and back: nothing is lost, and nothing is guessed.
+
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "reference/generate.h"
+#include "tests/support/every_message.h"
+#include "tools/kesto/commands.h"
+#include "tools/kesto/json_record.h"
+
+namespace kesto::tests {
+
+namespace {
+
+using command::find_message;
+using reference::Record;
+
+class Json : public EveryMessageTest {};
+
+KESTO_FOR_EVERY_MESSAGE(Json);
+
+TEST_P(Json, of_what_was_decoded_encodes_to_the_same_bytes)
+{
+    reference::Random chance(message().id);
+    const reference::Message& known = *find_message(message().name);
+    for (int round = 0; round < 8; ++round) {
+        const Record record = reference::random_record(known, reference::densities[round % 4], chance);
+        for (const command::Form form : {command::Form::compact, command::Form::fixed}) {
+            if (form == command::Form::fixed && !fixed())
+                continue;
+            const ByteString bytes =
+                form == command::Form::fixed ? reference::fixed_form(record) : reference::compact_form(record);
+            const std::optional<Record> decoded = command::decoded(known, bytes, 1 << 24, "");
+            ASSERT_TRUE(decoded);
+            const std::string text = command::record_json(*decoded).dump();
+            const Record again = command::record_from_json(known, command::parse_json(text, "text"));
+            ASSERT_EQ(difference(*decoded, again), "") << text;
+            ASSERT_EQ(hex(command::encoded(again, form)), hex(bytes)) << text;
+        }
+    }
+}
+
+TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
+{
+    const reference::Message& message = *find_message("ifit_dfx_query_glbdata_item_mesh");
+    for (const char* text : {R"({"f0":null})", R"({"f0":""})", R"({"f0":"\"a\"\n\u00e9"})", R"({"f0":{"hex":"ff"}})",
+                             R"({"f0":{"hex":"c0af"}})", R"({"f0":{"hex":"eda080"}})", R"({"f0":{"hex":"f4908080"}})",
+                             R"({"f0":{"hex":"e282"}})", R"({"f0":{"hex":"610062"}})"}) {
+        const nlohmann::ordered_json json = command::parse_json(text, "text");
+        EXPECT_EQ(command::record_json(command::record_from_json(message, json)), json) << text;
+    }
+}
+
+TEST(JsonText, leaves_what_is_missing_zero)
+{
+    const reference::Message& message = *find_message("ifit_dfx_query_stat_rec_mesh");
+    const Record record = command::record_from_json(message, command::parse_json("{}", "text"));
+    EXPECT_EQ(difference(record, reference::zero_record(message)), "");
+}
+
+TEST(JsonText, that_is_wrong_is_refused_with_the_place)
+{
+    const struct {
+        const char* message;
+        const char* text;
+        const char* place;
+    } cases[] = {
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{},{"f3":{"yaer":1}}]})", ".f1[1].f3.yaer: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{"f3":{"year":65536}}]})", ".f1[0].f3.year: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{"f3":{"month":256}}]})", ".f1[0].f3.month: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{"f3":{"month":-1}}]})", ".f1[0].f3.month: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{"f3":{"month":1.5}}]})", ".f1[0].f3.month: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":[{"f0":"00"}]})", ".f1[0].f0: 1 element instead of 50"},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f1":{}})", ".f1: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f0":null})", ".f0: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"({"f0":{"f3":"0g"}})", ".f0.f3: "},
+        {"ifit_dfx_query_stat_rec_mesh", R"([])", ".: "},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f26":[1,2,3]})", ".f26: 3 elements instead of 4"},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f26":[1,2,3,4294967296]})", ".f26[3]: "},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"18446744073709551616"})", ".f7: "},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"0x1"})", ".f7: "},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: \"f1\" stands twice"},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: no JSON"},
+    };
+    for (const auto& wrong : cases) {
+        try {
+            (void)command::record_from_json(*find_message(wrong.message), command::parse_json(wrong.text, "text"));
+            ADD_FAILURE() << "taken: " << wrong.text;
+        } catch (const command::Fault& fault) {
+            EXPECT_TRUE(std::string_view(fault.what()).starts_with(wrong.place)) << wrong.text << ": " << fault.what();
+        }
+    }
+}
+
+}   // namespace
+
+}   // namespace kesto::tests

@@ -1,0 +1,56 @@
+// The walk of a decoder turned into ranges and notes.
+#pragma once
+
+#include <array>
+#include <unordered_map>
+
+#include "tools/kesto/notes.h"
+
+namespace kesto::command {
+
+// A table that is read again, by another cell, is not followed again: what a few bytes ask the decoder to read a
+// million times would be listed as often.
+class Collector final : public reference::Walk {
+public:
+    Collector(Explanation& explanation, Notes& notes, const ExplainOptions& options)
+        : explanation_(explanation), notes_(notes), options_(options)
+    {
+    }
+
+    void read(const reference::Item& item) override;
+    void finish();
+
+private:
+    struct Table {
+        u32 position = 0;
+        u32 vtable = 0;
+        u32 vtable_length = 0;
+        u32 table_length = 0;
+        bool has_table_length = false;
+        u32 end = 0;   // of what belongs to the table itself
+        const Message* message = nullptr;
+        reference::Path path;
+        u32 reads = 1;
+    };
+
+    bool is_inside_known_table(const reference::Item& item);
+    Table& enter(const reference::Item& item);
+    void note_item(const reference::Item& item, Table& table);
+    void note_vtable(Table& table);
+    void note_text(const reference::Item& item, Table& table);
+    void note_table(const Table& table);
+    void add(const Range& range);
+    Table& table_of(const reference::Item& item);
+    std::string path_text(const reference::Path& path) const { return command::path_text(*explanation_.message, path); }
+
+    Explanation& explanation_;
+    Notes& notes_;
+    const ExplainOptions& options_;
+    std::vector<Table> tables_;
+    std::unordered_map<u64, std::size_t> known_;   // by message and position
+    std::array<std::size_t, reference::greatest_depth + 2> open_{};
+    u32 known_depth_ = 0xffffffffU;   // of the table that is read again
+    Range last_;
+};
+
+}   // namespace kesto::command

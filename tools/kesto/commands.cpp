@@ -1,0 +1,107 @@
+#include "tools/kesto/commands.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "reference/encode.h"
+#include "tools/kesto/json_record.h"
+
+namespace kesto::command {
+
+namespace {
+
+// A writer stops at the NUL.
+void warn_of_cut_text(const Record& record)
+{
+    for (std::size_t k = 0; k < record.fields.size(); ++k) {
+        const reference::Field& field = record.fields[k];
+        const bool is_text = record.message->slots[k].kind == Kind::string;
+        if (is_text && reference::text_length(field.octets) != field.octets.size())
+            fmt::print(stderr, "kesto: {} of {} holds a NUL; text ends there\n", field_name(*record.message, k),
+                       record.message->name);
+        std::for_each(field.records.begin(), field.records.end(), warn_of_cut_text);
+    }
+}
+
+}   // namespace
+
+const Message& message_named(const std::string& name)
+{
+    if (const Message* const found = find_message(name))
+        return *found;
+    const std::vector<std::string> similar = suggestions(name);
+    const std::string hint = similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", "));
+    throw Fault(fmt::format("no message '{}'{}\n`kesto list` shows all, `kesto list PART` those whose name holds PART",
+                            name, hint));
+}
+
+int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
+{
+    Explanation explanation = explain(message, bytes, choices.options);
+    if (explanation.refused || explanation.origin == Origin::other)
+        explanation.written_for = fitting_messages(bytes).written_so;
+    if (!choices.html.empty()) {
+        const std::string page = explanation_html(explanation);
+        write_bytes(choices.html, page.data(), page.size());
+    }
+    if (choices.json)
+        print(explanation_json(explanation).dump(2) + "\n");
+    else if (choices.html.empty())
+        print(explanation_text(explanation, {colours_for(choices.colour), choices.whole}));
+    return explanation.refused ? refused : accepted;
+}
+
+std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
+                              const std::string& where)
+{
+    const Explanation explanation = explain(message, bytes, {.most_ranges = 0, .most_memory = 0});
+    if (explanation.refused) {
+        fmt::print(stderr, "{}{}", where.empty() ? "" : where + ": ", refused_text(explanation, {}));
+        return {};
+    }
+    if (explanation.memory > most_memory)
+        throw Fault(fmt::format("decoding takes {} of memory, allowed are {}; --memory allows more",
+                                counted(explanation.memory, "byte"), most_memory));
+    reference::Outcome outcome;
+    reference::decode(message, bytes.data(), static_cast<u32>(bytes.size()), {}, outcome);
+    return outcome.record;
+}
+
+int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices)
+{
+    const std::optional<Record> record = decoded(message, bytes, choices.most_memory, "");
+    if (!record)
+        return refused;
+    print(record_json(*record).dump(choices.compact_json ? -1 : 2) + "\n");
+    return accepted;
+}
+
+Bytes encoded(const Record& record, Form form)
+{
+    const Message& message = *record.message;
+    const bool has_fixed = message.fixed_length != 0;
+    if (form == Form::fixed && !has_fixed)
+        throw Fault(message.name + " has no fixed form: it holds a string, bytes or a vector");
+    const bool fixed = form == Form::fixed || (form == Form::as_sent && has_fixed);
+    return fixed ? reference::fixed_form(record) : reference::compact_form(record);
+}
+
+int encode_json(const Message& message, const std::string& text, const std::string& where, const EncodeChoices& choices)
+{
+    const Record record = record_from_json(message, parse_json(text, where));
+    warn_of_cut_text(record);
+    const Bytes bytes = encoded(record, choices.form);
+    const bool to_terminal = choices.output == "-" && is_terminal_output();
+    if (choices.hex || to_terminal) {
+        const std::string line = to_hex(bytes.data(), bytes.size(), " ") + "\n";
+        write_bytes(choices.output, line.data(), line.size());
+    } else {
+        write_bytes(choices.output, bytes.data(), bytes.size());
+    }
+    return accepted;
+}
+
+}   // namespace kesto::command

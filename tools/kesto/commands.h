@@ -1,0 +1,78 @@
+// What the sub-commands do with a message and its bytes. All return the program's result: 0 accepted or the same,
+// 1 refused or different.
+#pragma once
+
+#include "tools/kesto/explain.h"
+#include "tools/kesto/input.h"
+
+namespace kesto::command {
+
+enum Result { accepted = 0, refused = 1, unusable = 2 };
+
+struct ExplainChoices {
+    ExplainOptions options;
+    ColourChoice colour = ColourChoice::automatic;
+    bool json = false;
+    bool whole = false;
+    std::string html;   // the file to write, empty for none
+};
+
+int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices);
+
+// Without a message: what the bytes themselves tell.
+int explain_raw(std::span<const u8> bytes);
+
+// The messages whose writers leave just these bytes, and all that accept them. None for more than 1 MiB.
+struct Fitting {
+    std::vector<std::string> written_so;
+    std::vector<std::string> accepted;
+};
+
+Fitting fitting_messages(std::span<const u8> bytes);
+
+struct DecodeChoices {
+    u64 most_memory = 16 << 20;   // of a record; its JSON takes many times that
+    bool compact_json = false;    // in one line
+};
+
+int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices);
+
+enum class Form { as_sent, compact, fixed };
+
+struct EncodeChoices {
+    Form form = Form::as_sent;
+    std::string output = "-";
+    bool hex = false;
+};
+
+int encode_json(const Message& message, const std::string& text, const std::string& where,
+                const EncodeChoices& choices);
+
+struct DiffChoices {
+    ColourChoice colour = ColourChoice::automatic;
+    bool json = false;
+};
+
+int compare(const Record& left, const Record& right, const DiffChoices& choices);
+
+struct ListChoices {
+    bool names = false;   // nothing but names, one a line
+    bool json = false;
+};
+
+int list_messages(const std::string& pattern, const ListChoices& choices);
+int show_message(const Message& message, bool json);
+int show_sizes(const Message& message, bool json);
+int show_sizes(const Record& record, bool json);
+
+// What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record.
+std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
+                              const std::string& where);
+
+// The bytes that X__pack writes or that are sent. Throws a Fault if the message has no fixed form.
+Bytes encoded(const Record& record, Form form);
+
+// Throws a Fault with names that are like the mistyped one.
+const Message& message_named(const std::string& name);
+
+}   // namespace kesto::command

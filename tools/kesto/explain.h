@@ -1,0 +1,24 @@
+// Printers of an explanation.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+
+#include "tools/kesto/explanation.h"
+#include "tools/kesto/terminal.h"
+
+namespace kesto::command {
+
+struct TextOptions {
+    Colours colours;
+    bool whole = false;   // long payloads to the last byte
+};
+
+std::string explanation_text(const Explanation& explanation, const TextOptions& options);
+std::string refused_text(const Explanation& explanation, const Colours& colours);   // the verdict alone
+nlohmann::ordered_json explanation_json(const Explanation& explanation);
+std::string explanation_html(const Explanation& explanation);   // a page that needs nothing else
+
+// The library's log line: "level 2 code 22 ifit_mcp_mesh_unpack: ...".
+std::string log_line(const reference::Event& log);
+
+}   // namespace kesto::command

@@ -1,0 +1,42 @@
+# Completion of kesto for bash: sub-commands, options, names of messages, files.
+
+_kesto()
+{
+    local program=${COMP_WORDS[0]} command=${COMP_WORDS[1]} word=${COMP_WORDS[COMP_CWORD]} i words=0
+    local before=${COMP_WORDS[COMP_CWORD - 1]}
+    COMPREPLY=()
+    if ((COMP_CWORD == 1)); then
+        mapfile -t COMPREPLY < <(compgen -W "explain decode encode diff list show size --help --version" -- "$word")
+        return
+    fi
+    case $before in
+        --color) mapfile -t COMPREPLY < <(compgen -W "auto always never" -- "$word"); return ;;
+        --input-format) mapfile -t COMPREPLY < <(compgen -W "auto bytes hex" -- "$word"); return ;;
+        --form) mapfile -t COMPREPLY < <(compgen -W "sent compact fixed" -- "$word"); return ;;
+        --pointers) mapfile -t COMPREPLY < <(compgen -W "32 64" -- "$word"); return ;;
+        -o | --output | --html) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --memory) return ;;
+        --hex) [[ $command == encode ]] || return ;;
+    esac
+    if [[ $word == -* ]]; then
+        mapfile -t COMPREPLY < <(compgen -W "$("$program" "$command" --help 2>/dev/null |
+            grep -oE '^ +-[-a-z,]+' | tr ',' ' ')" -- "$word")
+        return
+    fi
+    for ((i = 2; i < COMP_CWORD; ++i)); do
+        case ${COMP_WORDS[i]} in
+            --color | --input-format | --form | --pointers | -o | --output | --html | --memory) ((++i)) ;;
+            --hex) [[ $command == encode ]] || ((++i)) ;;
+            --raw) ((++words)) ;;   # stands for the message
+            -?*) ;;
+            *) ((++words)) ;;
+        esac
+    done
+    if ((words == 0)); then
+        mapfile -t COMPREPLY < <(compgen -W "$("$program" list --names 2>/dev/null)" -- "$word")
+    else
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+    fi
+}
+
+complete -o filenames -F _kesto kesto

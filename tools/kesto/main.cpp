@@ -1,0 +1,289 @@
+// kesto: explains, decodes, encodes and compares byte strings of the catalogue's messages.
+
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "tools/kesto/commands.h"
+#include "tools/kesto/json_record.h"
+
+namespace {
+
+using namespace kesto::command;
+
+const std::map<std::string, InputFormat> input_formats{
+    {"auto", InputFormat::automatic}, {"bytes", InputFormat::bytes}, {"hex", InputFormat::hex}};
+const std::map<std::string, ColourChoice> colour_choices{
+    {"auto", ColourChoice::automatic}, {"always", ColourChoice::always}, {"never", ColourChoice::never}};
+const std::map<std::string, Form> forms{{"sent", Form::as_sent}, {"compact", Form::compact}, {"fixed", Form::fixed}};
+
+template <class Value>
+CLI::Option* add_choice(CLI::App& app, const std::string& name, Value& value,
+                        const std::map<std::string, Value>& values, const std::string& help)
+{
+    std::vector<std::string> words;
+    for (const auto& [word, meaning] : values)
+        words.push_back(word);
+    return app
+        .add_option_function<std::string>(
+            name, [&value, &values](const std::string& word) { value = values.at(word); }, help)
+        ->check(CLI::IsMember(words))
+        ->type_name("WORD");
+}
+
+void add_colour(CLI::App& app, ColourChoice& colour)
+{
+    add_choice(app, "--color", colour, colour_choices, "colours; auto: on a terminal, without NO_COLOR");
+}
+
+void add_format(CLI::App& app, InputFormat& format)
+{
+    add_choice(app, "--input-format", format, input_formats, "how files hold bytes; auto takes hex text for hex");
+}
+
+void add_memory(CLI::App& app, u64& most)
+{
+    app.add_option("--memory", most, "do not decode what takes more bytes of memory (16 MiB)")->type_name("BYTES");
+}
+
+// What `explain` and `decode` read.
+struct Source {
+    std::string message;
+    std::string file = "-";
+    std::optional<std::string> hex;
+    InputFormat format = InputFormat::automatic;
+
+    void add_to(CLI::App& app)
+    {
+        app.add_option("MESSAGE", message, "name or id of the message");
+        CLI::Option* const path = app.add_option("FILE", file, "the byte string; - for standard input (the default)");
+        add_format(app, format);
+        app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"")
+            ->type_name("TEXT")
+            ->excludes(path);
+    }
+
+    const Message& message_meant() const
+    {
+        if (message.empty())
+            throw Fault("a MESSAGE is needed, by name or id; `kesto explain --raw` does without");
+        return message_named(message);
+    }
+
+    // The only word of a command line that names no message.
+    void take_message_for_file()
+    {
+        if (!message.empty() && (file != "-" || hex))
+            throw Fault("--raw takes a FILE and no MESSAGE");
+        if (!message.empty())
+            file = message;
+    }
+
+    Bytes bytes() const { return hex ? bytes_from_hex(*hex) : read_bytes(file, format); }
+};
+
+struct Explain {
+    Source source;
+    ExplainChoices choices;
+    bool raw = false;
+
+    explicit Explain(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("explain", "Show what every byte means, and which check refuses them");
+        source.add_to(self);
+        add_colour(self, choices.colour);
+        CLI::Option* const json = self.add_flag("--json", choices.json, "print JSON");
+        CLI::Option* const html = self.add_option("--html", choices.html, "write a page to look at in a browser");
+        html->type_name("FILE");
+        self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")
+            ->excludes(json)
+            ->excludes(html);
+        self.add_flag("--all", choices.whole, "show long payloads to the last byte");
+        self.add_option_function<u32>(
+                "--pointers", [this](u32 bits) { choices.options.pointer_width = bits / 8; },
+                "reckon memory for a process of 32 or 64 bits")
+            ->check(CLI::IsMember({32, 64}))
+            ->type_name("WORD");
+    }
+
+    int run()
+    {
+        if (raw) {
+            source.take_message_for_file();
+            return explain_raw(source.bytes());
+        }
+        const Message& message = source.message_meant();
+        return explain_bytes(message, source.bytes(), choices);
+    }
+};
+
+struct Decode {
+    Source source;
+    DecodeChoices choices;
+
+    explicit Decode(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("decode", "Print the record as JSON");
+        source.add_to(self);
+        self.add_flag("--line", choices.compact_json, "all in one line");
+        add_memory(self, choices.most_memory);
+    }
+
+    int run() const
+    {
+        const Message& message = source.message_meant();
+        return decode_bytes(message, source.bytes(), choices);
+    }
+};
+
+struct Encode {
+    std::string message;
+    std::string file = "-";
+    EncodeChoices choices;
+
+    explicit Encode(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("encode", "Write the bytes of a record that is given as JSON");
+        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("FILE", file, "the JSON; - for standard input (the default)");
+        add_choice(self, "--form", choices.form, forms, "compact as X__pack writes it, fixed, or the one that is sent");
+        self.add_option("-o,--output", choices.output, "the file to write")->type_name("FILE");
+        self.add_flag("--hex", choices.hex, "write hex text; a terminal gets it anyway");
+    }
+
+    int run() const
+    {
+        const Message& meant = message_named(message);
+        return encode_json(meant, read_text(file), file, choices);
+    }
+};
+
+struct Diff {
+    std::string message, left, right;
+    InputFormat format = InputFormat::automatic;
+    DiffChoices choices;
+    u64 most_memory = DecodeChoices{}.most_memory;
+
+    explicit Diff(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("diff", "Compare the records of two byte strings, whatever their forms");
+        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("A", left, "a byte string; - for standard input")->required();
+        self.add_option("B", right, "another")->required();
+        add_format(self, format);
+        add_colour(self, choices.colour);
+        self.add_flag("--json", choices.json, "print JSON");
+        add_memory(self, most_memory);
+    }
+
+    Record read(const std::string& file) const
+    {
+        const Bytes bytes = read_bytes(file, format);
+        std::optional<Record> record = decoded(message_named(message), bytes, most_memory, file);
+        if (!record)
+            throw Fault("refused, so there is nothing to compare");
+        return *record;
+    }
+
+    int run() const { return compare(read(left), read(right), choices); }
+};
+
+struct List {
+    std::string pattern;
+    ListChoices choices;
+
+    explicit List(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("list", "List the messages with ids and lengths");
+        self.add_option("PATTERN", pattern, "only those whose name or id holds this");
+        self.add_flag("--names", choices.names, "names only");
+        self.add_flag("--json", choices.json, "print JSON");
+    }
+
+    int run() const { return list_messages(pattern, choices); }
+};
+
+struct Show {
+    std::string message;
+    bool json = false;
+
+    explicit Show(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("show", "Show a message's slots, record and wire forms");
+        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_flag("--json", json, "print JSON");
+    }
+
+    int run() const { return show_message(message_named(message), json); }
+};
+
+struct Size {
+    std::string message, file;
+    bool json = false;
+
+    explicit Size(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("size", "Show the lengths of a message, or of a record given as JSON");
+        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("FILE", file, "the JSON; - for standard input");
+        self.add_flag("--json", json, "print JSON");
+    }
+
+    int run() const
+    {
+        const Message& meant = message_named(message);
+        if (file.empty())
+            return show_sizes(meant, json);
+        return show_sizes(record_from_json(meant, parse_json(read_text(file), file)), json);
+    }
+};
+
+int run(int argc, char** argv)
+{
+    CLI::App app("Explains, decodes, encodes and compares KESTO byte strings.", "kesto");
+    app.require_subcommand(1);
+    app.set_version_flag("--version", KESTO_VERSION);
+    app.failure_message(CLI::FailureMessage::simple);
+    Explain explain(app);
+    Decode decode(app);
+    Encode encode(app);
+    Diff diff(app);
+    List list(app);
+    Show show(app);
+    Size size(app);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? 0 : unusable;
+    }
+    const std::string& chosen = app.get_subcommands().front()->get_name();
+    if (chosen == "explain")
+        return explain.run();
+    if (chosen == "decode")
+        return decode.run();
+    if (chosen == "encode")
+        return encode.run();
+    if (chosen == "diff")
+        return diff.run();
+    if (chosen == "list")
+        return list.run();
+    if (chosen == "show")
+        return show.run();
+    return size.run();
+}
+
+}   // namespace
+
+int main(int argc, char** argv)
+{
+    try {
+        return run(argc, argv);
+    } catch (const Fault& fault) {
+        fmt::print(stderr, "kesto: {}\n", fault.what());
+    } catch (const std::exception& error) {
+        fmt::print(stderr, "kesto: {}\n", error.what());
+    }
+    return unusable;
+}

@@ -1,0 +1,141 @@
+#include "tools/kesto/messages.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <charconv>
+#include <numeric>
+#include <stdexcept>
+
+namespace kesto::command {
+
+namespace {
+
+std::string slot_word(const tools::SlotInfo& slot)
+{
+    if (slot.nested == nullptr)
+        return tools::slot_text(slot);
+    const char* const head = slot.kind == tools::SlotKind::vector ? "vector"
+                             : slot.fault_ends_read               ? "table"
+                                                                  : "table?";
+    return fmt::format("{}:{}", head, slot.nested->name);
+}
+
+// The text form of a catalogue, which tests/data/messages.txt explains.
+std::string catalogue_text()
+{
+    std::string text;
+    for (const tools::ModuleInfo& module : tools::modules()) {
+        text += fmt::format("module {}\n", module.name);
+        for (const tools::MessageInfo* message : module.messages) {
+            text += fmt::format("{} {:#010x} ", message->name, message->id);
+            text += message->has_heap_parts ? "compact :" : fmt::format("fixed {} :", message->fixed_length);
+            for (const tools::SlotInfo& slot : message->slots)
+                text += " " + slot_word(slot);
+            text += "\n";
+        }
+    }
+    return text;
+}
+
+std::vector<const tools::MessageInfo*> infos_in_order()
+{
+    std::vector<const tools::MessageInfo*> all;
+    for (const tools::ModuleInfo& module : tools::modules())
+        all.insert(all.end(), module.messages.begin(), module.messages.end());
+    return all;
+}
+
+// Letters to insert, delete or replace.
+std::size_t distance(std::string_view left, std::string_view right)
+{
+    std::vector<std::size_t> row(right.size() + 1);
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (std::size_t i = 0; i < left.size(); ++i) {
+        std::size_t diagonal = i;
+        row[0] = i + 1;
+        for (std::size_t j = 0; j < right.size(); ++j) {
+            const std::size_t replaced = diagonal + (left[i] == right[j] ? 0 : 1);
+            diagonal = row[j + 1];
+            row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
+        }
+    }
+    return row[right.size()];
+}
+
+}   // namespace
+
+const reference::Catalogue& catalogue()
+{
+    static const reference::Catalogue built = [] {
+        reference::Catalogue empty;
+        std::string error;
+        if (!empty.add(catalogue_text(), error))
+            throw std::logic_error("the catalogue, " + error);
+        return empty;
+    }();
+    return built;
+}
+
+const tools::MessageInfo& info_of(const Message& message)
+{
+    static const std::vector<const tools::MessageInfo*> by_number = infos_in_order();
+    return *by_number[message.index];
+}
+
+const std::string& field_name(const Message& message, std::size_t slot) { return info_of(message).slots[slot].field; }
+
+std::string slot_type(const Message& message, std::size_t slot)
+{
+    return tools::slot_text(info_of(message).slots[slot]);
+}
+
+std::string path_text(const Message& root, const reference::Path& path)
+{
+    std::string text;
+    const Message* message = &root;
+    for (u32 i = 0; i < path.length; ++i) {
+        const reference::Path::Step& step = path.steps[i];
+        text += "." + field_name(*message, step.slot);
+        if (step.element >= 0)
+            text += fmt::format("[{}]", step.element);
+        message = message->slots[step.slot].nested;
+    }
+    return text.empty() ? "." : text;
+}
+
+const Message* find_message(std::string_view name_or_id)
+{
+    if (const Message* const named = catalogue().find(name_or_id))
+        return named;
+    const bool hex = name_or_id.starts_with("0x") || name_or_id.starts_with("0X");
+    if (hex)
+        name_or_id.remove_prefix(2);
+    u32 id = 0;
+    const char* const end = name_or_id.data() + name_or_id.size();
+    const auto [stop, fault] = std::from_chars(name_or_id.data(), end, id, hex ? 16 : 10);
+    return fault == std::errc() && stop == end ? catalogue().find(id) : nullptr;
+}
+
+std::vector<std::string> suggestions(std::string_view name)
+{
+    struct Candidate {
+        std::size_t score;
+        const std::string* name;
+    };
+    std::vector<Candidate> near;
+    for (const Message& message : catalogue().messages) {
+        const std::size_t letters = distance(name, message.name);
+        const bool holds = name.size() >= 3 && message.name.find(name) != std::string::npos;
+        if (holds || letters <= std::max<std::size_t>(2, name.size() / 5))
+            near.push_back({letters, &message.name});
+    }
+    std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.score < b.score; });
+    near.resize(std::min<std::size_t>(near.size(), 5));
+    std::vector<std::string> names;
+    for (const Candidate& candidate : near)
+        names.push_back(*candidate.name);
+    return names;
+}
+
+}   // namespace kesto::command

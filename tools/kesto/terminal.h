@@ -1,0 +1,31 @@
+// Colours, where they are wanted.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kesto::command {
+
+enum class ColourChoice { automatic, always, never };
+
+struct Colours {
+    bool on = false;
+
+    std::string wrap(const char* code, std::string_view text) const
+    {
+        return on ? std::string("\033[") + code + "m" + std::string(text) + "\033[0m" : std::string(text);
+    }
+    std::string faint(std::string_view text) const { return wrap("2", text); }
+    std::string bold(std::string_view text) const { return wrap("1", text); }
+    std::string good(std::string_view text) const { return wrap("1;32", text); }
+    std::string bad(std::string_view text) const { return wrap("1;31", text); }
+    std::string odd(std::string_view text) const { return wrap("33", text); }
+    std::string name(std::string_view text) const { return wrap("36", text); }
+};
+
+bool is_terminal_output();
+
+// Automatic: on a terminal, unless NO_COLOR is set or TERM is "dumb".
+Colours colours_for(ColourChoice choice);
+
+}   // namespace kesto::command

@@ -1,0 +1,223 @@
+#include <fmt/format.h>
+
+#include "tools/kesto/explanation.h"
+
+namespace kesto::command {
+
+namespace {
+
+using reference::Failure;
+using reference::Refusal;
+
+struct Rule {
+    const char* demand;
+    const char* comparison;   // {0} the value, {1} the limit
+};
+
+Rule rule_of(Refusal refusal)
+{
+    constexpr const char* ends = "it ends at {0}, the byte string at {1}";
+    constexpr const char* leads = "the cell at {1} leads to {0}, reckoned modulo 2^32";
+    switch (refusal) {
+    case Refusal::none: break;
+    case Refusal::buffer_null: return {"there is a byte string", ""};
+    case Refusal::record_null: return {"there is a record", ""};
+    case Refusal::length_below_4: return {"a byte string has 4 bytes or more, and less than 2^31", "it has {0}"};
+    case Refusal::table_position:
+        return {"a table begins behind the root and 4 bytes before the end or earlier",
+                "it begins at {0}, which has to be from 4 to {1}"};
+    case Refusal::vtable_position:
+        return {"a vtable begins behind the root and 4 bytes before the end or earlier",
+                "it begins at {0}, which has to be from 4 to {1}"};
+    case Refusal::vtable_length:
+        return {"a vtable ends within the byte string", "its length is {0}, the byte string has {1} from there"};
+    case Refusal::scalar_end: return {"a scalar ends within the byte string", ends};
+    case Refusal::cell_end: return {"a cell ends within the byte string", ends};
+    case Refusal::reference_wrap:
+    case Refusal::nested_wrap:
+    case Refusal::element_wrap: return {"a cell leads to a position behind it and below 2^32", leads};
+    case Refusal::reference_range:
+        return {"the length or count that a cell leads to ends within the byte string", ends};
+    case Refusal::array_count:
+        return {"an array has exactly as many elements as its message says", "it has {0}, the message says {1}"};
+    case Refusal::count_range: return {"a count is less than 2^30", "it is {0}, the limit {1}"};
+    case Refusal::body_end: return {"what a length or count announces ends within the byte string", ends};
+    case Refusal::element_null: return {"the size of all elements, modulo 2^32, is not 0", ""};
+    case Refusal::element_block:
+        return {"all elements fit the block whose size was reckoned modulo 2^32",
+                "this is element number {0}, there is room for {1}"};
+    case Refusal::allocation: return {"the memory is there", "{0} bytes were asked for"};
+    }
+    return {"", ""};
+}
+
+std::string slot_range_text(const Message& message)
+{
+    const std::size_t count = message.slots.size();
+    return count == 1 ? "slot 0" : fmt::format("slots 0 to {}", count - 1);
+}
+
+std::string vtable_text(const Range& range)
+{
+    const u64 held = range.value < 6 ? 0 : range.value / 2 - 2;
+    if (held == range.message->slots.size())
+        return fmt::format("{}: {}", range.value, slot_range_text(*range.message));
+    return fmt::format("{}: {} of {}", range.value, held, counted(range.message->slots.size(), "slot"));
+}
+
+const Slot& slot_of(const Range& range) { return range.message->slots[range.path.steps[range.path.length - 1].slot]; }
+
+std::size_t slot_number(const Range& range) { return range.path.steps[range.path.length - 1].slot; }
+
+constexpr std::size_t most_in_a_value = 100;
+
+std::string payload_text(const Explanation& explanation, const Range& range)
+{
+    const u8* const bytes = explanation.bytes.data() + range.position;
+    const Slot& slot = slot_of(range);
+    std::string text;
+    if (slot.kind == Kind::string) {
+        text = quoted(bytes, std::min<std::size_t>(range.length, most_in_a_value));
+        return range.length > most_in_a_value ? text + "..." : text;
+    }
+    if (slot.width != 4)
+        return counted(range.length, "byte");
+    for (u32 i = 0; i < range.length; i += 4) {
+        if (text.size() > most_in_a_value)
+            return text + ", ...";
+        text += fmt::format("{}{}", i == 0 ? "" : ", ", reference::get32(bytes + i));
+    }
+    return text;
+}
+
+}   // namespace
+
+std::string counted(u64 count, const char* thing)
+{
+    return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
+}
+
+std::string quoted(const u8* text, std::size_t length)
+{
+    const bool is_text = is_utf8(text, length);
+    std::string out = "\"";
+    for (std::size_t i = 0; i < length; ++i) {
+        const char character = static_cast<char>(text[i]);
+        if (character == '"' || character == '\\')
+            out += fmt::format("\\{}", character);
+        else if (text[i] < ' ' || text[i] == 0x7f || (text[i] >= 0x80 && !is_text))
+            out += fmt::format("\\x{:02x}", text[i]);
+        else if (text[i] == 0xc2 && text[i + 1] < 0xa0)   // control characters of two bytes
+            out += fmt::format("\\u{:04x}", text[++i]);
+        else
+            out += character;
+    }
+    return out + "\"";
+}
+
+// Well-formed: no overlong form, no surrogate, nothing above U+10FFFF.
+bool is_utf8(const u8* text, std::size_t length)
+{
+    for (std::size_t i = 0; i < length;) {
+        const u8 lead = text[i++];
+        if (lead < 0x80)
+            continue;
+        const std::size_t more = lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : 1;
+        if (lead < 0xc2 || lead > 0xf4 || more > length - i)
+            return false;
+        const u8 lowest = lead == 0xe0 ? 0xa0 : lead == 0xf0 ? 0x90 : 0x80;
+        const u8 highest = lead == 0xed ? 0x9f : lead == 0xf4 ? 0x8f : 0xbf;
+        if (text[i] < lowest || text[i] > highest)
+            return false;
+        for (const std::size_t end = i + more; i < end; ++i)
+            if (text[i] < 0x80 || text[i] > 0xbf)
+                return false;
+    }
+    return true;
+}
+
+std::string path_text(const Explanation& explanation, const Range& range)
+{
+    return path_text(*explanation.message, range.path);
+}
+
+std::string kind_text(const Range& range)
+{
+    switch (range.part) {
+    case Part::root: return "root";
+    case Part::table: return "table";
+    case Part::vtable_length: return "vtable length";
+    case Part::table_length: return "table length";
+    case Part::slot: return "slot";
+    case Part::scalar:
+    case Part::payload: return slot_type(*range.message, slot_number(range));
+    case Part::cell:
+    case Part::element_cell: return "cell";
+    case Part::count: {
+        const Kind kind = slot_of(range).kind;
+        return kind == Kind::string || kind == Kind::bytes ? "length" : "count";
+    }
+    case Part::vtable_rest: return "vtable";
+    case Part::text_end: return "NUL";
+    case Part::padding: return "padding";
+    case Part::unread: break;
+    }
+    return "-";
+}
+
+std::string value_text(const Explanation& explanation, const Range& range)
+{
+    const u32 value = static_cast<u32>(range.value);
+    switch (range.part) {
+    case Part::root: return fmt::format("table at {}", value);
+    case Part::table:
+        return fmt::format("vtable at {} {} {} = {}", range.position, value > 0x7fffffff ? '+' : '-',
+                           value > 0x7fffffff ? 0 - value : value, range.position - value);
+    case Part::vtable_length: return vtable_text(range);
+    case Part::table_length: return fmt::format("{}", value);
+    case Part::slot:
+        return value == 0 ? "absent" : fmt::format("at {} + {} = {}", range.table, value, range.table + value);
+    case Part::scalar:
+        return range.value < 10 ? fmt::format("{}", range.value) : fmt::format("{0} = {0:#x}", range.value);
+    case Part::cell:
+    case Part::element_cell: return fmt::format("to {} + {} = {}", range.position, value, u64{range.position} + value);
+    case Part::count: return fmt::format("{}", value);
+    case Part::payload: return payload_text(explanation, range);
+    case Part::vtable_rest: return "not read: the message has no such slot";
+    case Part::text_end: return "behind the text, not counted";
+    case Part::padding: return "not read";
+    case Part::unread: break;
+    }
+    if (explanation.refused)
+        return "not reached";
+    return explanation.left_out == 0 ? "not read" : "not read, or read and not listed";
+}
+
+std::string rule_text(const Failure& failure) { return rule_of(failure.refusal).demand; }
+
+std::string comparison_text(const Failure& failure)
+{
+    return fmt::format(fmt::runtime(rule_of(failure.refusal).comparison), failure.value, failure.limit);
+}
+
+std::string place_text(const Note& note)
+{
+    if (note.path.empty())
+        return "";
+    return note.path == "." ? fmt::format(" at {}", note.position)
+                            : fmt::format(" at {}, {}", note.position, note.path);
+}
+
+std::string origin_text(Origin origin)
+{
+    switch (origin) {
+    case Origin::unknown: break;
+    case Origin::compact: return "compact form, just as it is written";
+    case Origin::compact_with_rest: return "compact form, with 8 bytes more for each empty block behind a pointer";
+    case Origin::fixed: return "fixed form, just as it is sent";
+    case Origin::other: return "neither form as this library writes it";
+    }
+    return "not compared with what the library writes";
+}
+
+}   // namespace kesto::command
