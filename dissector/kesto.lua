@@ -9,7 +9,7 @@
 -- u32 sums are exact in all versions of Lua and cut to 32 bits by hand.
 
 local head_length = 8
-local most_shown = 20000 -- items in a packet's tree; a text or a block counts once more for each 16 bytes
+local most_shown = 20000 -- items in a packet's tree; a text or a block counts once more for each 64 bytes
 local two_to_32 = 4294967296
 
 -- Messages: name, id, slots as field:slot. In the order of the catalogue, so that a nested message stands in front.
@@ -406,7 +406,7 @@ function Reader:range(at, length)
 end
 
 function Reader:may_show(tree, length)
-    self.left = self.left - 1 - math.floor(length / 16)
+    self.left = self.left - 1 - math.floor(length / 64)
     return tree ~= nil and self.left >= 0
 end
 
