@@ -20,7 +20,8 @@ constexpr std::uint64_t report_every = 1 << 20;
 std::string link_type_text(int type)
 {
     const char* const name = pcap_datalink_val_to_name(type);
-    return (name == nullptr ? "" : std::string(name) + " ") + "(" + std::to_string(type) + ")";
+    const std::string number = std::to_string(type);
+    return name == nullptr ? number : name + (" (" + number + ")");
 }
 
 PacketFault fault_of(const pcap_pkthdr& head, const u_char* bytes)
@@ -79,8 +80,7 @@ bool CaptureReader::open(const std::string& path, std::string& error)
     }
     const int link_type = pcap_datalink(handle_.get());
     if (link_type != DLT_USER0) {
-        error = name_ + ": the capture has link type " + link_type_text(link_type) + "; messages are in captures of " +
-                link_type_text(DLT_USER0);
+        error = name_ + ": the capture has link type " + link_type_text(link_type) + ", not USER0 (147)";
         handle_.reset();
         return false;
     }
