@@ -375,7 +375,8 @@ local messages = {} -- by id
 for _, line in ipairs(catalogue) do
     local name, id, slots = line[1], line[2], line[3]
     slots_of_message[name] = slots
-    messages[id] = { name = name, slots = make_slots("kesto." .. name, name) }
+    local path = "kesto." .. name
+    messages[id] = { name = name, field = declare(ProtoField.none(path, name)), slots = make_slots(path, name) }
 end
 
 kesto.fields = all_fields
@@ -476,13 +477,8 @@ function Reader:open_table(tree, position, field, label)
     if position < 4 or position > last then
         return self:refuse(tree, "table_position", position, position, last)
     end
-    local item
-    if field then
-        item = self:show(tree, field, position, 4)
-        append(item, "%s, table at %d", label, position)
-    else
-        item = self:heading(tree, position, 4, "table at %d", position)
-    end
+    local item = self:show(tree, field, position, 4)
+    append(item, "%s, table at %d", label, position)
     local distance = self:word_at(item, "vtable_offset", position, 4)
     local vtable = (position - distance) % two_to_32
     append(item, ", vtable at %d", vtable)
@@ -683,7 +679,7 @@ function Reader:read_message(message)
         return self:refuse(self.root_item, "length_below_4", 0, self.length, 4)
     end
     local root = self:word_at(self.root_item, "root", 0, 4)
-    return self:read_table(self.root_item, message, root)
+    return self:read_table(self.root_item, message, root, message.field, "")
 end
 
 -- ---- one packet ----
