@@ -744,4 +744,4 @@ function kesto.dissector(buffer, pinfo, tree)
     return buffer:captured_len()
 end
 
-DissectorTable.get("wtap_encap"):add(wtap.USER0, kesto)
+DissectorTable.get("wtap_encap"):add(wtap_encaps.USER0, kesto)

@@ -193,8 +193,9 @@ void take_tag(const std::string& tag, Shown& shown)
     std::string* const stop = name.starts_with("kesto.refused")   ? &shown.refused
                               : name.starts_with("kesto.ignored") ? &shown.ignored
                                                                   : nullptr;
-    if (name ==
-        "kesto.refused.position")   // has its parent's range; of items in front of their parent `pos` is another
+    // Below the refusal and with its range. The refusal itself may stand in front of the table that shows it, and the
+    // analyser prints another `pos` for such items.
+    if (name == "kesto.refused.position")
         shown.refused_at = std::stoull(attribute(tag, "pos"));
     if (name.starts_with("_ws.lua.error"))
         shown.error += tag;
@@ -304,7 +305,7 @@ protected:
         }
         std::vector<Shown> all;
         dissect([&](Shown&& shown) {
-            if (all.size() < cases.size())
+            if (all.size() < cases.size() && !HasFailure())   // the first failure says enough
                 compare(cases[all.size()], shown);
             all.push_back(std::move(shown));
         });
@@ -469,6 +470,7 @@ TEST_F(Dissector, names_packets_that_are_no_messages_as_the_reader_does)
     ++cut.length_on_the_wire;
     add_packet(capture, cut);
     add_packet(capture, packet_of(id, bytes));
+    add_packet(capture, packet_of(5, bytes));
     write_file(path, capture);
 
     tools::CaptureReader reader;
@@ -477,12 +479,14 @@ TEST_F(Dissector, names_packets_that_are_no_messages_as_the_reader_does)
     tools::CapturedPacket packet;
     dissect([&](const Shown& shown) {
         ASSERT_TRUE(reader.next(packet, error));
-        const bool is_message = packet.fault == tools::PacketFault::none;
-        EXPECT_EQ(shown.fault, is_message ? "" : name_of(packet.fault)) << "packet " << packet.number;
-        EXPECT_EQ(shown.fields.empty(), !is_message);
+        const std::string fault = packet.id == 5                             ? "unknown_id"
+                                  : packet.fault == tools::PacketFault::none ? ""
+                                                                             : name_of(packet.fault);
+        EXPECT_EQ(shown.fault, fault) << "packet " << packet.number;
+        EXPECT_EQ(shown.fields.empty(), !fault.empty());
     });
     EXPECT_FALSE(reader.next(packet, error));
-    EXPECT_EQ(packet.number, 7u);
+    EXPECT_EQ(packet.number, 8u);
 }
 
 TEST_F(Dissector, finds_messages_by_their_fields)

@@ -44,9 +44,8 @@ struct Lock {
 void report(const char* name, const char* what)
 {
     char line[PATH_MAX + 256];
-    const int wanted = snprintf(line, sizeof line, "mesh stand-in: no capture to %s: %s\n", name, what);
-    if (wanted > 0) [[maybe_unused]]
-        const ssize_t ignored = write(STDERR_FILENO, line, strlen(line));
+    snprintf(line, sizeof line, "mesh stand-in: no capture to %s: %s\n", name, what);
+    [[maybe_unused]] const ssize_t ignored = write(STDERR_FILENO, line, strlen(line));
 }
 
 [[nodiscard]] bool expand(const char* name, pid_t process, char* path, size_t room)

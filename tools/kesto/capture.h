@@ -27,9 +27,8 @@ struct CapturedPacket {
     std::int64_t seconds = 0;   // since 1970
     std::uint32_t microseconds = 0;
     PacketFault fault = PacketFault::none;
-    std::uint32_t id = 0;   // 0 where there is no room for it
-    std::span<const std::uint8_t>
-        bytes;   // behind id and length, as far as they are there; until the next packet is read
+    std::uint32_t id = 0;                  // 0 where there is no room for it
+    std::span<const std::uint8_t> bytes;   // behind id and length; until the next packet is read
 };
 
 class CaptureReader {
