@@ -111,7 +111,7 @@ TEST(Figures, hold_for_the_bytes_that_the_library_writes)
     EXPECT_GT(held, 250);
 }
 
-TEST(Printed, headers_and_pages_are_what_the_printers_print_today)
+TEST(Printed, headers_pages_and_dissector_are_what_the_printers_print_today)
 {
     const std::filesystem::path folder = std::filesystem::temp_directory_path() / ("kesto_printed_" + std::to_string(getpid()));
     std::filesystem::create_directory(folder);
@@ -123,6 +123,10 @@ TEST(Printed, headers_and_pages_are_what_the_printers_print_today)
             EXPECT_TRUE(committed == read_file((folder / (module.name + suffix)).string()))
                 << committed_in << module.name << suffix << " is not current: ./run headers";
         }
+    const std::string script = KESTO_SOURCE_DIR "/dissector/kesto.lua", printed = (folder / "kesto.lua").string();
+    std::filesystem::copy_file(script, printed);
+    (void)run(KESTO_PRINT_DISSECTOR " " + printed);
+    EXPECT_TRUE(read_file(script) == read_file(printed)) << script << " is not current: ./run headers";
     std::filesystem::remove_all(folder);
 }
 

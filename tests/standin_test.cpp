@@ -3,13 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <poll.h>
+#include <signal.h>
 #include <stdlib.h>
 #include <string.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <thread>
 #include <vector>
@@ -364,6 +369,172 @@ TEST_F(Mesh, threads_share_hooks_and_channels)
         one.join();
     EXPECT_EQ(counters().delivered, 1600u);
     EXPECT_EQ(counters().bytes, 1600u);
+}
+
+// Captures ------------------------------------------------------------------------------------------------------------
+
+uint32_t number_at(const std::string &bytes, size_t at)
+{
+    uint32_t number = 0;
+    for (size_t i = 4; i-- > 0;)
+        number = number << 8 | static_cast<uint8_t>(bytes.at(at + i));
+    return number;
+}
+
+// The packets of a capture file, which must be whole.
+Lines packets_in(const std::string &path)
+{
+    const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
+    std::ifstream file(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_EQ(bytes.substr(0, head.size()), head) << path;
+    Lines packets;
+    for (size_t at = head.size(); at < bytes.size(); at += 16 + packets.back().size()) {
+        EXPECT_LE(at + 16, bytes.size());
+        EXPECT_LT(number_at(bytes, at + 4), 1000000u) << "microseconds";
+        EXPECT_EQ(number_at(bytes, at + 8), number_at(bytes, at + 12)) << "cut";
+        packets.push_back(bytes.substr(at + 16, number_at(bytes, at + 8)));
+        EXPECT_EQ(packets.back().size(), number_at(bytes, at + 8));
+    }
+    return packets;
+}
+
+std::string note(const std::string &text)
+{
+    return std::string("\7\0\0\0", 4) + static_cast<char>(text.size()) + std::string(3, '\0') + text;
+}
+
+class Capture : public Mesh {
+protected:
+    void SetUp() override
+    {
+        Mesh::SetUp();
+        file = std::string(folder) + "/capture";
+    }
+    void TearDown() override
+    {
+        EXPECT_EQ(mesh_standin_capture(nullptr), 0);
+        unlink(file.c_str());
+        Mesh::TearDown();
+    }
+
+    std::string file;
+};
+
+TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
+{
+    std::ofstream(file) << std::string(1000, 'o'); // an older one
+    ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
+    EXPECT_EQ(packets_in(file), Lines{});
+    const std::string a = "a", b;
+    const MeshSendItem items[] = {item(7, a), item(8, b)};
+    EXPECT_EQ(MESH_SendMsg(3, items, 2), MESH_STANDIN_UNKNOWN_ID);
+    Lines passed{note("a"), std::string("\x08\0\0\0\0\0\0\0", 8)};
+    EXPECT_EQ(packets_in(file), passed);
+
+    ASSERT_EQ(mesh_standin_listen(1, path.c_str()), 0);
+    EXPECT_EQ(send_text(1, 7, "to nobody"), MESH_STANDIN_NO_PEER);
+    const int peer = raw_peer();
+    for (const std::string &packet : {note("whole"), note("lon") + "ger", std::string("sh")}) {
+        ASSERT_EQ(send(peer, packet.data(), packet.size(), 0), static_cast<ssize_t>(packet.size()));
+        (void)mesh_standin_receive(1, 1000);
+        passed.push_back(packet);
+    }
+    EXPECT_EQ(send_text(1, 7, "back"), 0);
+    passed.push_back(note("back"));
+    EXPECT_EQ(packets_in(file), passed);
+
+    EXPECT_EQ(mesh_standin_capture(nullptr), 0);
+    EXPECT_EQ(send_text(3, 7, "after"), 0);
+    EXPECT_EQ(packets_in(file), passed);
+    close(peer);
+}
+
+TEST_F(Capture, of_many_threads_has_whole_packets)
+{
+    mesh_standin_set_consumer(MESH_STANDIN_EVERY_CHANNEL, nullptr, nullptr);
+    ASSERT_EQ(MESH_RegIDLFuncHook(7, other_unpack, other_free), 0);
+    ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
+    std::vector<std::thread> threads;
+    for (uint32_t t = 0; t < 4; ++t)
+        threads.emplace_back([t] {
+            for (uint32_t i = 0; i < 200; ++i)
+                EXPECT_EQ(send_text(t, 7, std::string(i, static_cast<char>('a' + t))), 0);
+        });
+    for (std::thread &one : threads)
+        one.join();
+    Lines packets = packets_in(file), sent;
+    for (uint32_t t = 0; t < 4; ++t)
+        for (uint32_t i = 0; i < 200; ++i)
+            sent.push_back(note(std::string(i, static_cast<char>('a' + t))));
+    std::sort(packets.begin(), packets.end());
+    std::sort(sent.begin(), sent.end());
+    EXPECT_EQ(packets, sent);
+}
+
+// What a child sends with the parent's capture: its result, and what it says on stderr.
+std::string of_child(pid_t &child)
+{
+    int ends[2];
+    EXPECT_EQ(pipe(ends), 0);
+    child = fork();
+    if (child == 0) {
+        dup2(ends[1], STDERR_FILENO);
+        _exit(send_text(3, 7, "child") | send_text(3, 7, "child again"));
+    }
+    close(ends[1]);
+    std::string said;
+    for (char c; read(ends[0], &c, 1) == 1;)
+        said += c;
+    close(ends[0]);
+    int status = -1;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0) << "sending is disturbed";
+    return said;
+}
+
+TEST_F(Capture, of_two_processes_are_two_or_one_of_them_has_none)
+{
+    ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
+    ASSERT_EQ(send_text(3, 7, "parent"), 0);
+    pid_t child = 0;
+    const std::string said = of_child(child);
+    EXPECT_EQ(said, "mesh stand-in: no capture to " + file +
+                        ": another process writes it; %p in the name stands for the process id\n");
+    ASSERT_EQ(send_text(3, 7, "parent"), 0);
+    EXPECT_EQ(packets_in(file), (Lines{note("parent"), note("parent")}));
+
+    ASSERT_EQ(mesh_standin_capture((file + "%p.x").c_str()), 0);
+    ASSERT_EQ(send_text(3, 7, "parent"), 0);
+    EXPECT_EQ(of_child(child), "");
+    const std::string own = file + std::to_string(getpid()) + ".x", childs = file + std::to_string(child) + ".x";
+    EXPECT_EQ(packets_in(own), Lines{note("parent")});
+    EXPECT_EQ(packets_in(childs), (Lines{note("child"), note("child again")}));
+    unlink(own.c_str());
+    unlink(childs.c_str());
+}
+
+TEST_F(Capture, that_cannot_be_written_is_reported_and_disturbs_nothing)
+{
+    for (const std::string &bad : {std::string(folder), std::string(folder) + "/no/file", std::string("/dev/null"),
+                                   std::string(5000, 'x')}) {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(bad.c_str()), MESH_STANDIN_BAD_PATH) << bad;
+        EXPECT_EQ(send_text(3, 7, "x") | send_text(3, 7, "x"), 0);
+        const std::string said = testing::internal::GetCapturedStderr();
+        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+    }
+    // A full disk, in the middle of a packet.
+    ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
+    ASSERT_EQ(send_text(3, 7, "fits"), 0);
+    rlimit before;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const rlimit small{60, before.rlim_max};
+    signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_EQ(send_text(3, 7, "does not fit") | send_text(3, 7, "x"), 0);
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &before), 0);
+    EXPECT_EQ(packets_in(file), Lines{note("fits")});
 }
 
 // Services ------------------------------------------------------------------------------------------------------------

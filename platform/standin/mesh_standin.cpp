@@ -15,6 +15,8 @@
 #include "platform/mesh.h"
 #include "platform/standin/mesh_standin.h"
 #pragma GCC visibility pop
+#include "platform/standin/capture.h"
+#include "platform/standin/little_endian.h"
 
 namespace {
 
@@ -148,20 +150,6 @@ int deliver(uint32_t channel, uint32_t id, const uint8_t *bytes, uint32_t length
 }
 
 // Sockets -------------------------------------------------------------------------------------------------------------
-
-void store_u32(uint8_t *at, uint32_t value)
-{
-    for (int i = 0; i < 4; ++i)
-        at[i] = static_cast<uint8_t>(value >> (8 * i));
-}
-
-uint32_t load_u32(const uint8_t *at)
-{
-    uint32_t value = 0;
-    for (int i = 3; i >= 0; --i)
-        value = value << 8 | at[i];
-    return value;
-}
 
 uint64_t now_ms()
 {
@@ -299,18 +287,32 @@ int result_of_errno()
     }
 }
 
+// An item as a packet.
+struct Packet {
+    explicit Packet(const MeshSendItem &item)
+    {
+        store_u32(head, item.id);
+        store_u32(head + 4, item.length);
+        pieces[0] = {head, sizeof head};
+        pieces[1] = {const_cast<uint8_t *>(item.data), item.length};
+    }
+    Packet(const Packet &) = delete;
+    Packet &operator=(const Packet &) = delete;
+
+    uint8_t head[packet_head];
+    iovec pieces[2];
+};
+
 int send_packet(int peer, const MeshSendItem &item)
 {
-    uint8_t head[packet_head];
-    store_u32(head, item.id);
-    store_u32(head + 4, item.length);
-    iovec pieces[2] = {{head, sizeof head}, {const_cast<uint8_t *>(item.data), item.length}};
+    Packet packet(item);
     msghdr message{};
-    message.msg_iov = pieces;
+    message.msg_iov = packet.pieces;
     message.msg_iovlen = 2;
     while (sendmsg(peer, &message, MSG_NOSIGNAL) < 0)
         if (errno != EINTR)
             return result_of_errno();
+    capture_packet(packet.pieces, 2);
     const Lock lock;
     ++counters.sent;
     counters.bytes += item.length;
@@ -340,6 +342,7 @@ int send_loopback(uint32_t channel, const MeshSendItem *items, uint32_t count)
             ++counters.sent;
             counters.bytes += items[i].length;
         }
+        capture_packet(Packet(items[i]).pieces, 2);
         const int result = deliver(channel, items[i].id, items[i].data, items[i].length);
         if (first_failure == MESH_STANDIN_OK)
             first_failure = result;
@@ -464,6 +467,13 @@ int try_connect(const sockaddr_un &address, int &peer)
     errno = error;
     const bool may_come = error == ENOENT || error == ECONNREFUSED || error == EAGAIN || error == EINTR;
     return may_come ? MESH_STANDIN_TIMEOUT : MESH_STANDIN_BAD_PATH;
+}
+
+[[gnu::constructor]] void start_capture()
+{
+    const char *const path = getenv("MESH_STANDIN_CAPTURE");
+    if (path != nullptr && path[0] != '\0')
+        [[maybe_unused]] const bool ignored = capture_to(path); // has said why on stderr
 }
 
 } // namespace
@@ -648,8 +658,11 @@ int mesh_standin_receive(uint32_t number, uint32_t timeout_ms)
         if (result == MESH_STANDIN_OK)
             result = read_packet(peer, deadline, packet, capacity, length);
     }
-    if (result == MESH_STANDIN_OK)
+    if (result == MESH_STANDIN_OK) {
+        const iovec piece{packet, length};
+        capture_packet(&piece, 1);
         result = deliver_packet(number, packet, length);
+    }
     free(packet);
     return result;
 }
@@ -700,6 +713,11 @@ void mesh_standin_check_initialised(int on)
 {
     const Lock lock;
     check_bytes = on != 0;
+}
+
+int mesh_standin_capture(const char *path)
+{
+    return capture_to(path) ? MESH_STANDIN_OK : MESH_STANDIN_BAD_PATH;
 }
 
 void mesh_standin_counters(MeshStandinCounters *result)

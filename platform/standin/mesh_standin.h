@@ -23,6 +23,13 @@
  * one peer, and both sides may send. A packet is an item of at most MESH_STANDIN_ITEM_BYTES; longer ones are refused as a
  * whole. Received bytes are handed on in a block of exactly their length, so that memory checkers see a read past it.
  *
+ * Capture: with MESH_STANDIN_CAPTURE=file in the environment, or after mesh_standin_capture, everything that passes goes to a
+ * pcap file of link type USER0 (147), in the form of the packets above and once per process: an item before it is delivered
+ * on a loopback, a packet after it has left on a socket, and a packet that was received, whatever is in it. A packet longer
+ * than 262144 bytes, which only a loopback takes, is cut to them. %p in the name stands for the process id. An older file is
+ * replaced; one that another process is writing is not touched. A child after a fork needs a file of its own, and so the
+ * %p. When the file cannot be opened or written, a line on stderr says so once, and messages pass as they would have.
+ *
  * Threads: everything may be called from any thread, save mesh_standin_reset. Hooks and consumers run without a lock held
  * and may themselves send. */
 #ifndef KESTO_PLATFORM_STANDIN_MESH_STANDIN_H
@@ -93,6 +100,10 @@ uint32_t mesh_standin_run_clean_hooks(void);
  * that were never written. 0 is the default. */
 void mesh_standin_check_initialised(int on);
 
+/* Captures to the file at `path` from now on, instead of to another one; null ends the capture. MESH_STANDIN_BAD_PATH, with
+ * errno, when that file cannot be written: there is no capture then. */
+int mesh_standin_capture(const char *path);
+
 typedef struct MeshStandinCounters {
     uint64_t sent;        /* items that left on a socket or were tried on a loopback */
     uint64_t bytes;       /* of the items sent */
@@ -103,7 +114,8 @@ typedef struct MeshStandinCounters {
 
 void mesh_standin_counters(MeshStandinCounters *counters);
 
-/* Forgets hooks, consumers and counters and closes all channels. For tests: no other thread may be in a call. */
+/* Forgets hooks, consumers and counters and closes all channels; a capture goes on. For tests: no other thread may be in a
+ * call. */
 void mesh_standin_reset(void);
 
 #ifdef __cplusplus

@@ -1,0 +1,17 @@
+// Writes packets to a capture file: what mesh_standin_capture of mesh_standin.h says, and its one place in a process.
+//
+// The file is a pcap file with microseconds, little-endian on every host, link type USER0 (147). Each packet goes into
+// it with one system call and nothing is held back, so the file can be read while it grows.
+#ifndef KESTO_PLATFORM_STANDIN_CAPTURE_H
+#define KESTO_PLATFORM_STANDIN_CAPTURE_H
+
+#include <sys/uio.h>
+
+// Ends the capture there is and begins another one, unless `path` is null. On a failure errno says more, and a line on
+// stderr says it to the user.
+[[nodiscard]] bool capture_to(const char* path);
+
+// One packet of at most two pieces. Costs next to nothing without a capture.
+void capture_packet(const iovec* pieces, int count);
+
+#endif

@@ -1,0 +1,527 @@
+// The packet analyser's script against the reference: every range that it shows, and its verdict.
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <map>
+#include <set>
+
+#include "fuzz/inputs.h"
+#include "platform/mesh.h"
+#include "platform/standin/mesh_standin.h"
+#include "reference/decode.h"
+#include "reference/encode.h"
+#include "reference/strange.h"
+#include "tests/support/capture_file.h"
+#include "tests/support/figures.h"
+#include "tools/catalogue.h"
+#include "tools/kesto/capture.h"
+
+namespace kesto::tests {
+
+namespace {
+
+using namespace reference;
+
+const Catalogue& transcribed()
+{
+    static const Catalogue catalogue = [] {
+        Catalogue loaded;
+        std::string error;
+        if (!load_catalogue(loaded, error))
+            ADD_FAILURE() << error;
+        return loaded;
+    }();
+    return catalogue;
+}
+
+// ---- what the reference makes of a byte string, one line a field ----
+
+std::string line_of(const std::string& field, std::uint64_t position, std::uint64_t size, const std::string& value)
+{
+    return field + " at " + std::to_string(position) + ", " + std::to_string(size) + " bytes: " + value;
+}
+
+std::string hex(const u8* bytes, std::size_t length)
+{
+    std::string text;
+    char digits[3];
+    for (std::size_t i = 0; i < length; ++i) {
+        std::snprintf(digits, sizeof digits, "%02x", bytes[i]);
+        text += digits;
+    }
+    return text;
+}
+
+struct Shown {
+    std::vector<std::string> fields;   // sorted
+    std::string refused, ignored;      // code, position, value and limit; empty for none
+    std::uint64_t refused_at = 0;      // where the refusal is shown
+    bool is_shortened = false;
+    std::string fault;   // of the packet
+    std::string error;   // in the script
+};
+
+class Expected : public Walk {
+public:
+    Expected(const Message& message, Bytes bytes) : message_(message), bytes_(std::move(bytes))
+    {
+        DecodeOptions options;
+        options.walk = this;
+        Outcome outcome;
+        const u32 length = static_cast<u32>(bytes_.size());
+        bytes_.push_back(0);   // of no bytes there is no null pointer then
+        decode(message, bytes_.data(), length, options, outcome);
+        shown.refused = text_of(outcome.failure);
+        if (outcome.failure)   // a number behind the end is shown at the word that leads there
+            shown.refused_at = 8 + (outcome.failure.position < length ? outcome.failure.position : last_word_);
+        shown.ignored = text_of(outcome.ignored);
+        std::sort(shown.fields.begin(), shown.fields.end());
+    }
+
+    void read(const Item& item) override
+    {
+        if (item.piece == Piece::payload)
+            return add_payload(item);
+        if (item.piece == Piece::vtable_offset)   // a table's field stands at its first word
+            add(field_name(*item.path), item.position, 4, "");
+        const bool is_scalar = item.piece == Piece::scalar;
+        if (!is_scalar && item.piece != Piece::table_length)
+            last_word_ = item.position;
+        add(is_scalar ? field_name(*item.path) : std::string("kesto.") + name_of(item.piece), item.position,
+            item.length, std::to_string(item.value));
+    }
+
+    Shown shown;
+
+private:
+    static std::string text_of(const Failure& failure)
+    {
+        if (!failure)
+            return {};
+        std::string text = name_of(failure.refusal);
+        for (const u64 number : {u64{failure.position}, failure.value, failure.limit})
+            text += " " + std::to_string(number);
+        return text;
+    }
+
+    const Slot& slot_at(const Path& path) const
+    {
+        const Message* message = &message_;
+        for (u32 i = 0; i + 1 < path.length; ++i)
+            message = message->slots[path.steps[i].slot].nested;
+        return message->slots[path.steps[path.length - 1].slot];
+    }
+
+    std::string field_name(const Path& path) const
+    {
+        const tools::MessageInfo* message = tools::find_message(message_.name);
+        std::string name = "kesto." + message->name;
+        for (u32 i = 0; i < path.length; ++i) {
+            const tools::SlotInfo& slot = message->slots[path.steps[i].slot];
+            name += "." + slot.field;
+            message = slot.nested;
+        }
+        return name;
+    }
+
+    void add(const std::string& field, u32 position, u32 length, const std::string& value)
+    {
+        shown.fields.push_back(line_of(field, 8 + position, length, value));
+    }
+
+    void add_payload(const Item& item)
+    {
+        const Slot& slot = slot_at(*item.path);
+        const std::string field = field_name(*item.path);
+        if (slot.kind != Kind::array || slot.width == 1)
+            return add(field, item.position, item.length, hex(bytes_.data() + item.position, item.length));
+        for (u32 at = item.position; at < item.position + item.length; at += 4)
+            add(field, at, 4, std::to_string(get32(&bytes_[at])));
+    }
+
+    const Message& message_;
+    Bytes bytes_;
+    u32 last_word_ = 0;
+};
+
+// ---- what the analyser shows ----
+
+std::string attribute(const std::string& tag, const char* name)
+{
+    const std::string head = std::string(" ") + name + "=\"";
+    const std::size_t start = tag.find(head);
+    if (start == std::string::npos)
+        return {};
+    const std::size_t from = start + head.size();
+    return tag.substr(from, tag.find('"', from) - from);
+}
+
+// The fields of texts, blocks, u8 arrays, tables and vectors: of these the bytes are compared, of all others the
+// number.
+void add_fields_of_bytes(const tools::MessageInfo& message, const std::string& path, std::set<std::string>& fields)
+{
+    for (const tools::SlotInfo& slot : message.slots) {
+        if (slot.kind != tools::SlotKind::scalar && slot.width != 4)
+            fields.insert(path + "." + slot.field);
+        if (slot.nested != nullptr)
+            add_fields_of_bytes(*slot.nested, path + "." + slot.field, fields);
+    }
+}
+
+bool has_bytes(const std::string& field)
+{
+    static const std::set<std::string> fields = [] {
+        std::set<std::string> all;
+        for (const tools::ModuleInfo& module : tools::modules())
+            for (const tools::MessageInfo* message : module.messages) {
+                all.insert("kesto." + message->name);
+                add_fields_of_bytes(*message, "kesto." + message->name, all);
+            }
+        return all;
+    }();
+    return fields.count(field) != 0;
+}
+
+// One tag of the analyser's XML.
+void take_tag(const std::string& tag, Shown& shown)
+{
+    const std::string name = attribute(tag, "name"), value = attribute(tag, "show");
+    std::string* const stop = name.starts_with("kesto.refused")   ? &shown.refused
+                              : name.starts_with("kesto.ignored") ? &shown.ignored
+                                                                  : nullptr;
+    // Below the refusal and with its range. The refusal itself may stand in front of the table that shows it, and the
+    // analyser prints another `pos` for such items.
+    if (name == "kesto.refused.position")
+        shown.refused_at = std::stoull(attribute(tag, "pos"));
+    if (name.starts_with("_ws.lua.error"))
+        shown.error += tag;
+    else if (stop != nullptr && !name.ends_with(".expert"))
+        *stop += (stop->empty() ? "" : " ") + value;
+    else if (name == "kesto.packet_fault")
+        shown.fault += value;
+    else if (name == "kesto.shortened")
+        shown.is_shortened = true;
+    else if (name.starts_with("kesto.") && !name.ends_with(".expert") && name != "kesto.id" && name != "kesto.length" &&
+             name != "kesto.message")
+        shown.fields.push_back(line_of(name, std::stoull(attribute(tag, "pos")), std::stoull(attribute(tag, "size")),
+                                       has_bytes(name) ? attribute(tag, "value") : value));
+}
+
+struct Case {
+    const Message* message;
+    Bytes bytes;
+};
+
+// Of a shortened tree what is there must be right, and the verdict.
+void compare(const Case& one, const Shown& shown)
+{
+    const Shown expected = Expected(*one.message, one.bytes).shown;
+    const std::string which =
+        one.message->name + " " + hex(one.bytes.data(), std::min<std::size_t>(one.bytes.size(), 512));
+    EXPECT_EQ(shown.refused, expected.refused) << which;
+    EXPECT_EQ(shown.refused_at, expected.refused_at) << which;
+    EXPECT_EQ(shown.ignored, expected.ignored) << which;
+    EXPECT_EQ(shown.fault + shown.error, "") << which;
+    if (shown.is_shortened) {
+        EXPECT_TRUE(
+            std::includes(expected.fields.begin(), expected.fields.end(), shown.fields.begin(), shown.fields.end()))
+            << which;
+        return;
+    }
+    const auto [is, should] =
+        std::mismatch(shown.fields.begin(), shown.fields.end(), expected.fields.begin(), expected.fields.end());
+    EXPECT_TRUE(shown.fields == expected.fields)
+        << which << "\n  shown    " << (is == shown.fields.end() ? "nothing more" : *is) << "\n  expected "
+        << (should == expected.fields.end() ? "nothing more" : *should);
+}
+
+class Dissector : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        folder = std::filesystem::temp_directory_path() / ("kesto_dissector_" + std::to_string(getpid()));
+        std::filesystem::create_directory(folder);
+        path = folder / "capture";
+    }
+    void TearDown() override
+    {
+        mesh_standin_capture(nullptr);
+        std::filesystem::remove_all(folder);
+    }
+
+    // Away from the preferences and scripts of whoever runs this.
+    std::FILE* analyser(const std::string& arguments) const
+    {
+        return popen(("WIRESHARK_CONFIG_DIR=" + folder.string() +
+                      " timeout 300 " KESTO_TSHARK " -X lua_script:" KESTO_SOURCE_DIR "/dissector/kesto.lua -r " +
+                      path + " " + arguments + " 2>" + (folder / "errors").string())
+                         .c_str(),
+                     "r");
+    }
+
+    void expect_end(std::FILE* pipe) const
+    {
+        EXPECT_EQ(pclose(pipe), 0) << read_file(folder / "errors");
+        EXPECT_EQ(read_file(folder / "errors").find("Lua"), std::string::npos) << read_file(folder / "errors");
+    }
+
+    template <class See>   // see(Shown&&) for each packet
+    void dissect(See see) const
+    {
+        std::FILE* const pipe = analyser("-T pdml -J kesto");
+        ASSERT_NE(pipe, nullptr);
+        Shown shown;
+        std::string tag;
+        char* line = nullptr;
+        std::size_t room = 0;
+        for (ssize_t length; (length = getline(&line, &room, pipe)) > 0;) {
+            tag.append(line, static_cast<std::size_t>(length));
+            if (!tag.ends_with(">\n"))
+                continue;   // a text of several lines
+            if (tag.starts_with("</packet>")) {
+                std::sort(shown.fields.begin(), shown.fields.end());
+                see(std::move(shown));
+                shown = Shown{};
+            } else {
+                take_tag(tag, shown);
+            }
+            tag.clear();
+        }
+        std::free(line);
+        expect_end(pipe);
+    }
+
+    // Sends all of them into a capture, compares what is shown of each, and gives it.
+    std::vector<Shown> check(const std::vector<Case>& cases) const
+    {
+        EXPECT_EQ(mesh_standin_capture(path.c_str()), 0);
+        for (const Case& one : cases) {
+            const MeshSendItem item{one.bytes.data(), one.message->id, static_cast<u32>(one.bytes.size())};
+            EXPECT_EQ(MESH_SendMsg(0, &item, 1), MESH_STANDIN_UNKNOWN_ID);
+        }
+        std::vector<Shown> all;
+        dissect([&](Shown&& shown) {
+            if (all.size() < cases.size() && !HasFailure())   // the first failure says enough
+                compare(cases[all.size()], shown);
+            all.push_back(std::move(shown));
+        });
+        EXPECT_EQ(all.size(), cases.size());
+        return all;
+    }
+
+    // The numbers of the packets that a display filter lets through.
+    std::string passing(const std::string& filter) const
+    {
+        std::FILE* const pipe = analyser("-T fields -e frame.number -Y '" + filter + "'");
+        std::string numbers;
+        for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
+            numbers += c == '\n' ? ' ' : static_cast<char>(c);
+        expect_end(pipe);
+        return numbers;
+    }
+
+    std::filesystem::path folder;
+    std::string path;
+};
+
+// Notes where the decoder reads the numbers that lead it on.
+struct Signposts : Walk {
+    std::vector<std::pair<u32, u32>> words;   // position and width
+
+    explicit Signposts(const Case& one)
+    {
+        DecodeOptions options;
+        options.walk = this;
+        Outcome outcome;
+        decode(*one.message, one.bytes.data(), static_cast<u32>(one.bytes.size()), options, outcome);
+    }
+
+    void read(const Item& item) override
+    {
+        if (item.piece != Piece::scalar && item.piece != Piece::payload)
+            words.emplace_back(item.position, item.length);
+    }
+};
+
+// Each number in turn one off, or far off.
+void add_misled(const Case& sound, Random& random, std::vector<Case>& cases)
+{
+    for (const auto& [position, width] : Signposts(sound).words) {
+        Case misled = sound;
+        u8* const word = &misled.bytes[position];
+        const u64 values[] = {get(word, width) - 1, get(word, width) + 1, 0,          0x3fffffff,
+                              0x40000000,           0x7fffffff,           0xffffffff, 0xfffffff0};
+        put(word, values[random.below(std::size(values))], width);
+        cases.push_back(misled);
+    }
+}
+
+std::vector<Case> cases_of_all_messages()
+{
+    std::vector<Case> cases;
+    for (const Message& message : transcribed().messages) {
+        Random random(message.id);
+        for (const Density density : densities) {
+            const Record record = random_record(message, density, random);
+            cases.push_back({&message, compact_form(record)});
+            if (message.fixed_length != 0)
+                cases.push_back({&message, fixed_form(record)});
+            cases.push_back({&message, strange_layout(record, random)});
+            Bytes cut = cases.back().bytes;
+            cut.resize(random.below(static_cast<u32>(cut.size())));
+            cases.push_back({&message, cut});
+            if (density == Density::sparse)
+                add_misled({&message, compact_form(record)}, random, cases);
+        }
+    }
+    return cases;
+}
+
+std::vector<Case> cases_of_the_corpus()
+{
+    std::vector<Case> cases;
+    std::vector<Bytes> inputs;
+    std::string error;
+    EXPECT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
+    for (const Bytes& input : inputs)
+        if (input.size() >= 2)
+            cases.push_back({&fuzz::message_of(transcribed(), input[0]), {input.begin() + 2, input.end()}});
+    return cases;
+}
+
+TEST_F(Dissector, shows_what_the_reference_reads_and_stops_where_it_stops)
+{
+    std::vector<Case> cases = cases_of_all_messages();
+    for (Case& one : cases_of_the_corpus())
+        cases.push_back(std::move(one));
+    std::set<std::string> verdicts;
+    std::size_t shortened = 0;
+    for (const Shown& shown : check(cases)) {
+        shortened += shown.is_shortened;
+        verdicts.insert(shown.refused.substr(0, shown.refused.find(' ')));
+        if (!shown.ignored.empty())
+            verdicts.insert("ignored");
+    }
+    EXPECT_EQ(shortened, 0u);
+    EXPECT_EQ(verdicts,
+              (std::set<std::string>{"", "array_count", "body_end", "cell_end", "count_range", "element_wrap",
+                                     "ignored", "length_below_4", "nested_wrap", "reference_range", "reference_wrap",
+                                     "scalar_end", "table_position", "vtable_length", "vtable_position"}));
+}
+
+// A vector of `count` elements, all of them the same table; the last cell may lead one byte too far.
+Case crowd(const char* name, u32 count, const Record& element, bool is_sound)
+{
+    const Message& message = *transcribed().find(name);
+    u32 k = 0;
+    while (message.slots[k].kind != Kind::vector)
+        ++k;
+    const u32 vtable_length = 4 + 2 * (k + 1);
+    Bytes bytes;
+    append(bytes, 4 + vtable_length, 4);   // root
+    append(bytes, vtable_length, 4);       // vtable, and no table length
+    bytes.resize(bytes.size() + 2 * k);    // absent slots
+    append(bytes, 4, 2);
+    append(bytes, vtable_length, 4);   // table
+    append(bytes, 4, 4);               // cell
+    append(bytes, count, 4);
+    const Bytes one = compact_form(element);
+    const u32 table = position_of_end(bytes) + 4 * count + get32(one.data()) - 4;
+    for (u32 i = 1; i < count; ++i)
+        append(bytes, table - position_of_end(bytes), 4);
+    append(bytes, table + (is_sound ? 0 : 1) - position_of_end(bytes), 4);
+    bytes.insert(bytes.end(), one.begin() + 4, one.end());
+    return {&message, bytes};
+}
+
+TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
+{
+    Random random(1);
+    const char* const many = "ifit_sync_ifit_session_entry_update";
+    const Record small = random_record(*transcribed().find("ifit_sync_ifit_session_entry"), Density::full, random);
+    const char* const long_ones = "ntvifit_entry_list_mdtlm";
+    Record large = zero_record(*transcribed().find("ntvifit_entry_to_mdtlm"));
+    Field& block = *std::find_if(large.fields.begin(), large.fields.end(), [&](const Field& field) {
+        return large.message->slots[static_cast<std::size_t>(&field - large.fields.data())].kind == Kind::bytes;
+    });
+    block.present = true;
+    block.octets.assign(block.number = 100000, 0x62);
+
+    for (const Shown& shown : check({crowd(many, 3000, small, true), crowd(many, 3000, small, false),
+                                     crowd(long_ones, 50, large, true), crowd(long_ones, 50, large, false)}))
+        EXPECT_TRUE(shown.is_shortened);
+}
+
+TEST_F(Dissector, names_packets_that_are_no_messages_as_the_reader_does)
+{
+    const u32 id = transcribed().messages[0].id;
+    const Bytes bytes = compact_form(zero_record(transcribed().messages[0]));
+    Bytes capture = capture_head(147);
+    add_packet(capture, {{}, 0});
+    add_packet(capture, {{7, 0, 0, 0, 3, 0, 0}, 7});
+    add_packet(capture, {{7, 0, 0}, 30});
+    add_packet(capture, packet_of(id, bytes, bytes.size() - 1));
+    add_packet(capture, packet_of(id, bytes, 0xffffffff));
+    RawPacket cut = packet_of(id, bytes, bytes.size() + 1);
+    ++cut.length_on_the_wire;
+    add_packet(capture, cut);
+    add_packet(capture, packet_of(id, bytes));
+    add_packet(capture, packet_of(5, bytes));
+    write_file(path, capture);
+
+    tools::CaptureReader reader;
+    std::string error;
+    ASSERT_TRUE(reader.open(path, error)) << error;
+    tools::CapturedPacket packet;
+    dissect([&](const Shown& shown) {
+        ASSERT_TRUE(reader.next(packet, error));
+        const std::string fault = packet.id == 5                             ? "unknown_id"
+                                  : packet.fault == tools::PacketFault::none ? ""
+                                                                             : name_of(packet.fault);
+        EXPECT_EQ(shown.fault, fault) << "packet " << packet.number;
+        EXPECT_EQ(shown.fields.empty(), !fault.empty());
+    });
+    EXPECT_FALSE(reader.next(packet, error));
+    EXPECT_EQ(packet.number, 8u);
+}
+
+TEST_F(Dissector, finds_messages_by_their_fields)
+{
+    const auto record_of = [](const char* name, std::string_view text) {
+        const Message& message = *transcribed().find(name);
+        Record record = zero_record(message);
+        std::string error;
+        EXPECT_TRUE(parse_record(message, text, record, error)) << error;
+        return Case{&message, compact_form(record)};
+    };
+    const Case flow = record_of("ifit_flow_base_mesh_update",
+                                "{5 [{1 2 0xfedcba9876543210 4 50 6 7 8 9 10 11 12} {1 2 3 4 51 6 7 8 9 10 11 12}]}");
+    Case refused = flow;
+    refused.bytes.pop_back();
+    (void)check({record_of("ifit_dfx_query_glbdata_item_mesh", "{\"hellö\"}"), flow, refused,
+                 record_of("ifit_dfx_datetime_mesh", "{2026 2 3 4 5 6}")});
+
+    const std::string f1 = "kesto.ifit_flow_base_mesh_update.f1";
+    const std::pair<std::string, const char*> cases[] = {
+        {"kesto.ifit_dfx_query_glbdata_item_mesh.f0 == \"hellö\"", "1 "},
+        {"kesto.ifit_dfx_query_glbdata_item_mesh.f0 == \"hell\"", ""},
+        {f1 + ".f2 == 0xfedcba9876543210", "2 3 "},
+        {f1 + ".f2 == 0xfedcba9876543211", ""},
+        {f1 + ".f4 == 51", "2 3 "},
+        {"kesto.ifit_dfx_datetime_mesh.year > 2025", "4 "},
+        {"kesto.ifit_flow_base_mesh_update && !kesto.refused", "2 "},
+        {"kesto.message contains \"flow\"", "2 3 "},
+        {"kesto.refused == \"scalar_end\" || kesto.id == 0x91cd149e", "1 3 "},
+        {"_ws.expert.severity == error", "3 "},
+    };
+    for (const auto& [filter, packets] : cases)
+        EXPECT_EQ(passing(filter), packets) << filter;
+}
+
+}   // namespace
+
+}   // namespace kesto::tests

@@ -1,0 +1,73 @@
+// Prints the catalogue into the packet analyser's script, dissector/kesto.lua, between the two lines that say so.
+//
+//   print_dissector FILE    changes FILE in place
+
+#include <cinttypes>
+#include <cstdio>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "tools/catalogue.h"
+
+using namespace kesto::tools;
+
+namespace {
+
+constexpr const char first_line[] = "-- printed by ./run headers, from here\n";
+constexpr const char last_line[] = "-- to here\n";
+
+// "u32", "u8[50]", "vector:ifit_mcp_mesh", "table?:..." for a table whose refusal the message ignores: one word each.
+std::string slot_word(const SlotInfo& slot)
+{
+    if (slot.nested == nullptr)
+        return slot_text(slot);
+    const std::string kind = slot.kind == SlotKind::vector ? "vector:" : slot.fault_ends_read ? "table:" : "table?:";
+    return kind + slot.nested->name;
+}
+
+std::string message_line(const MessageInfo& message)
+{
+    char id[11];
+    std::snprintf(id, sizeof id, "0x%08" PRIx32, message.id);
+    std::string line = "{ \"" + message.name + "\", " + id + ", \"";
+    for (const SlotInfo& slot : message.slots)
+        line += (&slot == &message.slots.front() ? "" : " ") + slot.field + "=" + slot_word(slot);
+    return line + "\" },\n";
+}
+
+std::string catalogue_lines()
+{
+    std::string lines;
+    for (const ModuleInfo& module : modules())
+        for (const MessageInfo* message : module.messages)
+            lines += message_line(*message);
+    return lines;
+}
+
+}   // namespace
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: %s FILE\n", argv[0]);
+        return 2;
+    }
+    std::ifstream input(argv[1], std::ios::binary);
+    std::string script{std::istreambuf_iterator<char>(input), {}};
+    const std::size_t begin = script.find(first_line);
+    const std::size_t end = begin == std::string::npos ? begin : script.find(last_line, begin);
+    if (end == std::string::npos) {
+        std::fprintf(stderr, "%s: without the lines between which the catalogue is printed\n", argv[1]);
+        return 1;
+    }
+    const std::size_t from = begin + sizeof first_line - 1;
+    script.replace(from, end - from, catalogue_lines());
+    std::ofstream output(argv[1], std::ios::binary);
+    output << script << std::flush;
+    if (!output) {
+        std::fprintf(stderr, "%s: could not be written\n", argv[1]);
+        return 1;
+    }
+    return 0;
+}
