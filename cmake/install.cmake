@@ -38,9 +38,10 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc DESTINATION ${CMAKE_INST
 if(TARGET kesto)
   install(TARGETS kesto RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
   install(FILES tools/kesto/kesto.bash RENAME kesto
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools OPTIONAL)
   # Where Wireshark looks for Lua of all users.
-  install(FILES dissector/kesto.lua DESTINATION ${CMAKE_INSTALL_LIBDIR}/wireshark/plugins COMPONENT tools)
+  install(FILES dissector/kesto.lua
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/wireshark/plugins COMPONENT tools OPTIONAL)
 endif()
 
 if(PROJECT_IS_TOP_LEVEL)
