@@ -1,11 +1,14 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where kesto is built, ifit-codec-tools. `./run package` makes
-# them. Changelog and copyright stand beside this file.
+# The Debian packages: libifit-codec1, libifit-codec-dev and, where kesto is built, ifit-codec-tools. `./run package`
+# makes them. Changelog and copyright stand beside this file.
 
+find_program(KESTO_GZIP gzip)
+if(NOT KESTO_GZIP)
+  return()
+endif()
 set(documents_in ${CMAKE_INSTALL_DATADIR}/doc)
 
 # Packs `file` as Debian wants it, the same bytes every time, and installs it under its name with .gz.
 function(kesto_install_compressed file folder component)
-  find_program(KESTO_GZIP gzip)
   get_filename_component(name ${file} NAME)
   set(packed ${CMAKE_CURRENT_BINARY_DIR}/packaging/${component}/${name}.gz)
   file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/packaging/${component})

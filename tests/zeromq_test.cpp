@@ -1,5 +1,5 @@
-// The transport over ZeroMQ inside one process, driven by hooks of this file's own: what goes out on channel 1 comes in on
-// channel 2.
+// The transport over ZeroMQ inside one process, driven by hooks of this file's own: what goes out on channel 1 comes in
+// on channel 2.
 
 #include <gtest/gtest.h>
 

@@ -14,8 +14,8 @@ struct Endpoint {
     char address[ENDPOINT_ROOM];
 };
 
-// Reads `file` and returns how many endpoints it names. A line that is not understood, or that says something else about
-// the same channel and destination than an earlier one, is reported on stderr under `name` and left out.
+// Reads `file` and returns how many endpoints it names. A line that is not understood, or is about the same place as an
+// earlier one, is reported on stderr under `name` and left out.
 uint32_t read_endpoints(FILE *file, const char *name, Endpoint (&endpoints)[MOST_ENDPOINTS]);
 
 #endif

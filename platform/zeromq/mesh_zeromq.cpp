@@ -1,12 +1,13 @@
-// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An item is
-// one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message, which ZeroMQ
-// carries as a whole or not at all.
+// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An item
+// is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message, which
+// ZeroMQ carries as a whole or not at all.
 
 #include <errno.h>
 #include <pthread.h>
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+#include <unistd.h>
 #include <zmq.h>
 
 #include "platform/mesh.h"
@@ -28,6 +29,7 @@ struct Place {
 
 constinit pthread_once_t opened = PTHREAD_ONCE_INIT;
 constinit void *zeromq{};
+constinit pid_t opener{};
 constinit Place places[MOST_ENDPOINTS]{};
 constinit uint32_t place_count{};
 
@@ -54,7 +56,7 @@ void *open_socket(const Endpoint &endpoint)
     zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest); // of a part; who sends more is cut off
     set(socket, ZMQ_LINGER, patience_ms);
     set(socket, ZMQ_SNDTIMEO, patience_ms);
-    set(socket, ZMQ_IMMEDIATE, 1); // nothing waits for a receiver that has not appeared yet, save the sender
+    set(socket, ZMQ_IMMEDIATE, 1); // a receiver that has not appeared yet keeps the sender waiting; nothing is queued
     const int result = endpoint.receives ? zmq_bind(socket, endpoint.address) : zmq_connect(socket, endpoint.address);
     if (result == 0)
         return socket;
@@ -69,12 +71,13 @@ void open_all()
     const char *const name = getenv("MESH_ZEROMQ_MAP");
     FILE *const file = name == nullptr ? nullptr : fopen(name, "re");
     if (file == nullptr) {
-        fprintf(stderr, "MESH over ZeroMQ: MESH_ZEROMQ_MAP names no file that can be read; all channels are loopbacks\n");
+        fprintf(stderr, "MESH over ZeroMQ: MESH_ZEROMQ_MAP names no readable file; all channels are loopbacks\n");
         return;
     }
     const uint32_t count = read_endpoints(file, name, endpoints);
     fclose(file);
     zeromq = zmq_ctx_new();
+    opener = getpid();
     for (uint32_t i = 0; i < count && zeromq != nullptr; ++i) {
         pthread_mutex_init(&places[i].mutex, nullptr);
         places[i].endpoint = endpoints[i];
@@ -83,9 +86,11 @@ void open_all()
     }
 }
 
-// What was sent last is given time to leave.
+// What was sent last is given time to leave. A child after a fork has nothing to close: ZeroMQ stayed with its parent.
 [[gnu::destructor]] void close_all()
 {
+    if (opener != getpid())
+        return;
     for (uint32_t i = 0; i < place_count; ++i)
         if (places[i].socket != nullptr)
             zmq_close(places[i].socket);

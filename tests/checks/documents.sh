@@ -16,8 +16,8 @@ awk -v folder="$work" '
         file = folder "/" name "." FNR ".c"
         if (parameters != "") {
             printf "#include <stdlib.h>\n#include <string.h>\n" > file
-            printf "#include \"ifit.h\"\n#include \"ifit_dfx.h\"\n#include \"ifit_sync.h\"\n#include \"ntvifit.h\"\n" > file
-            printf "#include \"platform/mesh.h\"\n#include \"platform/osal.h\"\n" > file
+            count = split("ifit ifit_dfx ifit_sync ntvifit platform/mesh platform/osal", headers, " ")
+            for (i = 1; i <= count; ++i) printf "#include \"%s.h\"\n", headers[i] > file
             printf "int body(%s);\nint body(%s)\n{\n", parameters, parameters > file
         }
         printf "#line %d \"%s\"\n", FNR + 1, FILENAME > file

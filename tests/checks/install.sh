@@ -42,8 +42,8 @@ if cmake -S "$consumer" -B "$work/future" -DCMAKE_PREFIX_PATH="$here" -DIfitCode
 fi
 
 export PKG_CONFIG_PATH=$lib/pkgconfig
-[ "$(pkg-config --modversion ifit-codec)" = "$(sed -n 's/^project(IfitCodec VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")" ] ||
-    fail "the version of ifit-codec.pc"
+version=$(sed -n 's/^project(IfitCodec VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")
+[ "$(pkg-config --modversion ifit-codec)" = "$version" ] || fail "the version of ifit-codec.pc"
 mkdir "$work/pkgconfig"
 read -ra compile < <(pkg-config --cflags ifit-codec)
 read -ra link < <(pkg-config --libs ifit-codec)

@@ -11,11 +11,12 @@ places=("$work/one" "$work/another/place, deeper")
 for place in "${places[@]}"; do
     mkdir -p "$place"
     cp -R "$sources"/{CMakeLists.txt,cmake,core,include,messages,packaging,platform} "$place"
-    cmake -G Ninja -S "$place" -B "$place/made" "$@" >"$work/log" 2>&1 && cmake --build "$place/made" >"$work/log" 2>&1 ||
+    { cmake -G Ninja -S "$place" -B "$place/made" "$@" && cmake --build "$place/made"; } >"$work/log" 2>&1 ||
         { cat "$work/log"; exit 1; }
     strip -o "$place/stripped.so" "$place/made/libifit_codec.so"
 done
 for file in made/libifit_codec.so stripped.so; do
     cmp "${places[0]}/$file" "${places[1]}/$file" || exit 1
 done
-echo "the same $(stat -Lc %s "${places[0]}/made/libifit_codec.so") bytes, $(stat -c %s "${places[0]}/stripped.so") stripped, from two folders"
+read -r all stripped < <(cd "${places[0]}" && stat -Lc %s made/libifit_codec.so stripped.so | tr '\n' ' ')
+echo "the same $all bytes, $stripped stripped, from two folders"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# sender and receiver of examples/ over ZeroMQ in place of the stand-in's sockets: on this host's loopback, to one of two
-# receivers by destination, and between two network namespaces where we may make some.
+# sender and receiver of examples/ over ZeroMQ in place of the stand-in's sockets: on this host's loopback, to one of
+# two receivers by destination, and between two network namespaces where we may make some.
 #
 #   zeromq.sh LIBRARY PROGRAM_FOLDER EXPECTED_OUTPUT
 set -uo pipefail
