@@ -30,6 +30,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfig.cmake ${CMAKE_CURRENT_
 
 # From the .pc file's own folder up to the prefix, and from there down.
 file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/ifit-codec)
 configure_file(cmake/ifit-codec.pc.in ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc @ONLY)

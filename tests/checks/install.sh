@@ -40,6 +40,7 @@ if cmake -S "$consumer" -B "$work/future" -DCMAKE_PREFIX_PATH="$here" -DIfitCode
     -DIFIT_CODEC_FROM=find_package -DIFIT_CODEC_WANTED=2.0 >"$work/log" 2>&1; then
     fail "version 1 is taken for version 2"
 fi
+grep -q 'compatible with requested version "2.0"' "$work/log" || { cat "$work/log"; fail "asking for version 2"; }
 
 export PKG_CONFIG_PATH=$lib/pkgconfig
 version=$(sed -n 's/^project(IfitCodec VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")

@@ -7,7 +7,7 @@ set -uo pipefail
 library=$1 programs=$2 expected=$3
 work=$(mktemp -d)
 first=kesto-$$-1 second=kesto-$$-2
-trap 'rm -rf "$work"; ip netns del $first; ip netns del $second' EXIT 2>/dev/null
+trap 'rm -rf "$work"; ip netns del $first 2>/dev/null; ip netns del $second 2>/dev/null' EXIT
 failed=0
 
 # $1: file that says where channels are, then the program. Ends what hangs.
