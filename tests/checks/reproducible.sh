@@ -18,5 +18,5 @@ done
 for file in made/libifit_codec.so stripped.so; do
     cmp "${places[0]}/$file" "${places[1]}/$file" || exit 1
 done
-read -r all stripped < <(cd "${places[0]}" && stat -Lc %s made/libifit_codec.so stripped.so | tr '\n' ' ')
-echo "the same $all bytes, $stripped stripped, from two folders"
+size() { stat -Lc %s "${places[0]}/$1"; }
+echo "the same $(size made/libifit_codec.so) bytes, $(size stripped.so) stripped, from two folders"
