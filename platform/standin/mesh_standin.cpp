@@ -10,6 +10,8 @@
 #include <time.h>
 #include <unistd.h>
 
+#include "platform/standin/mesh_transport.h"
+
 // The declarations carry the visibility; everything else of this library is hidden.
 #pragma GCC visibility push(default)
 #include "platform/mesh.h"
@@ -319,11 +321,18 @@ int send_packet(int peer, const MeshSendItem &item)
     return MESH_STANDIN_OK;
 }
 
-int send_bound(Channel &channel, const MeshSendItem *items, uint32_t count)
+bool fit_packets(const MeshSendItem *items, uint32_t count)
 {
     for (uint32_t i = 0; i < count; ++i)
         if (items[i].length > MESH_STANDIN_ITEM_BYTES)
-            return MESH_STANDIN_TOO_LONG;
+            return false;
+    return true;
+}
+
+int send_bound(Channel &channel, const MeshSendItem *items, uint32_t count)
+{
+    if (!fit_packets(items, count))
+        return MESH_STANDIN_TOO_LONG;
     int peer;
     int result = find_peer(channel, 0, peer);
     if (result == MESH_STANDIN_TIMEOUT)
@@ -331,6 +340,39 @@ int send_bound(Channel &channel, const MeshSendItem *items, uint32_t count)
     for (uint32_t i = 0; i < count && result == MESH_STANDIN_OK; ++i)
         result = send_packet(peer, items[i]);
     return result;
+}
+
+// The transport of a channel that this file does not carry itself.
+const MeshTransport *transport_of(uint32_t channel)
+{
+    const MeshTransport *const transport = mesh_transport();
+    return transport != nullptr && transport->carries(channel) ? transport : nullptr;
+}
+
+int send_elsewhere(const MeshTransport &transport, uint32_t channel, const MeshSendItem *items, uint32_t count,
+                   uint32_t destination)
+{
+    if (!fit_packets(items, count))
+        return MESH_STANDIN_TOO_LONG;
+    const int result = transport.send(channel, items, count, destination);
+    const Lock lock;
+    for (uint32_t i = 0; i < count && result == MESH_STANDIN_OK; ++i) {
+        ++counters.sent;
+        counters.bytes += items[i].length;
+    }
+    return result;
+}
+
+int receive_elsewhere(const MeshTransport &transport, uint32_t channel, uint64_t deadline, uint8_t *packet,
+                      uint32_t capacity, uint32_t &length)
+{
+    for (;;) {
+        const uint64_t now = now_ms();
+        const uint64_t left = deadline > now ? deadline - now : 0;
+        const int result = transport.receive(channel, static_cast<uint32_t>(left), packet, capacity, length);
+        if (result != MESH_STANDIN_TIMEOUT || now >= deadline)
+            return result;
+    }
 }
 
 int send_loopback(uint32_t channel, const MeshSendItem *items, uint32_t count)
@@ -381,6 +423,8 @@ int send_items(uint32_t channel, const MeshSendItem *items, uint32_t count, cons
     }
     for (uint32_t i = 0; checking && i < count; ++i)
         check(items[i]);
+    if (const MeshTransport *const transport = transport_of(channel))
+        return send_elsewhere(*transport, channel, items, count, destination != nullptr ? *destination : 0);
     const Use use(channel);
     if (use.result == MESH_STANDIN_NOT_BOUND)
         return send_loopback(channel, items, count);
@@ -449,6 +493,8 @@ int test_bind(uint32_t channel, const char *path, sockaddr_un &address)
         return MESH_STANDIN_UNKNOWN_CHANNEL;
     if (path == nullptr)
         return MESH_STANDIN_BAD_ARGUMENT;
+    if (transport_of(channel) != nullptr)
+        return MESH_STANDIN_BUSY;
     return make_address(path, address) ? MESH_STANDIN_OK : MESH_STANDIN_BAD_PATH;
 }
 
@@ -477,6 +523,12 @@ int try_connect(const sockaddr_un &address, int &peer)
 }
 
 } // namespace
+
+// Gives way to that of a library with a transport.
+[[gnu::weak]] const MeshTransport *mesh_transport()
+{
+    return nullptr;
+}
 
 // The four operations of MESH -----------------------------------------------------------------------------------------
 
@@ -648,7 +700,9 @@ int mesh_standin_receive(uint32_t number, uint32_t timeout_ms)
         return MESH_STANDIN_NO_MEMORY;
     uint32_t length = 0;
     int result;
-    {
+    if (const MeshTransport *const transport = transport_of(number)) {
+        result = receive_elsewhere(*transport, number, deadline, packet, capacity, length);
+    } else {
         // Ends before the delivery, so that the consumer may close the channel.
         const Use use(number);
         int peer = no_socket;

@@ -1,0 +1,50 @@
+# What `cmake --install` and CPack put where. Nothing in it names the prefix, so an installed tree can be moved.
+#
+#   runtime   the shared library
+#   dev       headers, the CMake package IfitCodec, ifit-codec.pc
+#   tools     the program kesto and the dissector, where they are built
+
+include(GNUInstallDirs)
+include(CMakePackageConfigHelpers)
+
+set(headers_in ${CMAKE_INSTALL_INCLUDEDIR}/ifit-codec)
+set(package_in ${CMAKE_INSTALL_LIBDIR}/cmake/IfitCodec)
+
+target_include_directories(ifit_codec INTERFACE $<INSTALL_INTERFACE:${headers_in}>)
+target_include_directories(ifit_codec_platform INTERFACE $<INSTALL_INTERFACE:${headers_in}>)
+
+install(TARGETS ifit_codec ifit_codec_platform EXPORT IfitCodec
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
+foreach(module IN LISTS KESTO_MODULES)
+  install(FILES include/${module}.h DESTINATION ${headers_in} COMPONENT dev)
+endforeach()
+install(FILES platform/mesh.h platform/osal.h DESTINATION ${headers_in}/platform COMPONENT dev)
+
+install(EXPORT IfitCodec NAMESPACE IfitCodec:: FILE IfitCodecTargets.cmake DESTINATION ${package_in} COMPONENT dev)
+configure_package_config_file(cmake/IfitCodecConfig.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfig.cmake
+  INSTALL_DESTINATION ${package_in} NO_SET_AND_CHECK_MACRO)
+write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfigVersion.cmake
+  DESTINATION ${package_in} COMPONENT dev)
+
+# From the .pc file's own folder up to the prefix, and from there down.
+file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
+string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
+file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
+file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/ifit-codec)
+configure_file(cmake/ifit-codec.pc.in ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+
+if(TARGET kesto)
+  install(TARGETS kesto RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
+  install(FILES tools/kesto/kesto.bash RENAME kesto
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools OPTIONAL)
+  # Where Wireshark looks for Lua of all users.
+  install(FILES dissector/kesto.lua
+    DESTINATION ${CMAKE_INSTALL_LIBDIR}/wireshark/plugins COMPONENT tools OPTIONAL)
+endif()
+
+if(PROJECT_IS_TOP_LEVEL)
+  include(packaging/packages.cmake)
+endif()

@@ -1,0 +1,80 @@
+# The Debian packages: libifit-codec1, libifit-codec-dev and, where kesto is built, ifit-codec-tools. `./run package`
+# makes them. Changelog and copyright stand beside this file.
+
+find_program(KESTO_GZIP gzip)
+if(NOT KESTO_GZIP)
+  return()
+endif()
+set(documents_in ${CMAKE_INSTALL_DATADIR}/doc)
+
+# Packs `file` as Debian wants it, the same bytes every time, and installs it under its name with .gz.
+function(kesto_install_compressed file folder component)
+  get_filename_component(name ${file} NAME)
+  set(packed ${CMAKE_CURRENT_BINARY_DIR}/packaging/${component}/${name}.gz)
+  file(MAKE_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/packaging/${component})
+  execute_process(COMMAND ${KESTO_GZIP} -9nc ${file} OUTPUT_FILE ${packed} COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
+endfunction()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_COMPONENTS_ALL runtime dev)
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libifit-codec1)
+set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
+if(TARGET kesto)
+  list(APPEND CPACK_COMPONENTS_ALL tools)
+  if(EXISTS ${PROJECT_SOURCE_DIR}/tools/kesto/kesto.1)
+    kesto_install_compressed(${PROJECT_SOURCE_DIR}/tools/kesto/kesto.1 ${CMAKE_INSTALL_MANDIR}/man1 tools)
+  endif()
+endif()
+foreach(component IN LISTS CPACK_COMPONENTS_ALL)
+  string(TOUPPER ${component} upper)
+  set(folder ${documents_in}/${CPACK_DEBIAN_${upper}_PACKAGE_NAME})
+  kesto_install_compressed(${PROJECT_SOURCE_DIR}/packaging/changelog.Debian ${folder} ${component})
+  install(FILES packaging/copyright DESTINATION ${folder} COMPONENT ${component})
+endforeach()
+
+set(CPACK_PACKAGE_NAME ifit-codec)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "ifit-codec maintainers <maintainers@example.org>")
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+
+# CPack has the library's scripts call ldconfig, which is harmless; Debian leaves it to this trigger.
+file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers "activate-noawait ldconfig\n")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers)
+
+set(about_the_codecs
+"The processes that measure live traffic in a network device exchange their
+tables, flow records, reports and statistics as byte strings. These codecs
+turn C records into such byte strings and back, 235 message types in all.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
+"message codecs for IFIT control software
+${about_the_codecs}
+.
+This package has the shared library. The messaging library MESH, which it
+calls, comes from the process.")
+set(CPACK_COMPONENT_DEV_DESCRIPTION
+"message codecs for IFIT control software - development files
+${about_the_codecs}
+.
+This package has the headers, the CMake package IfitCodec and ifit-codec.pc.")
+set(CPACK_COMPONENT_TOOLS_DESCRIPTION
+"tools that explain the messages of IFIT control software
+${about_the_codecs}
+.
+This package has the program kesto, which shows and makes such byte strings,
+and a dissector for Wireshark.")
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libifit-codec1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+include(CPack)

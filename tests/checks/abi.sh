@@ -1,0 +1,22 @@
+#!/usr/bin/env bash
+# Compares the binary interface of a library built with -g with the one that was committed: exported functions, their
+# parameters, every record's size, fields and offsets.
+#
+#   abi.sh BASELINE LIBRARY            a difference ends it with 1
+#   abi.sh --write BASELINE LIBRARY    makes LIBRARY's interface the baseline
+set -euo pipefail
+if [ "$1" = --write ]; then
+    # Without what says nothing of the interface: places in sources, names of parameters, folders.
+    abidw --no-show-locs --no-parameter-names --no-corpus-path --no-comp-dir-path --exported-interfaces-only "$3" |
+        gzip -9n >"$2"
+    echo "$2 written: $(zcat "$2" | grep -c '<function-decl') functions"
+    exit
+fi
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+zcat "$1" >"$work/committed.abi"
+abidiff --no-show-locs --leaf-changes-only --impacted-interfaces "$work/committed.abi" "$2" || {
+    echo "The binary interface of $2 is not that of $1. If that is meant: docs/integrating.md, then ./run abi --write"
+    exit 1
+}
+echo "$(grep -c '<function-decl' "$work/committed.abi") functions and their records as in $1"

@@ -1,0 +1,30 @@
+#!/usr/bin/env bash
+# Compiles each public header by itself, twice over, for every language that it promises.
+#
+#   headers.sh SOURCE_FOLDER
+set -euo pipefail
+cd "$1"
+warnings=(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+count=0 failed=0
+
+# $1 compiler, $2 language, then its standards
+try() {
+    local compiler=$1 language=$2 standard header
+    shift 2
+    command -v "$compiler" >/dev/null || { echo "no $compiler here"; return; }
+    for standard in "$@"; do
+        for header in "${headers[@]}"; do
+            printf '#include "%s"\n#include "%s"\n' "$header" "$header" |
+                "$compiler" -x "$language" -std="$standard" "${warnings[@]}" -Iinclude -I. -fsyntax-only - ||
+                { echo "FAILED: $compiler -std=$standard $header"; failed=1; }
+            count=$((count + 1))
+        done
+    done
+}
+
+headers=(include/*.h)
+headers=("${headers[@]#include/}" platform/mesh.h platform/osal.h)
+for compiler in gcc clang; do try $compiler c c99 c11 c17; done
+for compiler in g++ clang++; do try $compiler c++ c++11 c++17 c++20; done
+echo "$count compilations of ${#headers[@]} headers"
+exit $failed

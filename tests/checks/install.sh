@@ -1,0 +1,68 @@
+#!/usr/bin/env bash
+# Installs a build, moves what was installed, and builds and runs programs that have nothing else: by CMake and by
+# pkg-config, in C and in C++. Then the same programs with the sources taken along.
+#
+#   install.sh BUILD_FOLDER SOURCE_FOLDER
+set -euo pipefail
+build=$1 sources=$2 consumer=$2/tests/consumer
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+here=$work/moved/here
+
+fail() {
+    echo "FAILED: $*"
+    exit 1
+}
+
+quietly() {
+    "$@" >"$work/log" 2>&1 || { cat "$work/log"; fail "$*"; }
+}
+
+# Both consumers in folder $1 have to say what they were sent. The length is that of docs/wire-format.md's rules: 28.
+runs_well() {
+    local id=0x91cd149e
+    [ "$("$1/consumer_c")" = "C: message $id of 28 bytes says \"hello\"" ] || fail "$1/consumer_c"
+    [ "$("$1/consumer_cpp")" = "C++: message $id of 28 bytes says \"hello\"" ] || fail "$1/consumer_cpp"
+}
+
+quietly cmake --install "$build" --prefix "$work/first/place"
+mkdir "$work/moved" && mv "$work/first/place" "$here"
+lib=$(dirname "$(find "$here" -name libifit_codec.so)")
+[ "$(readlink "$lib/libifit_codec.so")" = libifit_codec.so.1 ] || fail "libifit_codec.so does not lead to the soname"
+grep -rlF -e "$work/first" -e "$sources" -e "$build" "$here" --include='*.cmake' --include='*.pc' --include='*.h' &&
+    fail "these name the folder they were made in"
+
+quietly cmake -G Ninja -S "$consumer" -B "$work/package" -DIFIT_CODEC_FROM=find_package -DCMAKE_PREFIX_PATH="$here" \
+    -DCMAKE_C_STANDARD=99 -DCMAKE_CXX_STANDARD=11
+quietly cmake --build "$work/package"
+runs_well "$work/package"
+if cmake -S "$consumer" -B "$work/future" -DCMAKE_PREFIX_PATH="$here" -DIfitCodec_DIR="$lib/cmake/IfitCodec" \
+    -DIFIT_CODEC_FROM=find_package -DIFIT_CODEC_WANTED=2.0 >"$work/log" 2>&1; then
+    fail "version 1 is taken for version 2"
+fi
+grep -q 'compatible with requested version "2.0"' "$work/log" || { cat "$work/log"; fail "asking for version 2"; }
+
+export PKG_CONFIG_PATH=$lib/pkgconfig
+version=$(sed -n 's/^project(IfitCodec VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")
+[ "$(pkg-config --modversion ifit-codec)" = "$version" ] || fail "the version of ifit-codec.pc"
+mkdir "$work/pkgconfig"
+read -ra compile < <(pkg-config --cflags ifit-codec)
+read -ra link < <(pkg-config --libs ifit-codec)
+quietly cc -std=c99 "${compile[@]}" -c "$consumer/mesh.c" -o "$work/pkgconfig/mesh.o"
+quietly cc -std=c99 "${compile[@]}" "$consumer/consumer.c" "$work/pkgconfig/mesh.o" "${link[@]}" \
+    -Wl,-rpath,"$lib" -o "$work/pkgconfig/consumer_c"
+quietly c++ -std=c++11 "${compile[@]}" "$consumer/consumer.cpp" "$work/pkgconfig/mesh.o" "${link[@]}" \
+    -Wl,-rpath,"$lib" -o "$work/pkgconfig/consumer_cpp"
+runs_well "$work/pkgconfig"
+echo "installed and moved: find_package and pkg-config, C and C++"
+
+# With the sources. FetchContent ends in an add_subdirectory, so one of the two is built; without optimisation.
+for way in add_subdirectory FetchContent; do
+    quietly cmake -G Ninja -S "$consumer" -B "$work/$way" -DIFIT_CODEC_FROM=$way -DIFIT_CODEC_SOURCES="$sources" \
+        -DCMAKE_BUILD_TYPE=None
+done
+quietly cmake --build "$work/FetchContent"
+runs_well "$work/FetchContent"
+quietly cmake --install "$work/FetchContent" --prefix "$work/nothing"
+[ -z "$(find "$work/nothing" -type f 2>/dev/null)" ] || fail "a program that takes the sources along installs them"
+echo "with the sources: FetchContent, add_subdirectory"

@@ -1,0 +1,146 @@
+// The transport over ZeroMQ inside one process, driven by hooks of this file's own: what goes out on channel 1 comes in
+// on channel 2.
+
+#include <gtest/gtest.h>
+
+#include <stdlib.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "platform/mesh.h"
+#include "platform/standin/mesh_standin.h"
+
+namespace {
+
+std::vector<std::string> seen;
+
+uint32_t unpack(const uint8_t *, uint32_t, void *)
+{
+    return 1;
+}
+
+void free_record(void *) {}
+
+void keep(void *, uint32_t channel, uint32_t id, const void *, uint32_t, const uint8_t *bytes, uint32_t length)
+{
+    const std::string content(reinterpret_cast<const char *>(bytes), length);
+    const bool uniform = length > 100 && content == std::string(length, content[0]);
+    seen.push_back(std::to_string(channel) + ":" + std::to_string(id) + " " +
+                   (uniform ? std::to_string(length) + " times " + content[0] : content));
+}
+
+MeshSendItem item(uint32_t id, const std::string &bytes)
+{
+    return {reinterpret_cast<const uint8_t *>(bytes.data()), id, static_cast<uint32_t>(bytes.size())};
+}
+
+// The map is read once per process, so all tests share it.
+class ZeroMq : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        ASSERT_NE(mkdtemp(folder), nullptr);
+        const std::string place = folder;
+        std::ofstream(place + "/map") << "# everything of one process\n"
+                                      << "2 receive ipc://" << place << "/two\n"
+                                      << "1 send    ipc://" << place << "/two   # also without a destination\n"
+                                      << "1 send    ipc://" << place << "/two to 0x7\n"
+                                      << "1 send    ipc://" << place << "/two to 7\n"
+                                      << "1 send    ipc://" << place << "/two to 8 9\n"
+                                      << "64 send   ipc://" << place << "/two\n"
+                                      << "3 sent    ipc://" << place << "/two\n"
+                                      << "4 send    nowhere\n"
+                                      << "5 send    ipc://" << place << "/nobody\n";
+        setenv("MESH_ZEROMQ_MAP", (place + "/map").c_str(), 1);
+        testing::internal::CaptureStderr();
+        ASSERT_EQ(mesh_standin_receive(2, 0), MESH_STANDIN_TIMEOUT);
+        reported = testing::internal::GetCapturedStderr();
+    }
+
+    static void TearDownTestSuite() { std::filesystem::remove_all(folder); }
+
+    void SetUp() override
+    {
+        mesh_standin_reset();
+        seen.clear();
+        ASSERT_EQ(MESH_RegIDLFuncHook(7, unpack, free_record), 0);
+        mesh_standin_set_consumer(MESH_STANDIN_EVERY_CHANNEL, keep, nullptr);
+    }
+
+    static inline char folder[] = "/tmp/zeromqXXXXXX";
+    static inline std::string reported;
+};
+
+TEST_F(ZeroMq, lines_that_are_not_understood_are_named_and_left_out)
+{
+    for (const char *line : {"map:5: an earlier line", "map:6: only \"to", "map:7: no such channel", "map:8: neither",
+                             "nowhere: "})
+        EXPECT_NE(reported.find(line), std::string::npos) << line << " in\n" << reported;
+    const std::string x = "x";
+    const MeshSendItem one = item(7, x);
+    EXPECT_EQ(MESH_SendMsg(3, &one, 1), MESH_STANDIN_OK) << "no line: a loopback";
+    EXPECT_EQ(MESH_SendMsg(4, &one, 1), MESH_STANDIN_BAD_PATH);
+    EXPECT_EQ(seen, (std::vector<std::string>{"3:7 x"}));
+}
+
+TEST_F(ZeroMq, items_arrive_in_order_one_a_call_and_an_unknown_id_keeps_nothing_back)
+{
+    const std::string a = "a", empty, longest(MESH_STANDIN_ITEM_BYTES, 'c');
+    const MeshSendItem items[] = {item(7, a), item(8, a), item(7, empty), item(7, longest)};
+    ASSERT_EQ(MESH_SendToMsg(1, items, 4, 7), MESH_STANDIN_OK);
+    std::vector<int> results;
+    for (int i = 0; i < 5; ++i)
+        results.push_back(mesh_standin_receive(2, i < 4 ? 5000 : 100));
+    EXPECT_EQ(results, (std::vector<int>{MESH_STANDIN_OK, MESH_STANDIN_UNKNOWN_ID, MESH_STANDIN_OK, MESH_STANDIN_OK,
+                                         MESH_STANDIN_TIMEOUT}));
+    EXPECT_EQ(seen, (std::vector<std::string>{"2:7 a", "2:7 ", "2:7 196608 times c"}));
+    MeshStandinCounters counters;
+    mesh_standin_counters(&counters);
+    EXPECT_EQ(counters.sent, 4u);
+    EXPECT_EQ(counters.delivered, 3u);
+}
+
+TEST_F(ZeroMq, a_batch_with_one_item_too_long_goes_not_at_all)
+{
+    const std::string a = "a", too_long(MESH_STANDIN_ITEM_BYTES + 1, 'c');
+    const MeshSendItem items[] = {item(7, a), item(7, too_long)};
+    EXPECT_EQ(MESH_SendMsg(1, items, 2), MESH_STANDIN_TOO_LONG);
+    EXPECT_EQ(mesh_standin_receive(2, 100), MESH_STANDIN_TIMEOUT);
+}
+
+TEST_F(ZeroMq, what_the_map_does_not_say_is_refused)
+{
+    const std::string x = "x";
+    const MeshSendItem one = item(7, x);
+    EXPECT_EQ(MESH_SendToMsg(1, &one, 1, 8), MESH_STANDIN_NO_PEER);
+    EXPECT_EQ(MESH_SendMsg(2, &one, 1), MESH_STANDIN_NO_PEER);
+    EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_NOT_BOUND);
+    EXPECT_EQ(mesh_standin_listen(1, "/tmp/nothing"), MESH_STANDIN_BUSY);
+    EXPECT_EQ(mesh_standin_connect(1, "/tmp/nothing", 0), MESH_STANDIN_BUSY);
+    EXPECT_EQ(MESH_SendMsg(5, &one, 1), MESH_STANDIN_TIMEOUT) << "nobody has come in five seconds";
+}
+
+TEST_F(ZeroMq, many_threads_send_without_mixing_their_batches)
+{
+    constexpr int threads = 4, batches = 100;
+    std::vector<std::thread> senders;
+    for (int t = 0; t < threads; ++t)
+        senders.emplace_back([t] {
+            const std::string first = "first of " + std::to_string(t), second = "second of " + std::to_string(t);
+            const MeshSendItem items[] = {item(7, first), item(7, second)};
+            for (int i = 0; i < batches; ++i)
+                EXPECT_EQ(MESH_SendMsg(1, items, 2), MESH_STANDIN_OK);
+        });
+    for (int i = 0; i < 2 * threads * batches; ++i)
+        ASSERT_EQ(mesh_standin_receive(2, 5000), MESH_STANDIN_OK);
+    for (std::thread &sender : senders)
+        sender.join();
+    for (std::size_t i = 0; i + 1 < seen.size(); i += 2)
+        EXPECT_EQ(seen[i].substr(seen[i].find("of")), seen[i + 1].substr(seen[i + 1].find("of"))) << i;
+}
+
+} // namespace
