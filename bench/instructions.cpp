@@ -1,9 +1,13 @@
-// Runs each operation of the library under callgrind, one dump for each case of the benchmark; instructions.py reads
-// them. Every operation runs once on each record of a set.
+// Runs each operation of the library, every one once on each record of a set, for whoever counts its instructions:
+// callgrind, which is told where to begin and to end, or the emulator's plugin (count_plugin.c), which listens for
+// writes to file -1. instructions.py runs both, and reads from this program which cases it counted.
 
-#include <valgrind/callgrind.h>
+#include <unistd.h>
 
 #include <cstdio>
+#if defined(__x86_64__) || defined(__i386__)
+#include <valgrind/callgrind.h>
+#endif
 
 #include "bench/ours.h"
 
@@ -13,20 +17,35 @@ namespace {
 
 u8 buffer[1 << 20];
 
-// Once for all that is done only once and for the heap, then once counted. A dump's name says how many operations it
-// is.
+void begin_count()
+{
+    (void)!write(-1, "", 0);
+#ifdef CALLGRIND_START_INSTRUMENTATION
+    CALLGRIND_START_INSTRUMENTATION;
+    CALLGRIND_ZERO_STATS;
+#endif
+}
+
+void end_count()
+{
+#ifdef CALLGRIND_START_INSTRUMENTATION
+    CALLGRIND_DUMP_STATS;
+    CALLGRIND_STOP_INSTRUMENTATION;
+#endif
+    (void)!write(-1, "", 0);
+}
+
+// Once for all that is done only once and for the heap, then once counted.
 template <class Operation>
 void count(const std::string& name, std::size_t records, Operation&& operation)
 {
-    const std::string dump = name + " " + std::to_string(records);
+    std::printf("%s %zu\n", name.c_str(), records);
     for (std::size_t i = 0; i < records; ++i)
         operation(i);
-    CALLGRIND_START_INSTRUMENTATION;
-    CALLGRIND_ZERO_STATS;
+    begin_count();
     for (std::size_t i = 0; i < records; ++i)
         operation(i);
-    CALLGRIND_DUMP_STATS_AT(dump.c_str());
-    CALLGRIND_STOP_INSTRUMENTATION;
+    end_count();
 }
 
 void count_decodes(const std::string& name, const Operations& library, const ByteStrings& strings)
@@ -60,10 +79,6 @@ void count_all(const RecordSet& set)
 
 int main()
 {
-    if (!RUNNING_ON_VALGRIND) {
-        std::fprintf(stderr, "to be run by instructions.py\n");
-        return 2;
-    }
     for (const kesto::bench::RecordSet& set : kesto::bench::make_all_records())
         if (set.fill != kesto::bench::Fill::varied)   // takes as many as sparse
             kesto::bench::count_all(set);

@@ -1,7 +1,9 @@
-"""Counts the library's instructions per operation, as valgrind sees them, and compares them with bench/instructions.txt.
+"""Counts the library's instructions per operation, and compares them with bench/instructions-TARGET.txt.
 
-  instructions.py PROGRAM            fails where a case got dearer by more than 3 %
-  instructions.py PROGRAM --write    renews the file
+  instructions.py TARGET PROGRAM            fails where a case got dearer by more than 3 %
+  instructions.py TARGET PROGRAM --write    renews the file
+
+Valgrind counts what it can run; for ARM, --plugin names the emulator's plugin that does.
 
 The counts take in what the library calls in libc, and so depend on compiler and libc; they do not depend on what else
 the machine is doing.
@@ -15,51 +17,66 @@ import subprocess
 import sys
 import tempfile
 
-COMMITTED = pathlib.Path(__file__).parent / "instructions.txt"
 ROOM = 0.03
 # libc picks its memcpy by the processor; without these it picks the same one everywhere.
 LIBC = "glibc.cpu.hwcaps=-AVX2,-AVX512VL,-ERMS,-FSRM"
 
 
-def count(program):
+def under_callgrind(program, folder):
+    """What the program says, and how many instructions it took between each begin and end."""
+    said = subprocess.run(["valgrind", "--tool=callgrind", "--instr-atstart=no", "-q",
+                           f"--callgrind-out-file={folder}/dump", program], check=True, capture_output=True, text=True,
+                          env={**os.environ, "GLIBC_TUNABLES": LIBC}).stdout
+    dumps = sorted(pathlib.Path(folder).glob("dump.*"), key=lambda path: int(path.suffix[1:]))
+    totals = [re.search(r"^(?:summary|totals): (\d+)", path.read_text(encoding="utf-8"), re.MULTILINE) for path in dumps]
+    return said, [int(total[1]) for total in totals]
+
+
+def under_emulator(program, folder, plugin, root):
+    log = pathlib.Path(folder) / "log"
+    said = subprocess.run(["qemu-arm", "-L", root, "-plugin", plugin, "-d", "plugin", "-D", log, program], check=True,
+                          capture_output=True, text=True).stdout
+    return said, [int(line) for line in log.read_text(encoding="utf-8").split()]
+
+
+def count(options):
     """Instructions per operation, by case."""
-    counts = {}
     with tempfile.TemporaryDirectory() as folder:
-        subprocess.run(["valgrind", "--tool=callgrind", "--instr-atstart=no", "-q",
-                        f"--callgrind-out-file={folder}/dump", program],
-                       check=True, env={**os.environ, "GLIBC_TUNABLES": LIBC})
-        for path in pathlib.Path(folder).iterdir():
-            text = path.read_text(encoding="utf-8")
-            name = re.search(r"^desc: Trigger: Client Request: (\S+) (\d+)$", text, re.MULTILINE)
-            if name:   # the last dump is that of the program's end
-                total = re.search(r"^(?:summary|totals): (\d+)", text, re.MULTILINE)
-                counts[name[1]] = int(total[1]) / int(name[2])
-    return dict(sorted(counts.items()))
+        said, totals = (under_emulator(options.program, folder, options.plugin, "/usr/arm-linux-gnueabihf")
+                        if options.plugin else under_callgrind(options.program, folder))
+    cases = [line.split() for line in said.splitlines()]
+    if len(cases) != len(totals):   # callgrind dumps once more at the end of the program
+        sys.exit(f"{len(cases)} cases and {len(totals)} counts")
+    return dict(sorted((name, total / int(operations)) for (name, operations), total in zip(cases, totals)))
 
 
-def read_committed():
-    lines = COMMITTED.read_text(encoding="utf-8").splitlines() if COMMITTED.exists() else []
+def read_committed(path):
+    lines = path.read_text(encoding="utf-8").splitlines() if path.exists() else []
     return {line.split()[0]: float(line.split()[1]) for line in lines if line and not line.startswith("#")}
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("target")
     parser.add_argument("program")
+    parser.add_argument("--plugin")
+    parser.add_argument("--compiler", default="c++")
     parser.add_argument("--write", action="store_true")
     options = parser.parse_args()
-    counts = count(options.program)
+    path = pathlib.Path(__file__).parent / f"instructions-{options.target}.txt"
+    counts = count(options)
     if not counts:
         print("nothing was counted")
         return 1
     if options.write:
-        compiler = subprocess.run(["c++", "--version"], capture_output=True, text=True, check=True).stdout.split("\n")[0]
+        compiler = subprocess.run([options.compiler, "--version"], capture_output=True, text=True, check=True).stdout.split("\n")[0]
         libc = subprocess.run(["ldd", "--version"], capture_output=True, text=True, check=True).stdout.split("\n")[0]
         lines = ["# Instructions per operation. Renewed by `./run instructions --write`.", f"# {compiler}; {libc}", ""]
         lines += [f"{name:58} {instructions:10.1f}" for name, instructions in counts.items()]
-        COMMITTED.write_text("\n".join(lines) + "\n", encoding="utf-8")
-        print(f"{len(counts)} cases written to {COMMITTED}")
+        path.write_text("\n".join(lines) + "\n", encoding="utf-8")
+        print(f"{len(counts)} cases written to {path}")
         return 0
-    committed = read_committed()
+    committed = read_committed(path)
     dearer = cheaper = 0
     for name, instructions in counts.items():
         before = committed.get(name)
