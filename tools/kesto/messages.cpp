@@ -46,8 +46,8 @@ std::vector<const tools::MessageInfo*> infos_in_order()
     return all;
 }
 
-// Letters to insert, delete or replace.
-std::size_t distance(std::string_view left, std::string_view right)
+// Letters to insert, delete or replace that make `left` the beginning of `right`.
+std::size_t distance_to_beginning(std::string_view left, std::string_view right)
 {
     std::vector<std::size_t> row(right.size() + 1);
     std::iota(row.begin(), row.end(), std::size_t{0});
@@ -60,7 +60,7 @@ std::size_t distance(std::string_view left, std::string_view right)
             row[j + 1] = std::min({replaced, row[j] + 1, row[j + 1] + 1});
         }
     }
-    return row[right.size()];
+    return *std::min_element(row.begin(), row.end());
 }
 
 }   // namespace
@@ -120,15 +120,15 @@ const Message* find_message(std::string_view name_or_id)
 std::vector<std::string> suggestions(std::string_view name)
 {
     struct Candidate {
-        std::size_t score;
+        std::pair<std::size_t, std::size_t> score;   // letters that are wrong, letters that are missing
         const std::string* name;
     };
     std::vector<Candidate> near;
     for (const Message& message : catalogue().messages) {
-        const std::size_t letters = distance(name, message.name);
+        const std::size_t wrong = distance_to_beginning(name, message.name);
         const bool holds = name.size() >= 3 && message.name.find(name) != std::string::npos;
-        if (holds || letters <= std::max<std::size_t>(2, name.size() / 5))
-            near.push_back({letters, &message.name});
+        if (holds || wrong <= std::min<std::size_t>(3, name.size() / 4))
+            near.push_back({{holds ? 0 : wrong, message.name.size()}, &message.name});
     }
     std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.score < b.score; });
     near.resize(std::min<std::size_t>(near.size(), 5));
