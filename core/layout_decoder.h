@@ -39,7 +39,7 @@ template <class L>
     if constexpr (L::is_small)
         return read_full_table_here<L>(in, table, record);
     else
-        return read_large_full_table<L>(in, table, record);
+        return holds_bytes(in, FullForm<L>::length) && read_large_full_table<L>(in, table, record);
 }
 
 // A message in fixed form.
@@ -137,6 +137,13 @@ template <class L>
     return read_plain_table_here<L>(in, table, record);
 }
 
+// The same where speed is worth a copy of the code, if it is a short one.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool read_short_table(Input in, u32 table, u8* record)
+{
+    return L::is_tiny ? read_plain_table_here<L>(in, table, record) : read_plain_table<L>(in, table, record);
+}
+
 // ---- nested tables ----
 
 template <class L>
@@ -224,9 +231,7 @@ bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const Ne
     for (; i < count; ++i, record += L::record_size) {
         if (!element_table(in, cells, i, table))
             return false;
-        const bool done =
-            L::is_tiny ? read_plain_table_here<L>(in, table, record) : read_plain_table<L>(in, table, record);
-        if (!done && !decode_nested_anew(in, table, record, element))
+        if (!read_short_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
             return false;
     }
     return true;
@@ -314,7 +319,7 @@ template <class L>
         return true;
     } else {
         if (!(table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) &&
-            !read_plain_table<L>(in, table, record))
+            !read_short_table<L>(in, table, record))
             return false;
         ensure_memory_services(*decoder.unit);
         return true;

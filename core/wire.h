@@ -227,13 +227,14 @@ template <class In>
 // The bounds of many fields at once: the offsets of as many slots as a word has lanes of 16 bits.
 
 #ifdef __SSE2__
-// Eight slots. No lane of the result has a bit if and only if offset <= limit in all of them.
+// Eight slots. No lane of the result has a bit if and only if offset + width <= room in all of them. The sum stops at
+// 0xFFFF, which is more than any room that is told apart.
 using WideLanes = __m128i;
 constexpr u32 wide_lanes = 8;
 
-inline WideLanes lanes_beyond(const WideLanes& limits, const WideLanes& offsets)
+inline WideLanes lanes_beyond(const WideLanes& room, const WideLanes& widths, const WideLanes& offsets)
 {
-    return _mm_subs_epu16(offsets, limits);
+    return _mm_subs_epu16(_mm_adds_epu16(offsets, widths), room);
 }
 #else
 constexpr u32 wide_lanes = 0xFFFFFFFF;   // there are none
@@ -247,7 +248,7 @@ constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
 constexpr u32 largest_lane = 0x7FFF;
 
 // The greatest room that can be told apart.
-constexpr u32 largest_room(std::size_t slots) { return slots >= wide_lanes ? 0xFFFF : largest_lane; }
+constexpr u32 largest_room(std::size_t slots) { return slots >= wide_lanes ? 0xFFFE : largest_lane; }
 
 template <class W>
 constexpr W each_lane(W value)
@@ -301,10 +302,10 @@ template <std::size_t N>
         each_group<wide_lanes>(
             slots, [&](u32 first) __attribute__((always_inline)) {
                 const auto width = [&](u32 i) { return short{widths.of[first + i]}; };
-                const WideLanes limits = _mm_sub_epi16(room, _mm_setr_epi16(width(0), width(1), width(2), width(3),
-                                                                            width(4), width(5), width(6), width(7)));
+                const WideLanes fields =
+                    _mm_setr_epi16(width(0), width(1), width(2), width(3), width(4), width(5), width(6), width(7));
                 const WideLanes offsets = in.load_wide_unchecked(view.vtable, vtable_head_bytes + slot_bytes * first);
-                beyond = _mm_or_si128(beyond, lanes_beyond(limits, offsets));   // holds_slots
+                beyond = _mm_or_si128(beyond, lanes_beyond(room, fields, offsets));   // holds_slots
             });
         return _mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) == 0xFFFF;
     }
@@ -337,8 +338,10 @@ template <class T>
 [[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset,
                                                       u8* field)
 {
-    const T value = load<T>(in.bytes_unchecked(view.table, offset, sizeof(T)));   // scalars_fit
-    const T present = offset != 0 ? value : T{0};
+    std::size_t behind = offset;
+    asm("" : "+r"(behind));   // one register for the test and the address, where the compiler would copy it
+    const T value = load<T>(in.bytes_unchecked(view.table, 0, 0) + behind);   // scalars_fit
+    const T present = behind != 0 ? value : T{0};
     std::memcpy(field, &present, sizeof present);
 }
 
