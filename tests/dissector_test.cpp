@@ -1,12 +1,16 @@
 // The packet analyser's script against the reference: every range that it shows, and its verdict.
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <map>
+#ifdef KESTO_PROGRAM
+#include <nlohmann/json.hpp>
+#endif
 #include <set>
 
 #include "fuzz/inputs.h"
@@ -488,6 +492,118 @@ TEST_F(Dissector, names_packets_that_are_no_messages_as_the_reader_does)
     EXPECT_FALSE(reader.next(packet, error));
     EXPECT_EQ(packet.number, 8u);
 }
+
+#ifdef KESTO_PROGRAM
+
+// Field and value, as take_tag gives values. Nothing and zeros are left out: whether they stand in the bytes, the
+// record does not tell.
+using Values = std::multiset<std::string>;
+
+void add_value(Values& values, const std::string& field, const std::string& value)
+{
+    if (value.find_first_not_of('0') != std::string::npos)
+        values.insert(field + " " + value);
+}
+
+std::string text_value(const nlohmann::json& text)
+{
+    if (text.is_object())
+        return text.at("hex");
+    const std::string plain = text.is_null() ? std::string() : text.get<std::string>();
+    return hex(reinterpret_cast<const u8*>(plain.data()), plain.size());
+}
+
+void add_record(Values& values, const tools::MessageInfo& message, const nlohmann::json& record,
+                const std::string& path)
+{
+    for (const tools::SlotInfo& slot : message.slots) {
+        const nlohmann::json& value = record.at(slot.field);
+        const std::string field = path + "." + slot.field;
+        if (slot.kind == tools::SlotKind::table)
+            add_record(values, *slot.nested, value, field);
+        else if (slot.kind == tools::SlotKind::string)
+            add_value(values, field, text_value(value));
+        else if (value.is_number())
+            add_value(values, field, value.dump());
+        else if (value.is_string())   // u64 or hex digits
+            add_value(values, field, value.get<std::string>());
+        for (const nlohmann::json& element : value.is_array() ? value : nlohmann::json::array())
+            if (slot.nested != nullptr)
+                add_record(values, *slot.nested, element, field);
+            else
+                add_value(values, field, element.dump());
+    }
+}
+
+bool is_table(const tools::MessageInfo& message, std::string_view path)
+{
+    const std::size_t end = path.find('.');
+    for (const tools::SlotInfo& slot : message.slots)
+        if (slot.field == path.substr(0, end))
+            return slot.nested != nullptr &&
+                   (end == std::string_view::npos || is_table(*slot.nested, path.substr(end + 1)));
+    return false;
+}
+
+Values values_shown(const Shown& shown, const tools::MessageInfo& message)
+{
+    Values values;
+    const std::string head = "kesto." + message.name + ".";
+    for (const std::string& line : shown.fields) {
+        const std::string field = line.substr(0, line.find(' '));
+        if (field.starts_with(head) && !is_table(message, std::string_view(field).substr(head.size())))
+            add_value(values, field, line.substr(line.rfind(' ') + 1));
+    }
+    return values;
+}
+
+TEST_F(Dissector, shows_the_values_and_refusals_that_kesto_prints)
+{
+    std::vector<Case> cases;
+    for (const Message& message : transcribed().messages) {
+        Random random(message.id);
+        cases.push_back({&message, compact_form(random_record(message, Density::full, random))});
+        Bytes cut = cases.back().bytes;
+        cut.resize(random.below(static_cast<u32>(cut.size())));
+        cases.push_back({&message, cut});
+    }
+    const std::vector<Shown> all = check(cases);
+    std::FILE* const pipe = popen(("'" KESTO_PROGRAM "' decode --pcap " + path).c_str(), "r");
+    ASSERT_NE(pipe, nullptr);
+    std::vector<nlohmann::json> packets;
+    char* line = nullptr;
+    std::size_t room = 0;
+    while (getline(&line, &room, pipe) > 0)
+        packets.push_back(nlohmann::json::parse(line));
+    std::free(line);
+    const int status = pclose(pipe);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
+    ASSERT_EQ(packets.size(), cases.size());
+    std::size_t refused = 0, compared = 0;
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        const nlohmann::json& packet = packets[i];
+        const tools::MessageInfo& message = *tools::find_message(cases[i].message->name);
+        ASSERT_EQ(packet.at("packet"), i + 1);
+        EXPECT_EQ(packet.at("message"), message.name);
+        ASSERT_EQ(packet.contains("refused"), !all[i].refused.empty()) << packet;
+        if (packet.contains("refused")) {
+            std::string verdict = packet["refused"].at("code");
+            for (const char* number : {"position", "value", "limit"})
+                verdict += " " + packet["refused"].at(number).dump();
+            EXPECT_EQ(verdict, all[i].refused) << packet;
+            ++refused;
+            continue;
+        }
+        Values printed;
+        add_record(printed, message, packet.at("record"), "kesto." + message.name);
+        EXPECT_EQ(printed, values_shown(all[i], message)) << packet;
+        compared += printed.size();
+    }
+    EXPECT_GT(refused, 100u);
+    EXPECT_GT(compared, 1000u);
+}
+
+#endif
 
 TEST_F(Dissector, finds_messages_by_their_fields)
 {

@@ -91,7 +91,10 @@ TEST_F(ZeroMq, items_arrive_in_order_one_a_call_and_an_unknown_id_keeps_nothing_
 {
     const std::string a = "a", empty, longest(MESH_STANDIN_ITEM_BYTES, 'c');
     const MeshSendItem items[] = {item(7, a), item(8, a), item(7, empty), item(7, longest)};
+    const std::string capture = std::string(folder) + "/capture";
+    ASSERT_EQ(mesh_standin_capture(capture.c_str()), MESH_STANDIN_OK);
     ASSERT_EQ(MESH_SendToMsg(1, items, 4, 7), MESH_STANDIN_OK);
+    EXPECT_EQ(MESH_SendToMsg(1, items, 4, 8), MESH_STANDIN_NO_PEER);
     std::vector<int> results;
     for (int i = 0; i < 5; ++i)
         results.push_back(mesh_standin_receive(2, i < 4 ? 5000 : 100));
@@ -102,6 +105,9 @@ TEST_F(ZeroMq, items_arrive_in_order_one_a_call_and_an_unknown_id_keeps_nothing_
     mesh_standin_counters(&counters);
     EXPECT_EQ(counters.sent, 4u);
     EXPECT_EQ(counters.delivered, 3u);
+    ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
+    EXPECT_EQ(std::filesystem::file_size(capture), 24 + 2 * (4 * (16 + 8) + 1 + 1 + 0 + MESH_STANDIN_ITEM_BYTES))
+        << "each item that left, and each that came";
 }
 
 TEST_F(ZeroMq, a_batch_with_one_item_too_long_goes_not_at_all)

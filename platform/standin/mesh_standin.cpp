@@ -355,8 +355,9 @@ int send_elsewhere(const MeshTransport &transport, uint32_t channel, const MeshS
     if (!fit_packets(items, count))
         return MESH_STANDIN_TOO_LONG;
     const int result = transport.send(channel, items, count, destination);
-    const Lock lock;
     for (uint32_t i = 0; i < count && result == MESH_STANDIN_OK; ++i) {
+        capture_packet(Packet(items[i]).pieces, 2);
+        const Lock lock;
         ++counters.sent;
         counters.bytes += items[i].length;
     }

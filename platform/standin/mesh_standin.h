@@ -25,10 +25,11 @@
  *
  * Capture: with MESH_STANDIN_CAPTURE=file in the environment, or after mesh_standin_capture, everything that passes goes to a
  * pcap file of link type USER0 (147), in the form of the packets above and once per process: an item before it is delivered
- * on a loopback, a packet after it has left on a socket, and a packet that was received, whatever is in it. A packet longer
- * than 262144 bytes, which only a loopback takes, is cut to them. %p in the name stands for the process id. An older file is
- * replaced; one that another process is writing is not touched. A child after a fork needs a file of its own, and so the
- * %p. When the file cannot be opened or written, a line on stderr says so once, and messages pass as they would have.
+ * on a loopback, a packet after it has left on a socket or over another transport, and a packet that was received, whatever
+ * is in it. A packet longer than 262144 bytes, which only a loopback takes, is cut to them. %p in the name stands for the
+ * process id. An older file is replaced; one that another process is writing is not touched. A child after a fork needs a
+ * file of its own, and so the %p. When the file cannot be opened or written, a line on stderr says so once, and messages
+ * pass as they would have.
  *
  * Threads: everything may be called from any thread, save mesh_standin_reset. Hooks and consumers run without a lock held
  * and may themselves send. */

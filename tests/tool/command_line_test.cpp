@@ -8,6 +8,8 @@
 #include <fstream>
 #include <string>
 
+#include "tests/support/capture_file.h"
+
 namespace {
 
 struct Result {
@@ -78,6 +80,9 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain --hex 00", 2, "a MESSAGE is needed"},
         {"explain" + named + " --no-such-option", 2, "--no-such-option"},
         {"", 2, "subcommand"},
+        {"decode --pcap x" + named, 2, "excludes --pcap"},
+        {"decode --packet 1" + named, 2, "--packet requires --pcap"},
+        {"explain --pcap /nowhere/at/all", 2, KESTO_CAN_CAPTURE ? "/nowhere/at/all: No such" : "without libpcap"},
         {"list glbdata_item", 0, item},
         {"list nothing_like_it", 1, ""},
         {"show" + named, 0, "string"},
@@ -120,6 +125,9 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("encode --form c"), "compact\n");
     EXPECT_EQ(completions("decode --line ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
     EXPECT_EQ(completions("diff ifit_mcp_mesh /dev/nul"), "/dev/null\n");
+    EXPECT_EQ(completions("explain --pcap /dev/nul"), "/dev/null\n");
+    EXPECT_EQ(completions("decode --pcap x --message ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
+    EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
 }
 
 class Files : public testing::Test {
@@ -155,6 +163,76 @@ TEST_F(Files, diff_compares_records_and_not_bytes)
     EXPECT_EQ(differs.output, ".f0: 7  8\n");
     EXPECT_EQ(kesto(diff + "/dev/null").exit_code, 2);
 }
+
+#if KESTO_CAN_CAPTURE
+
+using kesto::tests::Bytes;
+
+std::size_t count_of(const std::string& text, const std::string& part)
+{
+    std::size_t count = 0;
+    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size())
+        ++count;
+    return count;
+}
+
+// 1 a text, 2 one cut short, 3 a packet whose length lies, 4 an unknown id, 5 less than a head, 6 as 1.
+Bytes capture_of_six()
+{
+    constexpr std::uint32_t id = 0x91cd149e;
+    const Bytes text{10, 0, 0, 0, 6, 0, 0x12, 0, 4, 0, 6, 0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 'h', 'e', 'l', 'l', 'o', 0};
+    const Bytes cut(text.begin(), text.begin() + 26);
+    Bytes capture = kesto::tests::capture_head(147);
+    add_packet(capture, kesto::tests::packet_of(id, text));
+    add_packet(capture, kesto::tests::packet_of(id, cut));
+    add_packet(capture, kesto::tests::packet_of(id, text, 27));
+    add_packet(capture, kesto::tests::packet_of(5, text));
+    kesto::tests::add_packet(capture, {{1, 2, 3}, 3});
+    add_packet(capture, kesto::tests::packet_of(id, text));
+    return capture;
+}
+
+TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
+{
+    const std::string file = path("capture"), broken = path("broken");
+    Bytes capture = capture_of_six();
+    kesto::tests::write_file(file, capture);
+    capture.pop_back();
+    kesto::tests::write_file(broken, capture);
+    const struct {
+        std::string arguments;
+        int exit_code;
+        std::size_t lines;   // 0: not counted
+        const char* says;
+    } cases[] = {
+        {"decode --pcap " + file + " --packet 6", 0, 1,
+         "{\"packet\":6,\"time\":\"2023-11-14T22:13:20.000250Z\",\"id\":\"0x91cd149e\","
+         "\"message\":\"ifit_dfx_query_glbdata_item_mesh\",\"record\":{\"f0\":\"hello\"}}\n"},
+        {"decode --pcap " + file, 1, 6, "\"refused\":{\"code\":\"body_end\",\"path\":\".f0\",\"position\":18,"},
+        {"decode --pcap - <" + file, 1, 6, "\"fault\":\"short_packet\""},
+        {"decode --pcap " + file + " --message " + item, 1, 4, "\"packet\":3,"},
+        {"decode --pcap " + file + " --memory 5 --message 0x91cd149e", 2, 4, "\"error\":\"decoding takes 6 bytes"},
+        {"decode --pcap " + file + " --message ifit_mcp_mesh", 1, 1, "no such packet among 6"},
+        {"decode --pcap " + file + " --packet 7", 1, 1, "no such packet among 6"},
+        {"decode --pcap " + file + " --message ifit_mpc_mesh", 2, 0, "ifit_mcp_mesh"},
+        {"decode --pcap " + broken, 2, 6, "behind packet 5: truncated"},
+        {"explain --pcap " + broken + " --packet 1", 0, 0, "accepted: compact form"},
+        {"explain --pcap " + file + " --packet 2", 1, 0, "refused: body_end at .f0, position 18"},
+        {"explain --pcap " + file + " --packet 4", 1, 2,
+         "packet 4, 2023-11-14T22:13:20.000250Z: no message: unknown_id"},
+        {"explain --raw --pcap " + file + " --packet 4", 0, 0, "written just so for: ifit_dfx_query_glbdata_item_mesh"},
+        {"explain --json --pcap " + file, 1, 6, "\"fault\":\"length_disagrees\""},
+    };
+    for (const auto& each : cases) {
+        const Result result = kesto(each.arguments);
+        EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
+        EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
+        EXPECT_TRUE(each.lines == 0 || count_of(result.output, "\n") == each.lines) << each.arguments << "\n"
+                                                                                    << result.output;
+    }
+}
+
+#endif
 
 // Text from the byte string must not become part of the page.
 TEST_F(Files, a_page_holds_foreign_text_as_text)

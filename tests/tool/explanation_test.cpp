@@ -194,6 +194,8 @@ TEST(Refusals, mark_what_was_read_last)
     const Explanation explanation = explain(*find_message("ifit_mcp_mesh_delete"), bytes);
     for (const command::Range& range : explanation.ranges)
         EXPECT_EQ(range.read_last, range.position == 24) << range.position;
+    EXPECT_NE(explanation_text(explanation, {}).find("the cell of .f1[0] at position 24 leads there: to 24 + 15 = 39"),
+              std::string::npos);
 }
 
 TEST(Refusals, of_a_lenient_table_are_shown_and_ignored)
@@ -237,6 +239,8 @@ TEST(Notes, tell_what_passes_without_a_word)
          damaged(one_element(), 32, "02"),
          {"field_in_table_head 32 .f1[0].f0", "overlap 36 .f1[0].f0"}},
         {"ifit_dfx_query_glbdata_item_mesh", one_text(), {}},
+        {"ifit_dfx_query_glbdata_item_mesh", bytes_from_hex("9e14cd91 04000000 00000000"), {"packet_head 0 ."}},
+        {"ifit_dfx_query_glbdata_item_mesh", bytes_from_hex("9e14cd91 05000000 00000000"), {}},
         {"ifit_dfx_query_glbdata_item_mesh",
          damaged(one_text(), 27, "21"),
          {"table_length 6 .", "text_without_nul 22 .f0", "not_read 27 ."}},

@@ -38,11 +38,17 @@ const Message& message_named(const std::string& name)
                             name, hint));
 }
 
-int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
+Explanation explain_fully(const Message& message, std::span<const u8> bytes, const ExplainOptions& options)
 {
-    Explanation explanation = explain(message, bytes, choices.options);
+    Explanation explanation = explain(message, bytes, options);
     if (explanation.refused || explanation.origin == Origin::other)
         explanation.written_for = fitting_messages(bytes).written_so;
+    return explanation;
+}
+
+int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
+{
+    const Explanation explanation = explain_fully(message, bytes, choices.options);
     if (!choices.html.empty()) {
         const std::string page = explanation_html(explanation);
         write_bytes(choices.html, page.data(), page.size());
@@ -54,20 +60,30 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
     return explanation.refused ? refused : accepted;
 }
 
+Explanation explain_verdict(const Message& message, std::span<const u8> bytes)
+{
+    return explain(message, bytes, {.most_ranges = 0, .most_memory = 0});
+}
+
+Record record_of(const Explanation& accepted, u64 most_memory)
+{
+    if (accepted.memory > most_memory)
+        throw Fault(fmt::format("decoding takes {} of memory, allowed are {}; --memory allows more",
+                                counted(accepted.memory, "byte"), most_memory));
+    reference::Outcome outcome;
+    reference::decode(*accepted.message, accepted.bytes.data(), static_cast<u32>(accepted.bytes.size()), {}, outcome);
+    return outcome.record;
+}
+
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
                               const std::string& where)
 {
-    const Explanation explanation = explain(message, bytes, {.most_ranges = 0, .most_memory = 0});
+    const Explanation explanation = explain_verdict(message, bytes);
     if (explanation.refused) {
         fmt::print(stderr, "{}{}", where.empty() ? "" : where + ": ", refused_text(explanation, {}));
         return {};
     }
-    if (explanation.memory > most_memory)
-        throw Fault(fmt::format("decoding takes {} of memory, allowed are {}; --memory allows more",
-                                counted(explanation.memory, "byte"), most_memory));
-    reference::Outcome outcome;
-    reference::decode(message, bytes.data(), static_cast<u32>(bytes.size()), {}, outcome);
-    return outcome.record;
+    return record_of(explanation, most_memory);
 }
 
 int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices)

@@ -19,6 +19,9 @@ struct ExplainChoices {
 
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices);
 
+// With the other messages that the bytes may be meant for, where there is something odd.
+Explanation explain_fully(const Message& message, std::span<const u8> bytes, const ExplainOptions& options);
+
 // Without a message: what the bytes themselves tell.
 int explain_raw(std::span<const u8> bytes);
 
@@ -68,6 +71,12 @@ int show_sizes(const Record& record, bool json);
 // What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record.
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
                               const std::string& where);
+
+// Accepted or refused, and the memory; no ranges.
+Explanation explain_verdict(const Message& message, std::span<const u8> bytes);
+
+// Throws a Fault if it takes more memory.
+Record record_of(const Explanation& accepted, u64 most_memory);
 
 // The bytes that X__pack writes or that are sent. Throws a Fault if the message has no fixed form.
 Bytes encoded(const Record& record, Form form);

@@ -16,6 +16,7 @@ struct TextOptions {
 std::string explanation_text(const Explanation& explanation, const TextOptions& options);
 std::string refused_text(const Explanation& explanation, const Colours& colours);   // the verdict alone
 nlohmann::ordered_json explanation_json(const Explanation& explanation);
+nlohmann::ordered_json refused_json(const Explanation& explanation, const Refused& refused);
 std::string explanation_html(const Explanation& explanation);   // a page that needs nothing else
 
 // The library's log line: "level 2 code 22 ifit_mcp_mesh_unpack: ...".

@@ -11,6 +11,20 @@ namespace {
 
 using nlohmann::ordered_json;
 
+ordered_json range_json(const Explanation& explanation, const Range& range)
+{
+    return {
+        {"position", range.position},
+        {"length", range.length},
+        {"path", range.message == nullptr ? "" : path_text(explanation, range)},
+        {"kind", kind_text(range)},
+        {"value", value_text(explanation, range)},
+        {"reads", range.reads},
+    };
+}
+
+}   // namespace
+
 ordered_json refused_json(const Explanation& explanation, const Refused& refused)
 {
     const reference::Failure& failure = refused.failure;
@@ -32,20 +46,6 @@ ordered_json refused_json(const Explanation& explanation, const Refused& refused
                        {"text", log_text(*refused.log)}};
     return json;
 }
-
-ordered_json range_json(const Explanation& explanation, const Range& range)
-{
-    return {
-        {"position", range.position},
-        {"length", range.length},
-        {"path", range.message == nullptr ? "" : path_text(explanation, range)},
-        {"kind", kind_text(range)},
-        {"value", value_text(explanation, range)},
-        {"reads", range.reads},
-    };
-}
-
-}   // namespace
 
 ordered_json explanation_json(const Explanation& explanation)
 {

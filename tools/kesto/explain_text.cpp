@@ -80,6 +80,17 @@ void append_range(std::string& out, const Explanation& explanation, const Range&
     } while (done < range.length);
 }
 
+// Where the position that is refused comes from, if it does not stand there itself.
+std::string origin_of_position(const Explanation& explanation, const reference::Failure& failure)
+{
+    const auto last = std::ranges::find_if(explanation.ranges, &Range::read_last);
+    if (last == explanation.ranges.end() || failure.position - last->position < last->length)
+        return "";
+    const std::string path = last->part == Part::root ? "" : " of " + path_text(explanation, *last);
+    return fmt::format("    the {}{} at position {} leads there: {}\n", kind_text(*last), path, last->position,
+                       value_text(explanation, *last));
+}
+
 void append_refused(std::string& out, const Explanation& explanation, const Refused& refused, bool ignored,
                     const Colours& colours)
 {
@@ -91,6 +102,8 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
     const std::string comparison = comparison_text(failure);
     fmt::format_to(into, "{}\n", ignored ? colours.odd(head) : colours.bad(head));
     fmt::format_to(into, "    {}{}{}\n", rule_text(failure), comparison.empty() ? "" : ": ", comparison);
+    if (!ignored)
+        out += origin_of_position(explanation, failure);
     fmt::format_to(into, "    {}\n",
                    refused.log ? "the library logs " + log_line(*refused.log)
                                : std::string("the library logs nothing"));

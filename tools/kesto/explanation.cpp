@@ -61,6 +61,20 @@ void note_sharing(const Explanation& explanation, Notes& notes)
     }
 }
 
+// As in what is copied out of a capture with the packet around it.
+void note_packet_head(const Explanation& explanation, Notes& notes)
+{
+    const std::span<const u8> bytes = explanation.bytes;
+    constexpr u32 head = 8;
+    if (bytes.size() < head || reference::get32(bytes.data() + 4) != bytes.size() - head)
+        return;
+    if (const Message* const named = catalogue().find(reference::get32(bytes.data())))
+        notes.add("packet_head", 0, head, ".",
+                  fmt::format("the id of {} and the length of what follows: the head of a packet? Then the byte string "
+                              "begins at {}",
+                              named->name, head));
+}
+
 // What stands behind a text, between two ranges or behind the last.
 class Gaps {
 public:
@@ -175,6 +189,8 @@ Explanation explain(const Message& message, std::span<const u8> bytes, const Exp
     merge_equal(explanation.ranges);
     note_sharing(explanation, notes);
     Gaps(explanation, notes).fill();
+    if (explanation.refused)
+        note_packet_head(explanation, notes);
     if (!explanation.refused && explanation.memory <= options.most_memory)
         explanation.origin = origin_of(message, bytes);
     explanation.notes = notes.all();

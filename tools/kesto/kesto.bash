@@ -14,8 +14,12 @@ _kesto()
         --input-format) mapfile -t COMPREPLY < <(compgen -W "auto bytes hex" -- "$word"); return ;;
         --form) mapfile -t COMPREPLY < <(compgen -W "sent compact fixed" -- "$word"); return ;;
         --pointers) mapfile -t COMPREPLY < <(compgen -W "32 64" -- "$word"); return ;;
-        -o | --output | --html) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
-        --memory) return ;;
+        -o | --output | --html | --pcap) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+        --message)
+            mapfile -t COMPREPLY < <(compgen -W "$("$program" list --names 2>/dev/null)" -- "$word")
+            return
+            ;;
+        --memory | --packet) return ;;
         --hex) [[ $command == encode ]] || return ;;
     esac
     if [[ $word == -* ]]; then
@@ -25,7 +29,10 @@ _kesto()
     fi
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
-            --color | --input-format | --form | --pointers | -o | --output | --html | --memory) ((++i)) ;;
+            --color | --input-format | --form | --pointers | -o | --output | --html | --memory | --message | --packet)
+                ((++i))
+                ;;
+            --pcap) return ;;   # in place of message and file
             --hex) [[ $command == encode ]] || ((++i)) ;;
             --raw) ((++words)) ;;   # stands for the message
             -?*) ;;

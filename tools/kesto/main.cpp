@@ -8,6 +8,7 @@
 
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/packets.h"
 
 namespace {
 
@@ -48,27 +49,48 @@ void add_memory(CLI::App& app, u64& most)
     app.add_option("--memory", most, "do not decode what takes more bytes of memory (16 MiB)")->type_name("BYTES");
 }
 
-// What `explain` and `decode` read.
+// What `explain` and `decode` read: one byte string, or the packets of a capture.
 struct Source {
     std::string message;
     std::string file = "-";
     std::optional<std::string> hex;
     InputFormat format = InputFormat::automatic;
+    PacketChoices packets;
+    std::string packets_of;   // the message whose packets are wanted
 
     void add_to(CLI::App& app)
     {
-        app.add_option("MESSAGE", message, "name or id of the message");
+        CLI::Option* const name = app.add_option("MESSAGE", message, "name or id of the message");
         CLI::Option* const path = app.add_option("FILE", file, "the byte string; - for standard input (the default)");
         add_format(app, format);
-        app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"")
-            ->type_name("TEXT")
-            ->excludes(path);
+        CLI::Option* const text = app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"");
+        text->type_name("TEXT")->excludes(path);
+        CLI::Option* const capture =
+            app.add_option("--pcap", packets.file, "every packet of a capture, message by the packet's id");
+        capture->type_name("FILE")->excludes(name)->excludes(path)->excludes(text);
+        app.add_option("--packet", packets.number, "of a capture: only the packet of this number, from 1")
+            ->type_name("N")
+            ->needs(capture)
+            ->check(CLI::Range(u32{1}, UINT32_MAX));
+        app.add_option("--message", packets_of, "of a capture: only the packets of this message, by name or id")
+            ->type_name("NAME")
+            ->needs(capture);
+    }
+
+    bool is_capture() const { return !packets.file.empty(); }
+
+    PacketChoices packets_meant() const
+    {
+        PacketChoices which = packets;
+        if (!packets_of.empty())
+            which.message = &message_named(packets_of);
+        return which;
     }
 
     const Message& message_meant() const
     {
         if (message.empty())
-            throw Fault("a MESSAGE is needed, by name or id; `kesto explain --raw` does without");
+            throw Fault("a MESSAGE is needed, by name or id; `kesto explain --raw` does without, and --pcap");
         return message_named(message);
     }
 
@@ -100,6 +122,7 @@ struct Explain {
         self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")
             ->excludes(json)
             ->excludes(html);
+        html->excludes("--pcap");
         self.add_flag("--all", choices.whole, "show long payloads to the last byte");
         self.add_option_function<u32>(
                 "--pointers", [this](u32 bits) { choices.options.pointer_width = bits / 8; },
@@ -110,6 +133,8 @@ struct Explain {
 
     int run()
     {
+        if (source.is_capture())
+            return raw ? explain_raw_packets(source.packets_meant()) : explain_packets(source.packets_meant(), choices);
         if (raw) {
             source.take_message_for_file();
             return explain_raw(source.bytes());
@@ -133,6 +158,8 @@ struct Decode {
 
     int run() const
     {
+        if (source.is_capture())
+            return decode_packets(source.packets_meant(), choices);
         const Message& message = source.message_meant();
         return decode_bytes(message, source.bytes(), choices);
     }

@@ -8,6 +8,8 @@ namespace kesto::command {
 
 bool is_terminal_output() { return isatty(STDOUT_FILENO) == 1; }
 
+bool shows_progress() { return isatty(STDERR_FILENO) == 1 && !is_terminal_output(); }
+
 Colours colours_for(ColourChoice choice)
 {
     if (choice != ColourChoice::automatic)

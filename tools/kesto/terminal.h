@@ -24,6 +24,7 @@ struct Colours {
 };
 
 bool is_terminal_output();
+bool shows_progress();   // on standard error, with nothing else on the terminal
 
 // Automatic: on a terminal, unless NO_COLOR is set or TERM is "dumb".
 Colours colours_for(ColourChoice choice);

@@ -69,6 +69,16 @@ const Slot& slot_of(const Range& range) { return range.message->slots[range.path
 
 std::size_t slot_number(const Range& range) { return range.path.steps[range.path.length - 1].slot; }
 
+// Who follows a position reckons with 32 bits.
+const char* wrap_text(bool wraps) { return wraps ? ", modulo 2^32" : ""; }
+
+std::string distance_text(u32 table, u32 distance)
+{
+    const bool is_behind = distance > 0x7fffffff;
+    return fmt::format("vtable at {} {} {} = {}{}", table, is_behind ? '+' : '-', is_behind ? 0 - distance : distance,
+                       table - distance, wrap_text(!is_behind && distance > table));
+}
+
 constexpr std::size_t most_in_a_value = 100;
 
 std::string payload_text(const Explanation& explanation, const Range& range)
@@ -170,9 +180,7 @@ std::string value_text(const Explanation& explanation, const Range& range)
     const u32 value = static_cast<u32>(range.value);
     switch (range.part) {
     case Part::root: return fmt::format("table at {}", value);
-    case Part::table:
-        return fmt::format("vtable at {} {} {} = {}", range.position, value > 0x7fffffff ? '+' : '-',
-                           value > 0x7fffffff ? 0 - value : value, range.position - value);
+    case Part::table: return distance_text(range.position, value);
     case Part::vtable_length: return vtable_text(range);
     case Part::table_length: return fmt::format("{}", value);
     case Part::slot:
@@ -180,8 +188,11 @@ std::string value_text(const Explanation& explanation, const Range& range)
     case Part::scalar:
         return range.value < 10 ? fmt::format("{}", range.value) : fmt::format("{0} = {0:#x}", range.value);
     case Part::cell:
-    case Part::element_cell: return fmt::format("to {} + {} = {}", range.position, value, u64{range.position} + value);
-    case Part::count: return fmt::format("{}", value);
+    case Part::element_cell: {
+        const u32 target = range.position + value;
+        return fmt::format("to {} + {} = {}{}", range.position, value, target, wrap_text(target < value));
+    }
+    case Part::count: return value < 0x10000 ? fmt::format("{}", value) : fmt::format("{0} = {0:#010x}", value);
     case Part::payload: return payload_text(explanation, range);
     case Part::vtable_rest: return "not read: the message has no such slot";
     case Part::text_end: return "behind the text, not counted";

@@ -1,0 +1,207 @@
+#include "tools/kesto/packets.h"
+
+#include <fmt/chrono.h>
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "tools/kesto/capture.h"
+#include "tools/kesto/json_record.h"
+
+namespace kesto::command {
+
+namespace {
+
+using nlohmann::ordered_json;
+using tools::CapturedPacket;
+using tools::PacketFault;
+
+struct Reading {
+    CapturedPacket packet;
+    const Message* message = nullptr;   // by the id, null if there is none
+};
+
+// ---- what a packet is ----
+
+std::string time_text(const CapturedPacket& packet)
+{
+    return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:06}Z", fmt::gmtime(static_cast<std::time_t>(packet.seconds)),
+                       packet.microseconds);
+}
+
+std::string head_text(const CapturedPacket& packet)
+{
+    return fmt::format("packet {}, {}", packet.number, time_text(packet));
+}
+
+bool is_message(const Reading& reading)
+{
+    return reading.packet.fault == PacketFault::none && reading.message != nullptr;
+}
+
+const char* fault_name(const Reading& reading)
+{
+    return reading.packet.fault == PacketFault::none ? "unknown_id" : name_of(reading.packet.fault);
+}
+
+std::string fault_text(const Reading& reading)
+{
+    return reading.packet.fault == PacketFault::none ? "no message has this id" : text_of(reading.packet.fault);
+}
+
+std::string id_text(const CapturedPacket& packet) { return fmt::format("{:#010x}", packet.id); }
+
+ordered_json head_json(const Reading& reading)
+{
+    const CapturedPacket& packet = reading.packet;
+    ordered_json json = {{"packet", packet.number}, {"time", time_text(packet)}, {"id", id_text(packet)}};
+    json["message"] = reading.message == nullptr ? ordered_json() : ordered_json(reading.message->name);
+    return json;
+}
+
+ordered_json fault_json(const Reading& reading)
+{
+    ordered_json json = head_json(reading);
+    json["fault"] = fault_name(reading);
+    json["reason"] = fault_text(reading);
+    json["bytes"] = to_hex(reading.packet.bytes.data(), reading.packet.bytes.size());
+    return json;
+}
+
+std::string fault_line(const Reading& reading, const Colours& colours)
+{
+    const std::string name = reading.message == nullptr ? "" : " " + reading.message->name;
+    return fmt::format("{}: {}: {}, {}; id {}{}, {}\n", head_text(reading.packet), colours.bad("no message"),
+                       fault_name(reading), fault_text(reading), id_text(reading.packet), name,
+                       counted(reading.packet.bytes.size(), "byte"));
+}
+
+void print_line(const ordered_json& json) { print(json.dump() + "\n"); }
+
+// ---- one after the other ----
+
+void show_progress(u64 read, u64 all)
+{
+    const std::string of_all = all == 0 ? "" : fmt::format(" of {}", all >> 20);
+    fmt::print(stderr, "\r{}{} MiB", read >> 20, of_all);
+}
+
+struct ProgressLine {
+    bool on = shows_progress();
+
+    ~ProgressLine()
+    {
+        if (on)
+            fmt::print(stderr, "\r\033[K");
+    }
+};
+
+bool is_wanted(const PacketChoices& which, const CapturedPacket& packet)
+{
+    return (which.number == 0 || packet.number == which.number) &&
+           (which.message == nullptr || packet.id == which.message->id);
+}
+
+// show(reading) gives its result; the worst of them is that of all.
+template <class Show>
+int for_each_packet(const PacketChoices& which, Show show)
+{
+    const ProgressLine progress;
+    tools::CaptureReader reader;
+    if (progress.on)
+        reader.progress = show_progress;
+    std::string error;
+    if (!reader.open(which.file, error))
+        throw Fault(error);
+    int worst = accepted;
+    u64 shown = 0;
+    CapturedPacket packet;
+    while (reader.next(packet, error)) {
+        if (is_wanted(which, packet)) {
+            worst = std::max(worst, show(Reading{packet, catalogue().find(packet.id)}));
+            ++shown;
+        }
+        if (packet.number == which.number)
+            break;
+    }
+    if (!error.empty())
+        throw Fault(error);
+    if (shown != 0 || (which.number == 0 && which.message == nullptr))
+        return worst;
+    fmt::print(stderr, "kesto: {}: no such packet among {}\n", which.file, packet.number);
+    return refused;
+}
+
+int decode_packet(const Reading& reading, const DecodeChoices& choices)
+{
+    ordered_json json = head_json(reading);
+    int result = accepted;
+    const Explanation verdict = explain_verdict(*reading.message, reading.packet.bytes);
+    if (verdict.refused) {
+        json["refused"] = refused_json(verdict, *verdict.refused);
+        result = refused;
+    } else {
+        try {
+            json["record"] = record_json(record_of(verdict, choices.most_memory));
+        } catch (const Fault& fault) {
+            json["error"] = fault.what();   // the packets behind it are read all the same
+            result = unusable;
+        }
+    }
+    print_line(json);
+    return result;
+}
+
+int explain_packet(const Reading& reading, const ExplainChoices& choices, const Colours& colours)
+{
+    const Explanation explanation = explain_fully(*reading.message, reading.packet.bytes, choices.options);
+    if (choices.json) {
+        ordered_json json = head_json(reading);
+        json.update(explanation_json(explanation));
+        print_line(json);
+    } else {
+        print(fmt::format("{}\n{}\n", head_text(reading.packet),
+                          explanation_text(explanation, {colours, choices.whole})));
+    }
+    return explanation.refused ? refused : accepted;
+}
+
+}   // namespace
+
+int explain_packets(const PacketChoices& which, const ExplainChoices& choices)
+{
+    const Colours colours = colours_for(choices.colour);
+    return for_each_packet(which, [&](const Reading& reading) {
+        if (is_message(reading))
+            return explain_packet(reading, choices, colours);
+        if (choices.json)
+            print_line(fault_json(reading));
+        else
+            print(fault_line(reading, colours) + "\n");
+        return int{refused};
+    });
+}
+
+int explain_raw_packets(const PacketChoices& which)
+{
+    return for_each_packet(which, [](const Reading& reading) {
+        print(head_text(reading.packet) + "\n");
+        const int result = explain_raw(reading.packet.bytes);
+        print("\n");
+        return result;
+    });
+}
+
+int decode_packets(const PacketChoices& which, const DecodeChoices& choices)
+{
+    return for_each_packet(which, [&](const Reading& reading) {
+        if (is_message(reading))
+            return decode_packet(reading, choices);
+        print_line(fault_json(reading));
+        return int{refused};
+    });
+}
+
+}   // namespace kesto::command

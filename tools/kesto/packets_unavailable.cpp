@@ -1,0 +1,15 @@
+#include "tools/kesto/packets.h"
+
+namespace kesto::command {
+
+namespace {
+
+[[noreturn]] void fail() { throw Fault("this build cannot read captures: it was made without libpcap"); }
+
+}   // namespace
+
+int explain_packets(const PacketChoices&, const ExplainChoices&) { fail(); }
+int explain_raw_packets(const PacketChoices&) { fail(); }
+int decode_packets(const PacketChoices&, const DecodeChoices&) { fail(); }
+
+}   // namespace kesto::command
