@@ -64,7 +64,7 @@ std::vector<u64> values_of(const Range& range, u32 length)
     return values;
 }
 
-std::string code_of(const Sample& sample)
+std::string verdict_of(const Sample& sample)
 {
     reference::Outcome outcome;
     reference::decode(*sample.message, sample.bytes.data(), reference::position_of_end(sample.bytes), {}, outcome);
@@ -79,13 +79,13 @@ public:
     // Keeps what stands beside a change of the verdict, if it shows anything new.
     void add(const std::vector<Sample>& neighbours, const std::string& place)
     {
-        std::vector<std::string> codes;
+        std::vector<std::string> verdicts;
         for (const Sample& sample : neighbours)
-            codes.push_back(code_of(sample));
+            verdicts.push_back(verdict_of(sample));
         for (std::size_t i = 0; i < neighbours.size(); ++i) {
-            const bool changes =
-                (i > 0 && codes[i] != codes[i - 1]) || (i + 1 < codes.size() && codes[i] != codes[i + 1]);
-            if (changes && neighbours[i].bytes != whole_ && seen_.insert(codes[i] + place).second)
+            const bool changes = (i > 0 && verdicts[i] != verdicts[i - 1]) ||
+                                 (i + 1 < verdicts.size() && verdicts[i] != verdicts[i + 1]);
+            if (changes && neighbours[i].bytes != whole_ && seen_.insert(verdicts[i] + place).second)
                 kept.push_back(neighbours[i]);
         }
     }
