@@ -96,7 +96,7 @@ constexpr Case cases[] = {
      "0c000000 0800 1400 0000 0400 08000000 04000000 02000000 0e000000 12000000 0600 0800 0400 06000000 07000000 "
      "0e000000 08000000"},
     {"an element that uses the root table's vtable", "none", keys,
-     "0c000000 0800 1000 0400 0800 08000000 05000000 04000000 01000000 04000000 18000000 06000000"},
+     "0c000000 0800 1000 0400 0800 08000000 05000000 04000000 01000000 04000000 1c000000 06000000"},
     {"a cell that leads to itself: an empty text", "none", text, one_text, 14, "00"},
     {"a cell that leads to itself: an empty vector, which is null", "none", keys, one_element, 16, "00"},
     {"a block of length 0, which is null", "none", block, one_block, 22, "00"},
