@@ -1,0 +1,26 @@
+// Byte strings written out by hand, each for a rule that a reader may get wrong.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "tools/kesto/messages.h"
+
+namespace kesto::vectors {
+
+using reference::Bytes;
+
+struct Sample {
+    std::string about;
+    const reference::Message* message = nullptr;
+    Bytes bytes;
+};
+
+struct ByHand {
+    Sample sample;
+    const char* code;   // of the refusal, "none" for what is accepted
+};
+
+std::vector<ByHand> by_hand();
+
+}   // namespace kesto::vectors

@@ -1,0 +1,130 @@
+#include "tools/vectors/damage.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <set>
+
+#include "tools/kesto/explanation.h"
+
+namespace kesto::vectors {
+
+namespace {
+
+using command::Part;
+using command::Range;
+using reference::u32;
+using reference::u64;
+
+// Positions about the end and the start, where a reader may go wrong by a few bytes.
+std::vector<u64> targets(u32 length)
+{
+    std::vector<u64> all = {3, 4};
+    for (u64 end = length - 8; end <= u64{length} + 1; ++end)
+        all.push_back(end);
+    return all;
+}
+
+// In the order of what they lead to or announce, so that neighbours in the list are neighbours in meaning.
+std::vector<u64> values_of(const Range& range, u32 length)
+{
+    std::vector<u64> values;
+    switch (range.part) {
+    case Part::root: values = targets(length); break;
+    case Part::table:
+        for (const u64 target : targets(length))
+            values.push_back(range.position - target);
+        break;
+    case Part::slot:
+        for (const u64 target : targets(length))
+            if (target > range.table)
+                values.push_back(target - range.table);
+        break;
+    case Part::cell:
+    case Part::element_cell:
+        for (const u64 target : targets(length))
+            if (target >= range.position)
+                values.push_back(target - range.position);
+        for (const u64 target : {0xffffffffU, 0U})   // the last in front of 2^32, and the first behind
+            values.push_back(target - range.position);
+        values.push_back(0xffffffff);
+        break;
+    case Part::vtable_length: values = {length - range.position, length - range.position + 1, 0xffff}; break;
+    case Part::count: {
+        const u64 rest = length - range.position - 4;
+        values = {range.value - 1, range.value, range.value + 1,          rest / 4,  rest / 4 + 1, rest, rest + 1,
+                  0x3fffffff,      0x40000000,  0x40000000 + range.value, 0xffffffff};
+        std::sort(values.begin(), values.end());
+        break;
+    }
+    default: break;
+    }
+    for (u64& value : values)
+        value &= range.length == 2 ? 0xffff : 0xffffffff;
+    return values;
+}
+
+std::string verdict_of(const Sample& sample)
+{
+    reference::Outcome outcome;
+    reference::decode(*sample.message, sample.bytes.data(), reference::position_of_end(sample.bytes), {}, outcome);
+    return fmt::format("{} {} {}", name_of(outcome.failure.refusal), to_text(outcome.failure.path),
+                       name_of(outcome.ignored.refusal));
+}
+
+class Collection {
+public:
+    explicit Collection(const Bytes& whole) : whole_(whole) {}
+
+    // Keeps what stands beside a change of the verdict, if it shows anything new.
+    void add(const std::vector<Sample>& neighbours, const std::string& place)
+    {
+        std::vector<std::string> verdicts;
+        for (const Sample& sample : neighbours)
+            verdicts.push_back(verdict_of(sample));
+        for (std::size_t i = 0; i < neighbours.size(); ++i) {
+            const bool changes = (i > 0 && verdicts[i] != verdicts[i - 1]) ||
+                                 (i + 1 < verdicts.size() && verdicts[i] != verdicts[i + 1]);
+            if (changes && neighbours[i].bytes != whole_ && seen_.insert(verdicts[i] + place).second)
+                kept.push_back(neighbours[i]);
+        }
+    }
+
+    std::vector<Sample> kept;
+
+private:
+    const Bytes& whole_;
+    std::set<std::string> seen_;
+};
+
+}   // namespace
+
+std::vector<Sample> damaged(const Sample& whole)
+{
+    Collection collection(whole.bytes);
+    const u32 length = reference::position_of_end(whole.bytes);
+    const command::Explanation explanation = command::explain(*whole.message, whole.bytes);
+    for (const Range& range : explanation.ranges) {
+        std::vector<Sample> neighbours;
+        const std::string place =
+            fmt::format("{} of {} at {}", kind_text(range), path_text(explanation, range), range.position);
+        for (const u64 value : values_of(range, length)) {
+            Sample sample = whole;
+            reference::put(&sample.bytes[range.position], value, range.length);
+            sample.about += fmt::format(", {}: {:#x} instead of {:#x}", place, value, range.value);
+            neighbours.push_back(std::move(sample));
+        }
+        collection.add(neighbours, range.part == Part::slot ? "" : place);
+    }
+    std::vector<Sample> cut;
+    for (u32 kept = 0; kept <= length; ++kept) {
+        Sample sample = whole;
+        sample.bytes.resize(kept);
+        sample.about += fmt::format(", only the first {} of {} bytes", kept, length);
+        cut.push_back(std::move(sample));
+    }
+    collection.add(cut, "");
+    return std::move(collection.kept);
+}
+
+}   // namespace kesto::vectors

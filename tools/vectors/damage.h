@@ -1,0 +1,12 @@
+// What becomes of a written byte string when one number in it is another or its end is missing.
+#pragma once
+
+#include "tools/vectors/by_hand.h"
+
+namespace kesto::vectors {
+
+// Each root, distance, length, slot, cell and count in turn gets the values at which a reader changes its verdict, one
+// on either side; and the byte string is cut. Every field is shown with each code once.
+std::vector<Sample> damaged(const Sample& whole);
+
+}   // namespace kesto::vectors

@@ -1,0 +1,250 @@
+// Prints byte strings with what a decoder has to make of them, for those who write a codec of their own. What they say
+// comes from the reference. vectors/README.md explains the files.
+//
+//   print_vectors FOLDER
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "reference/encode.h"
+#include "reference/strange.h"
+#include "tools/kesto/explain.h"
+#include "tools/kesto/json_record.h"
+#include "tools/vectors/damage.h"
+
+namespace kesto::vectors {
+
+namespace {
+
+using command::Fault;
+using nlohmann::ordered_json;
+using reference::Density;
+using reference::Message;
+using reference::Random;
+using reference::Record;
+using reference::u32;
+using reference::u8;
+
+constexpr std::size_t most_written = 4000;   // bytes of a record, so that the files stay small
+constexpr std::size_t most_strange = 700;
+constexpr int most_draws = 1000;   // then a message that is never so short is taken as it comes
+
+std::string hex(const Bytes& bytes) { return command::to_hex(bytes.data(), bytes.size()); }
+
+ordered_json line_of(const Message& message)
+{
+    return {{"message", message.name}, {"id", fmt::format("{:#010x}", message.id)}};
+}
+
+// ---- records ----
+
+// Random octets are hardly ever text.
+void make_readable(Record& record)
+{
+    for (std::size_t k = 0; k < record.fields.size(); ++k) {
+        if (record.message->slots[k].kind == reference::Kind::string)
+            for (u8& octet : record.fields[k].octets)
+                octet = static_cast<u8>(' ' + octet % 95);
+        for (Record& nested : record.fields[k].records)
+            make_readable(nested);
+    }
+}
+
+// As a decoder leaves it, without the states that only a sender's record can have.
+Record drawn_record(const Message& message, Density density, Random& random, std::size_t most)
+{
+    for (int draw = 0;; ++draw) {
+        Record record = reference::as_decoded(reference::random_record(message, density, random));
+        const bool says_little = density != Density::zero && reference::is_default(record);
+        if ((says_little || reference::exact_size(record) > most) && draw < most_draws)
+            continue;
+        if (density == Density::full)
+            make_readable(record);
+        return record;
+    }
+}
+
+std::vector<ordered_json> record_lines(const tools::ModuleInfo& module)
+{
+    const struct {
+        const char* name;
+        Density density;
+    } cases[] = {{"empty", Density::zero}, {"full", Density::full}, {"boundary", Density::edge}};
+    std::vector<ordered_json> lines;
+    for (const tools::MessageInfo* info : module.messages) {
+        const Message& message = *command::find_message(info->name);
+        Random random(message.id);
+        for (const auto& each : cases) {
+            const Record record = drawn_record(message, each.density, random, most_written);
+            ordered_json line = line_of(message);
+            line["case"] = each.name;
+            line["compact"] = hex(reference::compact_form(record));
+            line["fixed"] = nullptr;
+            if (message.fixed_length != 0)
+                line["fixed"] = hex(reference::fixed_form(record));
+            line["record"] = command::record_json(record);
+            lines.push_back(std::move(line));
+        }
+    }
+    return lines;
+}
+
+// ---- hostile and strange byte strings ----
+
+ordered_json refusal_json(const Message& root, const reference::Failure& failure)
+{
+    if (!failure)
+        return nullptr;
+    return {{"code", name_of(failure.refusal)},
+            {"path", command::path_text(root, failure.path)},
+            {"position", failure.position}};
+}
+
+ordered_json hostile_line(const Sample& sample)
+{
+    static constexpr u8 nothing = 0;   // no bytes are not a null pointer
+    const Bytes& bytes = sample.bytes;
+    reference::Outcome outcome;
+    reference::decode(*sample.message, bytes.empty() ? &nothing : bytes.data(), reference::position_of_end(bytes), {},
+                      outcome);
+
+    ordered_json line = line_of(*sample.message);
+    line["about"] = sample.about;
+    line["hex"] = hex(bytes);
+    line["refused"] = refusal_json(*sample.message, outcome.failure);
+    line["ignored"] = refusal_json(*sample.message, outcome.ignored);
+    line["log"] = ordered_json::array();
+    for (const reference::Event& event : outcome.trace)
+        if (event.act == reference::Act::log)
+            line["log"].push_back(command::log_line(event));
+    line["record"] = nullptr;
+    if (!outcome.untouched)
+        line["record"] = command::record_json(outcome.record);
+    return line;
+}
+
+void add_by_hand(std::vector<ordered_json>& lines)
+{
+    for (const ByHand& each : by_hand()) {
+        lines.push_back(hostile_line(each.sample));
+        const ordered_json& refused = lines.back()["refused"];
+        const std::string code = refused.is_null() ? "none" : refused["code"].get<std::string>();
+        if (code != each.code)
+            throw Fault(fmt::format("{}: {} was expected, {} is it", each.sample.about, each.code, code));
+    }
+}
+
+void add_damaged(std::vector<ordered_json>& lines)
+{
+    // Together they have every kind of slot, in a root, in nested tables and in elements.
+    for (const char* name :
+         {"ifit_mcp_mesh_delete", "ifit_smooth_end_mesh", "ifit_dfx_query_comm_rec_mesh",
+          "ifit_dfx_query_glbdata_rec_mesh", "ifit_dfx_query_stat_rec_mesh", "ifit_flow_tuplev6_mesh",
+          "ifit_sync_flow_tuplev6_mesh_update", "ntvifit_flow_tuples", "ntvifit_stats_info_list"}) {
+        const Message& message = *command::find_message(name);
+        Random random(message.id);
+        const Record record = drawn_record(message, Density::full, random, most_strange);
+        for (const bool fixed : {false, true}) {
+            if (fixed && message.fixed_length == 0)
+                continue;
+            const Sample whole = {fixed ? "fixed form" : "compact form", &message,
+                                  fixed ? reference::fixed_form(record) : reference::compact_form(record)};
+            for (const Sample& sample : damaged(whole))
+                lines.push_back(hostile_line(sample));
+        }
+    }
+}
+
+void add_strange(std::vector<ordered_json>& lines)
+{
+    constexpr Density densities[] = {Density::full, Density::sparse, Density::edge};
+    for (const Message& message : command::catalogue().messages) {
+        Random random(message.id);
+        const Record record = drawn_record(message, densities[message.index % 3], random, most_strange);
+        Sample sample = {"strange layout", &message, {}};
+        for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
+            sample.bytes = reference::strange_layout(record, random);
+        lines.push_back(hostile_line(sample));
+        const ordered_json& line = lines.back();
+        if (!line["refused"].is_null() || line["record"] != command::record_json(record))
+            throw Fault(message.name + ": a strange layout is not what it was made from");
+    }
+}
+
+std::vector<ordered_json> hostile_lines()
+{
+    std::vector<ordered_json> lines;
+    add_by_hand(lines);
+    add_damaged(lines);
+    add_strange(lines);
+    return lines;
+}
+
+// ---- files ----
+
+std::string sha256_of(const std::string& path)
+{
+    std::FILE* const pipe = popen(fmt::format("sha256sum '{}'", path).c_str(), "r");
+    char digits[65] = "";
+    const bool read = pipe != nullptr && std::fread(digits, 1, 64, pipe) == 64;
+    for (char rest[256]; pipe != nullptr && std::fread(rest, 1, sizeof rest, pipe) != 0;) {}
+    if (pipe == nullptr || pclose(pipe) != 0 || !read)
+        throw Fault(path + ": sha256sum gives no sum");
+    return digits;
+}
+
+class Folder {
+public:
+    explicit Folder(std::string path) : path_(std::move(path)) {}
+
+    void write(const std::string& name, const std::vector<ordered_json>& lines)
+    {
+        std::string text;
+        for (const ordered_json& line : lines)
+            text += line.dump() + "\n";
+        const std::string path = path_ + "/" + name;
+        command::write_bytes(path, text.data(), text.size());
+        files_.push_back({{"name", name}, {"lines", lines.size()}, {"sha256", sha256_of(path)}});
+    }
+
+    void write_manifest() const
+    {
+        const std::string text =
+            ordered_json{{"messages", command::catalogue().messages.size()}, {"files", files_}}.dump(2) + "\n";
+        command::write_bytes(path_ + "/manifest.json", text.data(), text.size());
+    }
+
+private:
+    std::string path_;
+    ordered_json files_ = ordered_json::array();
+};
+
+void print(const std::string& path)
+{
+    Folder folder(path);
+    for (const tools::ModuleInfo& module : tools::modules())
+        folder.write(module.name + ".jsonl", record_lines(module));
+    folder.write("hostile.jsonl", hostile_lines());
+    folder.write_manifest();
+}
+
+}   // namespace
+
+}   // namespace kesto::vectors
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        fmt::print(stderr, "usage: {} FOLDER\n", argv[0]);
+        return 2;
+    }
+    try {
+        kesto::vectors::print(argv[1]);
+        return 0;
+    } catch (const std::exception& error) {
+        fmt::print(stderr, "print_vectors: {}\n", error.what());
+        return 1;
+    }
+}
