@@ -23,7 +23,7 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
 Explanation explain_fully(const Message& message, std::span<const u8> bytes, const ExplainOptions& options);
 
 // Without a message: what the bytes themselves tell.
-int explain_raw(std::span<const u8> bytes);
+int explain_raw(std::span<const u8> bytes, bool json);
 
 // The messages whose writers leave just these bytes, and all that accept them. None for more than 1 MiB.
 struct Fitting {

@@ -116,12 +116,10 @@ struct Explain {
         CLI::App& self = *app.add_subcommand("explain", "Show what every byte means, and which check refuses them");
         source.add_to(self);
         add_colour(self, choices.colour);
-        CLI::Option* const json = self.add_flag("--json", choices.json, "print JSON");
+        self.add_flag("--json", choices.json, "print JSON");
         CLI::Option* const html = self.add_option("--html", choices.html, "write a page to look at in a browser");
         html->type_name("FILE");
-        self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")
-            ->excludes(json)
-            ->excludes(html);
+        self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")->excludes(html);
         html->excludes("--pcap");
         self.add_flag("--all", choices.whole, "show long payloads to the last byte");
         self.add_option_function<u32>(
@@ -134,10 +132,11 @@ struct Explain {
     int run()
     {
         if (source.is_capture())
-            return raw ? explain_raw_packets(source.packets_meant()) : explain_packets(source.packets_meant(), choices);
+            return raw ? explain_raw_packets(source.packets_meant(), choices.json)
+                       : explain_packets(source.packets_meant(), choices);
         if (raw) {
             source.take_message_for_file();
-            return explain_raw(source.bytes());
+            return explain_raw(source.bytes(), choices.json);
         }
         const Message& message = source.message_meant();
         return explain_bytes(message, source.bytes(), choices);

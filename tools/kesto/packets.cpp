@@ -9,6 +9,7 @@
 
 #include "tools/kesto/capture.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/raw.h"
 
 namespace kesto::command {
 
@@ -184,13 +185,18 @@ int explain_packets(const PacketChoices& which, const ExplainChoices& choices)
     });
 }
 
-int explain_raw_packets(const PacketChoices& which)
+int explain_raw_packets(const PacketChoices& which, bool as_json)
 {
-    return for_each_packet(which, [](const Reading& reading) {
-        print(head_text(reading.packet) + "\n");
-        const int result = explain_raw(reading.packet.bytes);
-        print("\n");
-        return result;
+    return for_each_packet(which, [&](const Reading& reading) {
+        const RawView view = look_at(reading.packet.bytes);
+        if (as_json) {
+            ordered_json json = head_json(reading);
+            json.update(raw_json(view));
+            print_line(json);
+        } else {
+            print(fmt::format("{}\n{}\n", head_text(reading.packet), raw_text(view)));
+        }
+        return view.has_root_table ? int{accepted} : int{refused};
     });
 }
 

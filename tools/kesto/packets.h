@@ -12,7 +12,7 @@ struct PacketChoices {
 };
 
 int explain_packets(const PacketChoices& which, const ExplainChoices& choices);
-int explain_raw_packets(const PacketChoices& which);
+int explain_raw_packets(const PacketChoices& which, bool as_json);
 int decode_packets(const PacketChoices& which, const DecodeChoices& choices);
 
 }   // namespace kesto::command

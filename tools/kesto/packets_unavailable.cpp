@@ -9,7 +9,7 @@ namespace {
 }   // namespace
 
 int explain_packets(const PacketChoices&, const ExplainChoices&) { fail(); }
-int explain_raw_packets(const PacketChoices&) { fail(); }
+int explain_raw_packets(const PacketChoices&, bool) { fail(); }
 int decode_packets(const PacketChoices&, const DecodeChoices&) { fail(); }
 
 }   // namespace kesto::command

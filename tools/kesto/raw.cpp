@@ -5,8 +5,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
-#include "tools/kesto/commands.h"
+#include "tools/kesto/raw.h"
 
 namespace kesto::command {
 
@@ -28,7 +29,7 @@ struct Table {
 
 class Guesser {
 public:
-    Guesser(std::span<const u8> bytes, std::string& out) : bytes_(bytes), out_(out) {}
+    Guesser(std::span<const u8> bytes, std::vector<RawLine>& out) : bytes_(bytes), out_(out) {}
 
     bool root();
 
@@ -44,17 +45,12 @@ private:
     void show_table(const Table& table, u32 depth);
     void show_slot(const Table& table, std::size_t slot, u32 room, u32 depth);
     void show_target(u32 target, u32 depth);
-    void line(u32 depth, u64 position, const std::string& text);
+    void line(u32 depth, u64 position, std::string text) { out_.push_back({depth, position, std::move(text)}); }
 
     std::span<const u8> bytes_;
-    std::string& out_;
+    std::vector<RawLine>& out_;
     u32 tables_ = 0;
 };
-
-void Guesser::line(u32 depth, u64 position, const std::string& text)
-{
-    fmt::format_to(std::back_inserter(out_), "{:>6}  {:{}}{}\n", position, "", 2 * depth, text);
-}
 
 // What every reader demands of a table.
 bool Guesser::open(u32 position, Table& table) const
@@ -237,15 +233,47 @@ Fitting fitting_messages(std::span<const u8> bytes)
     return fitting;
 }
 
-int explain_raw(std::span<const u8> bytes)
+RawView look_at(std::span<const u8> bytes)
 {
-    std::string out = fmt::format("{}\n\n", counted(bytes.size(), "byte"));
-    const bool is_table = Guesser(bytes, out).root();
-    out += "\n";
+    RawView view;
+    view.length = bytes.size();
+    view.has_root_table = Guesser(bytes, view.lines).root();
     if (bytes.size() <= most_bytes_tried)
-        out += fitting_text(fitting_messages(bytes));
-    print(out);
-    return is_table ? accepted : refused;
+        view.fitting = fitting_messages(bytes);
+    return view;
+}
+
+std::string raw_text(const RawView& view)
+{
+    std::string out = fmt::format("{}\n\n", counted(view.length, "byte"));
+    for (const RawLine& line : view.lines)
+        fmt::format_to(std::back_inserter(out), "{:>6}  {:{}}{}\n", line.position, "", 2 * line.depth, line.text);
+    out += "\n";
+    if (view.fitting)
+        out += fitting_text(*view.fitting);
+    return out;
+}
+
+nlohmann::ordered_json raw_json(const RawView& view)
+{
+    nlohmann::ordered_json json;
+    json["length"] = view.length;
+    json["root_table"] = view.has_root_table;
+    json["lines"] = nlohmann::ordered_json::array();
+    for (const RawLine& line : view.lines)
+        json["lines"].push_back({{"position", line.position}, {"depth", line.depth}, {"text", line.text}});
+    if (view.fitting) {
+        json["written_for"] = view.fitting->written_so;
+        json["accepted_by"] = view.fitting->accepted;
+    }
+    return json;
+}
+
+int explain_raw(std::span<const u8> bytes, bool json)
+{
+    const RawView view = look_at(bytes);
+    print(json ? raw_json(view).dump(2) + "\n" : raw_text(view));
+    return view.has_root_table ? accepted : refused;
 }
 
 }   // namespace kesto::command

@@ -1,0 +1,28 @@
+// What a byte string says of itself, without a message.
+#pragma once
+
+#include <nlohmann/json_fwd.hpp>
+#include <optional>
+
+#include "tools/kesto/commands.h"
+
+namespace kesto::command {
+
+struct RawLine {
+    u32 depth;   // how far inside
+    u64 position;
+    std::string text;
+};
+
+struct RawView {
+    u64 length = 0;
+    bool has_root_table = false;
+    std::vector<RawLine> lines;
+    std::optional<Fitting> fitting;   // none of a byte string that is too long to try
+};
+
+RawView look_at(std::span<const u8> bytes);
+std::string raw_text(const RawView& view);
+nlohmann::ordered_json raw_json(const RawView& view);
+
+}   // namespace kesto::command
