@@ -38,7 +38,7 @@ template <class L>
 {
     if constexpr (L::is_small)
         return read_full_table_here<L>(in, table, record);
-    else
+    else   // a message that is too short for it is spared the call
         return holds_bytes(in, FullForm<L>::length) && read_large_full_table<L>(in, table, record);
 }
 
@@ -93,8 +93,10 @@ template <class L>
 [[gnu::always_inline]] inline void clear_gaps(u8* record)
 {
     each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 end = L::record_offset[k] + L::template Slot<k>::record_size;
-        clear_run<(k + 1 < L::slots ? L::record_offset[(k + 1) % L::slots] : L::record_size) - end>(record + end);
+        constexpr u32 K = k;
+        constexpr u32 end = L::record_offset[K] + L::template Slot<K>::record_size;
+        constexpr u32 next = K + 1 < L::slots ? L::record_offset[K + 1] : L::record_size;
+        clear_run<next - end>(record + end);
         return true;
     });
 }

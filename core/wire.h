@@ -260,7 +260,8 @@ constexpr W each_lane(W value)
 }
 
 // No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in
-// each lane, from the width to largest_lane. Only a lane that is beyond borrows from its neighbour.
+// each lane, from the width to largest_lane: with less, a far offset would go round. Only a lane that is beyond borrows
+// from its neighbour.
 template <class W>
 inline W lanes_beyond(const W& room, const W& widths, const W& offsets)
 {
@@ -285,8 +286,8 @@ struct Widths {
     u8 widest;
 };
 
-// Whether all fields of a vtable that holds so many slots lie inside. False also where this way of looking at them
-// cannot tell.
+// Whether all fields of a vtable that holds so many slots lie inside, absent ones as if they stood at the table's first
+// byte. False also where this way of looking at them cannot tell.
 template <std::size_t N>
 [[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
                                                           const Widths<N>& widths)
@@ -332,14 +333,15 @@ template <std::size_t N>
     return (beyond & each_lane<LaneWord>(largest_lane + 1)) == 0;
 }
 
-// A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read: at offset 0 the table's head stands,
-// and behind it the room that scalars_fit asks for.
+// A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read, of an absent one at the table's first
+// byte.
 template <class T>
 [[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset,
                                                       u8* field)
 {
     std::size_t behind = offset;
     asm("" : "+r"(behind));   // one register for the test and the address, where the compiler would copy it
+    // `behind` is added last, so that the table's address is formed once for all slots.
     const T value = load<T>(in.bytes_unchecked(view.table, 0, 0) + behind);   // scalars_fit
     const T present = behind != 0 ? value : T{0};
     std::memcpy(field, &present, sizeof present);

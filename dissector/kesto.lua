@@ -542,24 +542,26 @@ function read.scalar(reader, tree, slot, at)
     return true
 end
 
+-- The body of a text or a block.
+function Reader:read_octets(tree, slot, at)
+    local open, body, count = self:read_count(tree, slot, at)
+    return open and self:body_fits(tree, body, count), body, count
+end
+
 function read.string(reader, tree, slot, at)
-    local open, body, count = reader:read_count(tree, slot, at)
-    if not open or not reader:body_fits(tree, body, count) then
-        return false
+    local inside, body, count = reader:read_octets(tree, slot, at)
+    if inside then
+        reader:show_text(tree, slot.field, body + 4, count)
     end
-    reader:show_text(tree, slot.field, body + 4, count)
-    return true
+    return inside
 end
 
 function read.bytes(reader, tree, slot, at)
-    local open, body, count = reader:read_count(tree, slot, at)
-    if not open or not reader:body_fits(tree, body, count) then
-        return false
-    end
-    if count > 0 then
+    local inside, body, count = reader:read_octets(tree, slot, at)
+    if inside and count > 0 then
         reader:show(tree, slot.field, body + 4, count)
     end
-    return true
+    return inside
 end
 
 function read.array(reader, tree, slot, at)

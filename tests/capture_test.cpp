@@ -12,6 +12,7 @@
 #include "platform/mesh.h"
 #include "platform/standin/mesh_standin.h"
 #include "tests/support/capture_file.h"
+#include "tests/support/capture_folder.h"
 #include "tools/kesto/capture.h"
 
 namespace kesto::tests {
@@ -53,22 +54,8 @@ void send(std::uint32_t id, const Bytes& bytes)
     EXPECT_EQ(MESH_SendMsg(0, &item, 1), MESH_STANDIN_UNKNOWN_ID);
 }
 
-class Captures : public testing::Test {
+class Captures : public CaptureFolder {
 protected:
-    void SetUp() override
-    {
-        folder = std::filesystem::temp_directory_path() / ("kesto_capture_" + std::to_string(getpid()));
-        std::filesystem::create_directory(folder);
-        path = folder / "capture";
-    }
-    void TearDown() override
-    {
-        mesh_standin_capture(nullptr);
-        std::filesystem::remove_all(folder);
-    }
-
-    std::filesystem::path folder;
-    std::string path;
     std::string error;
 };
 
@@ -104,8 +91,7 @@ TEST_F(Captures, keep_as_much_of_a_packet_as_readers_take)
 
 TEST_F(Captures, of_two_processes_hold_the_same_packets)
 {
-    std::FILE* const pipe =
-        popen(("MESH_STANDIN_CAPTURE=" + path + ".%p " KESTO_EXCHANGE " >/dev/null").c_str(), "r");
+    std::FILE* const pipe = popen(("MESH_STANDIN_CAPTURE=" + path + ".%p " KESTO_EXCHANGE " >/dev/null").c_str(), "r");
     ASSERT_NE(pipe, nullptr);
     EXPECT_EQ(pclose(pipe), 0);
     std::vector<std::vector<Packet>> captures;
@@ -179,9 +165,12 @@ TEST_F(Captures, give_packets_that_are_no_messages_and_why)
     add_packet(capture, cut);
     write_file(path, capture);
     const std::vector<Packet> expected{
-        {PacketFault::short_packet, 0, {}},        {PacketFault::short_packet, 7, {}},
-        {PacketFault::cut, 0, {}},                 {PacketFault::length_disagrees, 7, three},
-        {PacketFault::length_disagrees, 7, three}, {PacketFault::none, 7, three},
+        {PacketFault::short_packet, 0, {}},
+        {PacketFault::short_packet, 7, {}},
+        {PacketFault::cut, 0, {}},
+        {PacketFault::length_disagrees, 7, three},
+        {PacketFault::length_disagrees, 7, three},
+        {PacketFault::none, 7, three},
         {PacketFault::cut, 7, three},
     };
     EXPECT_TRUE(packets_of(path, error) == expected);

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -20,6 +19,7 @@
 #include "reference/encode.h"
 #include "reference/strange.h"
 #include "tests/support/capture_file.h"
+#include "tests/support/capture_folder.h"
 #include "tests/support/figures.h"
 #include "tools/catalogue.h"
 #include "tools/kesto/capture.h"
@@ -243,20 +243,8 @@ void compare(const Case& one, const Shown& shown)
         << (should == expected.fields.end() ? "nothing more" : *should);
 }
 
-class Dissector : public testing::Test {
+class Dissector : public CaptureFolder {
 protected:
-    void SetUp() override
-    {
-        folder = std::filesystem::temp_directory_path() / ("kesto_dissector_" + std::to_string(getpid()));
-        std::filesystem::create_directory(folder);
-        path = folder / "capture";
-    }
-    void TearDown() override
-    {
-        mesh_standin_capture(nullptr);
-        std::filesystem::remove_all(folder);
-    }
-
     // Away from the preferences and scripts of whoever runs this.
     std::FILE* analyser(const std::string& arguments) const
     {
@@ -327,9 +315,6 @@ protected:
         expect_end(pipe);
         return numbers;
     }
-
-    std::filesystem::path folder;
-    std::string path;
 };
 
 // Notes where the decoder reads the numbers that lead it on.

@@ -1,12 +1,12 @@
 // The exchange of every message between two processes: that it holds, and that it would tell if it did not.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
 
 #include <cinttypes>
 #include <cstdio>
 #include <string>
 
+#include "tests/support/command.h"
 #include "tools/catalogue.h"
 
 namespace
@@ -14,22 +14,14 @@ namespace
 
 using kesto::tools::MessageInfo;
 
-// A run of the program: all that it said, and the numbers in the last row of its table.
-struct Result {
-    int exit_code = -1;   // stays for a crash
-    std::string output;
+// A run of the program, with the numbers in the last row of its table.
+struct Result : kesto::tests::CommandResult {
     std::uint64_t messages = 0, byte_strings = 0, bytes = 0, allocations = 0, left_over = 0, failures = 0;
 };
 
 Result exchange(const std::string& arguments, const std::string& environment = "")
 {
-    Result result;
-    std::FILE* const pipe = popen((environment + " " KESTO_EXCHANGE " " + arguments + " 2>&1").c_str(), "r");
-    for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
-        result.output += static_cast<char>(c);
-    const int status = pipe == nullptr ? -1 : pclose(pipe);
-    if (status != -1 && WIFEXITED(status))
-        result.exit_code = WEXITSTATUS(status);
+    Result result{kesto::tests::run_command(environment + " " KESTO_EXCHANGE " " + arguments)};
     const std::size_t row = result.output.find("\nall ");
     if (row == std::string::npos ||
         std::sscanf(result.output.c_str() + row,

@@ -284,7 +284,8 @@ void expect_fits_like_one_by_one(std::mt19937& chance)
         for (u32 k = 0; k < N; ++k) {
             // Mostly close to the last place that fits, or absent.
             const u32 limit = std::min(room, largest_room(N)) - std::min<u32>(room, widths.of[k]);
-            const u32 offset = below(2 * N) == 0 ? below(0x10000) : limit - below(std::min(limit, 3U) + 1);
+            const u32 far[] = {below(0x10000), largest_lane - below(8)};   // the latter go round in a small room
+            const u32 offset = below(2 * N) == 0 ? far[below(2)] : limit - below(std::min(limit, 3U) + 1);
             store(bytes.data() + 4 + 2 * k, static_cast<u16>(below(2) == 0 ? 0 : offset));
             const u32 written = load<u16>(bytes.data() + 4 + 2 * k);
             all = all && written + widths.of[k] <= std::min(room, largest_room(N));

@@ -1,7 +1,7 @@
 // The program as it is called.
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
+#include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
@@ -9,24 +9,15 @@
 #include <string>
 
 #include "tests/support/capture_file.h"
+#include "tests/support/command.h"
 
 namespace {
 
-struct Result {
-    int exit_code = -1;   // stays for a crash
-    std::string output;   // standard error, too
-};
+using kesto::tests::CommandResult;
 
-Result kesto(const std::string& arguments, const std::string& before = "")
+CommandResult kesto(const std::string& arguments, const std::string& before = "")
 {
-    Result result;
-    std::FILE* const pipe = popen((before + " '" KESTO_PROGRAM "' " + arguments + " 2>&1").c_str(), "r");
-    for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
-        result.output += static_cast<char>(c);
-    const int status = pipe == nullptr ? -1 : pclose(pipe);
-    if (status != -1 && WIFEXITED(status))
-        result.exit_code = WEXITSTATUS(status);
-    return result;
+    return kesto::tests::run_command(before + " '" KESTO_PROGRAM "' " + arguments);
 }
 
 constexpr const char item[] = "ifit_dfx_query_glbdata_item_mesh";
@@ -50,7 +41,7 @@ TEST(CommandLine, takes_bytes_and_hex_from_everywhere)
          std::string("decode --line --input-format bytes ") + item},
     };
     for (const auto& way : ways) {
-        const Result result = kesto(way.arguments, way.before);
+        const CommandResult result = kesto(way.arguments, way.before);
         EXPECT_EQ(result.output, decoded) << way.before << way.arguments;
         EXPECT_EQ(result.exit_code, 0);
     }
@@ -94,7 +85,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"--version", 0, "1.0.0"},
     };
     for (const auto& each : cases) {
-        const Result result = kesto(each.arguments, "</dev/null");
+        const CommandResult result = kesto(each.arguments, "</dev/null");
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
     }
@@ -150,8 +141,8 @@ private:
 TEST_F(Files, diff_compares_records_and_not_bytes)
 {
     const auto encode = [&](const char* json, const char* form, const char* name) {
-        const Result result = kesto(std::string("encode ifit_mcp_mesh --form ") + form + " -o " + path(name),
-                                    std::string("echo '") + json + "' |");
+        const CommandResult result = kesto(std::string("encode ifit_mcp_mesh --form ") + form + " -o " + path(name),
+                                           std::string("echo '") + json + "' |");
         ASSERT_EQ(result.exit_code, 0) << result.output;
     };
     encode(R"({"f0":7,"f5":1})", "fixed", "a");
@@ -161,7 +152,7 @@ TEST_F(Files, diff_compares_records_and_not_bytes)
     EXPECT_EQ(std::filesystem::file_size(path("b")), 32u);
     const std::string diff = "diff ifit_mcp_mesh " + path("a") + " ";
     EXPECT_EQ(kesto(diff + path("b")).exit_code, 0);
-    const Result differs = kesto(diff + path("c"));
+    const CommandResult differs = kesto(diff + path("c"));
     EXPECT_EQ(differs.exit_code, 1);
     EXPECT_EQ(differs.output, ".f0: 7  8\n");
     EXPECT_EQ(kesto(diff + "/dev/null").exit_code, 2);
@@ -227,7 +218,7 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
         {"explain --json --pcap " + file, 1, 6, "\"fault\":\"length_disagrees\""},
     };
     for (const auto& each : cases) {
-        const Result result = kesto(each.arguments);
+        const CommandResult result = kesto(each.arguments);
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
         EXPECT_TRUE(each.lines == 0 || count_of(result.output, "\n") == each.lines) << each.arguments << "\n"
@@ -241,7 +232,7 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
 TEST_F(Files, a_page_holds_foreign_text_as_text)
 {
     const std::string text = "<script>alert(1)</script>&\\\"";
-    const Result encoded = kesto("encode --hex " + std::string(item), "echo '{\"f0\":\"" + text + "\"}' |");
+    const CommandResult encoded = kesto("encode --hex " + std::string(item), "echo '{\"f0\":\"" + text + "\"}' |");
     ASSERT_EQ(encoded.exit_code, 0) << encoded.output;
     const std::string hex_text = encoded.output.substr(0, encoded.output.size() - 1);
     EXPECT_EQ(kesto("explain " + std::string(item) + " --html " + path("page") + " --hex '" + hex_text + "'").exit_code,
