@@ -13,12 +13,11 @@ namespace {
 }
 
 // Null, after a log line, when there is no memory.
-u8* allocate(const Frame& frame, u32 size)
+u8* allocate(const Decoder& owner, const char* routine, u32 size)
 {
-    Unit& unit = *frame.decoder->unit;
-    void* const block = unit.allocate(size, OSAL_MEMORY_MODULE, frame.routine);
+    void* const block = owner.unit->allocate(size, OSAL_MEMORY_MODULE, routine);
     if (block == nullptr) [[unlikely]]
-        log_allocation(unit, frame.routine, size);
+        log_allocation(*owner.unit, routine, size);
     return static_cast<u8*>(block);
 }
 
@@ -122,19 +121,35 @@ TableView<Input> open_table_of(Input in, u32 table, u32 slots)
     return view;
 }
 
+bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
+{
+    u8* const copy = allocate(owner, routine, length + 1);   // length < 2^31, as it fits
+    set_field<u8*>(field, copy);
+    if (copy == nullptr)
+        return false;
+    if (length != 0)
+        memcpy_sOptAsm(copy, length, text, length);
+    copy[length] = 0;   // the sender's own NUL is neither read nor needed
+    return true;
+}
+
+bool take_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field)
+{
+    u8* const copy = allocate(owner, routine, length);
+    set_field<u8*>(field + counted_pointer, copy);
+    if (copy == nullptr)
+        return false;
+    memcpy_sOptAsm(copy, length, block, length);
+    return true;
+}
+
 bool decode_text(const Frame& frame, u32 offset, u8* field)
 {
     u32 payload = 0, length = 0;
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
-    u8* const text = allocate(frame, length + 1);   // length < 2^31, as it fits
-    set_field<u8*>(field, text);
-    if (text == nullptr)
-        return false;
-    if (length != 0)
-        memcpy_sOptAsm(text, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
-    text[length] = 0;   // the sender's own NUL is neither read nor needed
-    return true;
+    const u8* const text = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
+    return take_text(*frame.decoder, frame.routine, text, length, field);
 }
 
 bool decode_block(const Frame& frame, u32 offset, u8* field)
@@ -145,12 +160,8 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     set_field<u32>(field, length);   // stays even if the allocation fails
     if (length == 0)
         return true;
-    u8* const block = allocate(frame, length);
-    set_field<u8*>(field + counted_pointer, block);
-    if (block == nullptr)
-        return false;
-    memcpy_sOptAsm(block, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
-    return true;
+    const u8* const block = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
+    return take_block(*frame.decoder, frame.routine, block, length, field);
 }
 
 bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element)
@@ -171,7 +182,7 @@ bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecode
             log_decode_parameters(*element.decoder->unit, element.routine, frame.in.bytes, frame.in.length, nullptr);
         return false;
     }
-    u8* const records = allocate(frame, size);
+    u8* const records = allocate(*frame.decoder, frame.routine, size);
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;

@@ -70,6 +70,11 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // The view of a table that has at least so many slots; its vtable is at 0, where none can be, when it has not.
 [[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
 
+// Each of these makes a field own a copy of what has been found for it: of a text with a NUL added, of a block that is
+// not empty. False, after a log line, when there is no memory.
+[[nodiscard]] bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field);
+[[nodiscard]] bool take_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field);
+
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
 [[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);   // logs a failed allocation

@@ -35,6 +35,27 @@ constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits s
 
 // ---- the size routine ----
 
+// A bound of the size of a table with a picture.
+template <class L>
+[[gnu::always_inline]] inline u64 bound_picture(const u8* record)
+{
+    using Form = FullForm<L>;
+    u64 size = Form::length;
+    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+        constexpr Body body = Form::bodies[b];
+        const u8* const field = record + body.record_offset;
+        if constexpr (body.kind == Kind::text) {
+            if (field_pointer(field) != nullptr)
+                size += std::strlen(reinterpret_cast<const char*>(field_pointer(field)));
+        } else if (field_pointer(field + counted_pointer) != nullptr) {
+            const u32 length = field_value<u32>(field);
+            size += length != 0 ? length : too_large;
+        }
+        return true;
+    });
+    return size <= largest_size ? size : too_large;
+}
+
 // The size of one table and all beneath it, without a root. A bound counts every scalar; it is too_large for a block
 // with a pointer and length 0, so that nobody takes the packer's end for the size there.
 template <class L, Measure how>
@@ -92,8 +113,13 @@ u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
         return u64{count} * FullForm<L>::length;
     } else {
         u64 size = 0;
-        for (u32 i = 0; i < count && size <= largest_size; ++i)
-            size += measure_table<L, how>(records + std::size_t{i} * L::record_size, nested);
+        for (u32 i = 0; i < count && size <= largest_size; ++i) {
+            const u8* const record = records + std::size_t{i} * L::record_size;
+            if constexpr (how == Measure::bound && L::has_picture)
+                size += bound_picture<L>(record);
+            else
+                size += measure_table<L, how>(record, nested);
+        }
         return size;
     }
 }
@@ -112,10 +138,10 @@ u32 measure_message(const u8* record, const NestedEncoder* nested)
 template <class L>
 [[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (L::has_heap_parts)
-        return root_bytes + measure_table<L, Measure::bound>(record, nested);
+    if constexpr (L::has_picture)
+        return root_bytes + bound_picture<L>(record);
     else
-        return root_bytes + FullForm<L>::length;
+        return root_bytes + measure_table<L, Measure::bound>(record, nested);
 }
 
 // ---- the packer ----
@@ -362,7 +388,7 @@ template <class L>
 {
     if (!has_full_form<L>(record))
         return false;
-    FullForm<L>::write_here(vtable, record);
+    FullForm<L>::write_here({vtable}, record);
     return true;
 }
 
@@ -382,12 +408,43 @@ template <class L>
         return write_large_full_table<L>(vtable, record);
 }
 
+// The same for a record that has a picture with bodies. Returns the end of what was written.
+template <class L>
+[[nodiscard, gnu::noinline]] u8* write_full_heap_table(u8* vtable, const u8* record)
+{
+    using Form = FullForm<L>;
+    std::array<u32, Form::bodies.size()> lengths;
+    typename Form::template Places<u8> to{vtable};
+    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+        constexpr Body body = Form::bodies[b];
+        const u8* const field = record + body.record_offset;
+        if constexpr (body.kind == Kind::text)
+            lengths[b] = static_cast<u32>(std::strlen(reinterpret_cast<const char*>(field_pointer(field))));
+        else
+            lengths[b] = field_value<u32>(field);
+        to[b + 1] = to[b] + lengths[b];
+        return true;
+    });
+    Form::write_here(to, record);
+    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+        constexpr Body body = Form::bodies[b];
+        constexpr u32 pointer = body.record_offset + (body.kind == Kind::text ? 0 : counted_pointer);
+        memcpy_sOptAsm(to[b] + body.position, lengths[b], field_pointer(record + pointer), lengths[b]);
+        return true;
+    });
+    return to.back() + Form::length;
+}
+
 template <class L>
 u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (!L::has_heap_parts)
+    if constexpr (!L::has_heap_parts) {
         if (write_full_table<L>(vtable, record))
             return vtable + FullForm<L>::length;
+    } else if constexpr (L::has_picture) {
+        if (has_full_form<L>(record))
+            return write_full_heap_table<L>(vtable, record);
+    }
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
@@ -404,6 +461,12 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
         for (; record != end && write_full_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
             lead();
             at += FullForm<L>::length;
+        }
+    }
+    if constexpr (L::has_heap_parts && L::has_picture) {
+        for (; record != end && has_full_form<L>(record); record += L::record_size, cell += cell_bytes) {
+            lead();
+            at = write_full_heap_table<L>(at, record);
         }
     }
     std::ptrdiff_t size = 0;

@@ -1,4 +1,4 @@
-// The two pictures of a layout without heap parts: its fixed form, and its compact form when no scalar is zero.
+// The two pictures of a layout: its fixed form, if it has one, and its compact form when nothing in the record is zero.
 #pragma once
 
 #include "core/picture.h"
@@ -9,12 +9,13 @@ constexpr u32 fixed_buffer_bytes = 1024;   // no fixed form may be longer
 
 namespace detail {
 
-// A table's vtable. `offset` gives the offset of each slot, and `table_bytes` is what stands in its second half.
+constexpr u32 table_length_at = 2;   // in a vtable
+
+// A table's vtable, all but the length of the table. `offset` gives the offset of each slot.
 template <class L, class Constant>
-constexpr void describe_vtable(Constant& constant, u32 vtable, u32 table_bytes, const std::array<u32, L::slots>& offset)
+constexpr void describe_vtable(Constant& constant, u32 vtable, const std::array<u32, L::slots>& offset)
 {
     constant(vtable, L::vtable_bytes, 2);
-    constant(vtable + 2, table_bytes, 2);
     for (u32 k = 0; k < L::slots; ++k)
         constant(vtable + vtable_head_bytes + slot_bytes * k, offset[k], slot_bytes);
 }
@@ -27,7 +28,8 @@ constexpr void describe_fixed(Constant& constant, Field& field, u32 record = 0, 
     const u32 table = root + root_bytes;
     constant(root, root_bytes, 4);
     constant(table, root_bytes - L::fixed_vtable, 4);
-    describe_vtable<L>(constant, root + L::fixed_vtable, L::fixed_table_bytes, L::fixed_offset);
+    describe_vtable<L>(constant, root + L::fixed_vtable, L::fixed_offset);
+    constant(root + L::fixed_vtable + table_length_at, L::fixed_table_bytes, 2);
     each_slot<L>([&](auto k) {
         constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
@@ -46,51 +48,91 @@ constexpr void describe_fixed(Constant& constant, Field& field, u32 record = 0, 
     });
 }
 
-// The compact form, without the root, of a record without a zero scalar: what write_table makes of it. Returns its end.
-template <class L, class Constant, class Field>
-constexpr u32 describe_full(Constant& constant, Field& field, u32 record = 0, u32 vtable = 0)
+// A place in a picture, and how many bodies stand in front of it.
+struct Place {
+    u32 position = 0;
+    u32 bodies = 0;
+};
+
+// A number at `position`, the distance between two places.
+template <class Constant, class Add>
+constexpr void describe_distance(Constant& constant, Add& sum, u32 position, u32 width, const Place& from,
+                                 const Place& to, bool must_be)
 {
-    const u32 table = vtable + L::vtable_bytes;
-    constant(table, L::vtable_bytes, 4);
-    u32 at = table + table_head_bytes;
+    const u32 value = to.position - from.position;
+    if (from.bodies == to.bodies)
+        constant(position, value, width);
+    else
+        sum(Sum{position, width, value, from.bodies, to.bodies, must_be});
+}
+
+// The compact form, without the root, of a record in which no scalar is zero, no text or block is absent and no block
+// empty: what write_table makes of it. Returns its end.
+template <class L, class Constant, class Field, class AnyBody, class Add>
+constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, Add& sum, u32 record = 0,
+                              const Place& vtable = {})
+{
+    static_assert(!L::has_vectors);
+    const Place table{vtable.position + L::vtable_bytes, vtable.bodies};
+    constant(table.position, L::vtable_bytes, 4);
+    Place at{table.position + table_head_bytes, table.bodies};
     std::array<u32, L::slots> offset{};
     each_slot<L>([&](auto k) {
         constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::kind == Kind::scalar) {
-            offset[K] = at - table;
-            field(Run{record + L::record_offset[K], at, Slot::record_size, Slot::record_size});
-            at += Slot::record_size;
+            offset[K] = at.position - table.position;
+            field(Run{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
+            at.position += Slot::record_size;
         }
         return true;
     });
     for (u32 k = 0; k < L::slots; ++k) {
         if (L::kinds[k] != Kind::scalar) {
-            offset[k] = at - table;
-            at += cell_bytes;
+            offset[k] = at.position - table.position;
+            at.position += cell_bytes;
         }
     }
+    const auto lead = [&](u32 k, const Place& to) {
+        const Place cell{table.position + offset[k], table.bodies};
+        describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
+    };
     each_slot<L>([&](auto k) {
         constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
-        if constexpr (Slot::kind == Kind::array) {
-            const u32 cell = table + offset[K];
-            constant(cell, at - cell, cell_bytes);
-            constant(at, Slot::count, count_bytes);
-            at += count_bytes;
-            field(Run{record + L::record_offset[K], at, Slot::payload, sizeof(typename Slot::Value)});
-            at += Slot::payload;
+        constexpr Kind kind = Slot::kind;
+        const u32 from = record + L::record_offset[K];
+        if constexpr (kind == Kind::array) {
+            lead(K, at);
+            constant(at.position, Slot::count, count_bytes);
+            at.position += count_bytes;
+            field(Run{from, at.position, Slot::payload, sizeof(typename Slot::Value)});
+            at.position += Slot::payload;
+        } else if constexpr (kind == Kind::text || kind == Kind::block) {
+            lead(K, at);
+            if (kind == Kind::text)
+                sum(Sum{at.position, count_bytes, 0, at.bodies, at.bodies + 1, false});
+            else
+                field(Run{from, at.position, count_bytes, count_bytes});
+            at.position += count_bytes;
+            body(Body{kind, from, at.position});
+            ++at.bodies;
+            if (kind == Kind::text) {
+                sum(Sum{at.position, 1, 0, at.bodies, at.bodies, false});   // its NUL
+                ++at.position;
+            }
         }
         return true;
     });
-    describe_vtable<L>(constant, vtable, at - table, offset);
+    describe_vtable<L>(constant, vtable.position, offset);
+    describe_distance(constant, sum, vtable.position + table_length_at, 2, table, at, false);
     each_slot<L>([&](auto k) {
         constexpr u32 K = k;
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::kind == Kind::table) {
-            const u32 cell = table + offset[K];
-            constant(cell, at + Slot::Layout::vtable_bytes - cell, cell_bytes);
-            at = describe_full<typename Slot::Layout>(constant, field, record + L::record_offset[K], at);
+            using Inner = typename Slot::Layout;
+            lead(K, {at.position + Inner::vtable_bytes, at.bodies});
+            at = describe_full<Inner>(constant, field, body, sum, record + L::record_offset[K], at);
         }
         return true;
     });
@@ -102,8 +144,8 @@ struct FixedDescription {
     static constexpr u32 length = L::fixed_length;
     static_assert(length <= fixed_buffer_bytes);
 
-    template <class Constant, class Field>
-    static constexpr void walk(Constant&& constant, Field&& field)
+    template <class Constant, class Field, class AnyBody, class Add>
+    static constexpr void walk(Constant&& constant, Field&& field, AnyBody&&, Add&&)
     {
         describe_fixed<L>(constant, field);
     }
@@ -111,13 +153,13 @@ struct FixedDescription {
 
 template <class L>
 struct FullDescription {
-    template <class Constant, class Field>
-    static constexpr u32 walk(Constant&& constant, Field&& field)
+    template <class Constant, class Field, class AnyBody, class Add>
+    static constexpr u32 walk(Constant&& constant, Field&& field, AnyBody&& body, Add&& sum)
     {
-        return describe_full<L>(constant, field);
+        return describe_full<L>(constant, field, body, sum).position;
     }
 
-    static constexpr u32 length = walk([](u32, u32, u32) {}, [](const Run&) {});
+    static constexpr u32 length = walk(unheard, unheard, unheard, unheard);
 };
 
 }   // namespace detail
@@ -128,7 +170,14 @@ using FixedForm = Picture<L, detail::FixedDescription<L>>;
 template <class L>
 using FullForm = Picture<L, detail::FullDescription<L>>;
 
-// Whether FullForm is the compact form of this record, whose layout has no heap parts.
+// Calls visit(b) for each body of a picture, b being its number as a constant.
+template <class Form, class Visit>
+[[gnu::always_inline]] inline bool each_body(Visit&& visit)
+{
+    return detail::each_number(visit, std::make_integer_sequence<u32, Form::bodies.size()>());
+}
+
+// Whether FullForm is the compact form of this record.
 template <class L>
 [[gnu::always_inline]] inline bool has_full_form(const u8* record)
 {
@@ -140,6 +189,10 @@ template <class L>
             return field_value<typename Slot::Value>(field) != 0;
         else if constexpr (Slot::kind == Kind::table)
             return has_full_form<typename Slot::Layout>(field);
+        else if constexpr (Slot::kind == Kind::text)
+            return field_pointer(field) != nullptr;
+        else if constexpr (Slot::kind == Kind::block)
+            return field_value<u32>(field) != 0 && field_pointer(field + counted_pointer) != nullptr;
         else
             return true;
     });

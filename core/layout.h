@@ -94,6 +94,24 @@ struct Nested {
     static constexpr u32 fixed_bytes = L::fixed_length;
 };
 
+template <class Slot>
+constexpr bool holds_vectors()
+{
+    if constexpr (Slot::kind == Kind::table)
+        return Slot::Layout::has_vectors;
+    else
+        return Slot::kind == Kind::vector;
+}
+
+template <class Slot>
+constexpr u32 slots_of()
+{
+    if constexpr (Slot::kind == Kind::table)
+        return 1 + Slot::Layout::all_slots;
+    else
+        return 1;
+}
+
 // ---- the layout ----
 
 template <class... Slots>
@@ -138,6 +156,15 @@ struct Layout {
         ((any = any || Slots::kind == Kind::array || Slots::kind == Kind::table), ...);
         return any;
     }();
+
+    static constexpr bool has_vectors = (holds_vectors<Slots>() || ...);
+
+    // Those of all tables beneath included.
+    static constexpr u32 all_slots = (slots_of<Slots>() + ...);
+
+    // Whether a record without zeros is taken for a picture. Of a vector it is the elements that are dear, and a short
+    // table with heap parts is not worth the look.
+    static constexpr bool has_picture = !has_heap_parts || (!has_vectors && all_slots > 16);
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 

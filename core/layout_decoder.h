@@ -20,9 +20,9 @@ template <class L>
     if (!picture_fits(in, table, L::vtable_bytes, Form::length, at))
         return false;
     const u8* const bytes = in.bytes_unchecked(at, 0, Form::length);   // picture_fits
-    if (!Form::matches(bytes))
+    if (!Form::matches({bytes}))
         return false;
-    Form::read(record, bytes);
+    Form::read(record, {bytes});
     return true;
 }
 
@@ -50,9 +50,9 @@ template <class L>
     if (!holds_bytes(in, Form::length))
         return false;
     const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);   // holds_bytes
-    if (!Form::matches(bytes))
+    if (!Form::matches({bytes}))
         return false;
-    Form::read(record, bytes);
+    Form::read(record, {bytes});
     return true;
 }
 
@@ -73,11 +73,15 @@ constexpr Widths<L::slots> scalar_widths = [] {
 }();
 
 // Opens a table whose vtable has all slots and whose scalars all lie inside. The compact way is code for each layout,
-// which 32-bit machines, with less room for it, do without.
+// which 32-bit machines, with less room for it, do without. Where that is all there is for a table with a vector, whose
+// elements are what takes time, others are left to the decoder for anything.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {
-    if (pointer_bytes < 8 || !open_compact_table(in, table, L::slots, view)) {
+    constexpr bool has_compact_way = pointer_bytes == 8;
+    if (!has_compact_way || !open_compact_table(in, table, L::slots, view)) {
+        if (has_compact_way && L::has_vectors)
+            return false;
         view = open_table_of(in, table, L::slots);
         if (view.vtable == 0)
             return false;
@@ -157,8 +161,7 @@ template <class L>
     if constexpr (L::has_heap_parts)
         return decode_heap_table<L>(in, table, record, message);
     else
-        return read_full_table<L>(in, table, record) || read_plain_table<L>(in, table, record) ||
-               decode_nested_anew(in, table, record, message);
+        return read_plain_table<L>(in, table, record) || decode_nested_anew(in, table, record, message);
 }
 
 // ---- layouts with heap parts ----
@@ -192,33 +195,124 @@ template <class L, u32 K>
     }
 }
 
-// A table whose scalars are tested, into a record that is clear; on a fault it is released. In slot order, as a fault
-// leaves unset what is behind it.
+enum class Reading : u8 { none, refused, done };   // none: nothing was done
+
+// A table whose scalars all lie inside, into a record that is clear or, where `clear` says so, is cleared first; on a
+// fault it is released. In slot order, as a fault leaves unset what is behind it.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool decode_tested_table(Input in, const TableView<Input>& view, u8* record,
-                                                                  const Decoder& decoder, const char* routine)
+[[nodiscard, gnu::always_inline]] inline Reading
+read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
 {
+    TableView<Input> view;
+    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
+        return Reading::none;
+    ensure_memory_services(*decoder.unit);
+    if (clear)
+        clear_run<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
     if (each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, in, view, record); }))
         [[likely]]
-        return true;
+        return Reading::done;
     release_record(decoder, record);
-    return false;
+    return Reading::refused;
+}
+
+template <class L>
+[[nodiscard, gnu::noinline]] Reading read_heap_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                     const char* routine, bool clear)
+{
+    return read_heap_table_here<L>(in, table, record, decoder, routine, clear);
 }
 
 // As decode_any_nested.
 template <class L>
-bool decode_heap_table(Input in, u32 table, u8* record, const NestedDecoder& message)
+[[nodiscard, gnu::always_inline]] inline bool decode_heap_table(Input in, u32 table, u8* record,
+                                                                const NestedDecoder& message)
 {
-    TableView<Input> view;
-    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
+    const Reading reading = read_heap_table<L>(in, table, record, *message.decoder, message.routine, false);
+    if (reading == Reading::none) [[unlikely]]
         return decode_any_nested(in, table, record, message);
-    return decode_tested_table<L>(in, view, record, *message.decoder, message.routine);
+    return reading == Reading::done;
+}
+
+// ---- pictures with heap parts ----
+
+// What is behind a field that ends a read stays unset.
+[[gnu::noinline, gnu::cold]] inline void clear_behind(u8* record, u32 end, u32 record_end)
+{
+    std::memset(record + end, 0, record_end - end);
+}
+
+// Gives the record of a picture what it owns, in slot order; `base` is where the fields of `L` begin in it.
+template <class Form, class L, u32 base>
+[[nodiscard, gnu::always_inline]] inline bool take_heap_parts(const typename Form::template Places<const u8>& bytes,
+                                                              u8* record, const Decoder& decoder, const char* routine)
+{
+    const bool all = each_slot<L>([&](auto k) __attribute__((always_inline)) {
+        constexpr u32 K = k;
+        using Slot = typename L::template Slot<K>;
+        if constexpr (Slot::fixed_bytes == 0) {
+            constexpr u32 offset = base + L::record_offset[K];
+            u8* const field = record + offset;
+            bool taken;
+            if constexpr (Slot::kind == Kind::table) {
+                const NestedDecoder& message = decoder.nested[L::nested_before(K)];
+                taken = take_heap_parts<Form, typename Slot::Layout, offset>(bytes, record, *message.decoder,
+                                                                             message.routine) ||
+                        !Slot::fault_ends_read;
+            } else {
+                constexpr u32 b = Form::body_of(offset);
+                const u8* const from = bytes[b] + Form::bodies[b].position;
+                const auto length = static_cast<u32>(bytes[b + 1] - bytes[b]);
+                if constexpr (Slot::kind == Kind::text)
+                    taken = take_text(decoder, routine, from, length, field);
+                else
+                    taken = take_block(decoder, routine, from, length, field);
+            }
+            if (!taken) [[unlikely]]
+                clear_behind(record, offset + Slot::record_size, base + L::record_size);
+            return taken;
+        }
+        return true;
+    });
+    if (!all) [[unlikely]]
+        release_record(decoder, record + base);
+    return all;
+}
+
+enum class Behind : u8 { nothing, anything };
+
+// A table in compact form in which nothing is zero, with all beneath it. With nothing behind it, as in a message of its
+// own, most others are told from it by their length.
+template <class L>
+[[nodiscard, gnu::noinline]] Reading read_full_heap_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                          const char* routine, Behind behind)
+{
+    using Form = FullForm<L>;
+    u32 at = 0;
+    if (!picture_fits(in, table, L::vtable_bytes, Form::length, at))
+        return Reading::none;
+    u32 room = in.length - at - Form::length;
+    typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // picture_fits
+    const bool fit = each_body<Form>([&](auto b) __attribute__((always_inline)) {
+        constexpr Body body = Form::bodies[b];
+        u32 length = 0;
+        if (!take_body(in, at + body.position - count_bytes, room, length))
+            return false;
+        at += length;
+        bytes[b + 1] = in.bytes_unchecked(at, 0, Form::length);   // take_body
+        return length != 0 || body.kind == Kind::text;
+    });
+    if (!fit || (behind == Behind::nothing && room != 0) || !Form::matches(bytes))
+        return Reading::none;
+    ensure_memory_services(*decoder.unit);
+    Form::read(record, bytes);
+    return take_heap_parts<Form, L, 0>(bytes, record, decoder, routine) ? Reading::done : Reading::refused;
 }
 
 // ---- elements ----
 
-// Elements of a layout without heap parts: pictures as long as they are, then any.
+// Elements: pictures as long as they are, then any.
 template <class L>
 bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
@@ -242,11 +336,19 @@ bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const Ne
 template <class L>
 bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
-    for (u32 i = 0; i < count; ++i) {
+    bool full = L::has_picture;   // so far
+    u8* record = records;
+    for (u32 i = 0; i < count; ++i, record += L::record_size) {
         u32 table = 0;
         if (!element_table(in, cells, i, table))
             return false;
-        if (!decode_heap_table<L>(in, table, records + std::size_t{i} * L::record_size, element))
+        Reading reading = Reading::none;
+        if constexpr (L::has_picture)
+            if (full)
+                reading =
+                    read_full_heap_table<L>(in, table, record, *element.decoder, element.routine, Behind::anything);
+        full = reading == Reading::done;
+        if (reading == Reading::refused || (!full && !decode_heap_table<L>(in, table, record, element)))
             return false;
     }
     return true;
@@ -312,13 +414,14 @@ template <class L>
 {
     const u32 table = root_table(in);
     if constexpr (L::has_heap_parts) {
-        TableView<Input> view;
-        if (!open_tested_table<L>(in, table, view)) [[unlikely]]
-            return false;
-        ensure_memory_services(*decoder.unit);
-        clear_run<L::record_size>(record);
-        (void)decode_tested_table<L>(in, view, record, decoder, decoder.unpack_routine);
-        return true;
+        if constexpr (L::has_picture)
+            if (read_full_heap_table<L>(in, table, record, decoder, decoder.unpack_routine, Behind::nothing) !=
+                Reading::none)
+                return true;
+        if constexpr (L::has_vectors)   // and so stands in no other table
+            return read_heap_table_here<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
+        else
+            return read_heap_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
     } else {
         if (!(table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) &&
             !read_short_table<L>(in, table, record))

@@ -1,9 +1,13 @@
 // A picture: a form of a message in which every byte is either constant or a byte of the record, at a place known when
-// compiled. The fixed form is one, and the compact form of a record with neither zero scalars nor heap parts another.
+// compiled. The fixed form is one, and the compact form of a record without a zero another.
 //
 // To write a picture is to copy, without a look at the values; to read one is to compare the constants and to copy.
 // Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece where a later piece is
 // written over it, so that few moves are narrow ones.
+//
+// Texts and blocks, its bodies, are of any length. They stand between the parts of a picture and have no place in it: a
+// position counts the picture's own bytes. So a number that leads past a body, or counts one, is not constant but a
+// sum.
 #pragma once
 
 #include <algorithm>
@@ -21,6 +25,27 @@ struct Run {
     u32 bytes;
     u32 width;
 };
+
+// Stands in front of the picture's byte at `position`, right behind its count.
+struct Body {
+    Kind kind;
+    u32 record_offset;   // of its field
+    u32 position;
+};
+
+// A number of `width` bytes to which the lengths of the bodies from `first` up to, not including, `last` are added.
+// Some need not be so for a reader, who finds the lengths by them or does not look at them.
+struct Sum {
+    u32 position;
+    u32 width;
+    u32 value;
+    u32 first;
+    u32 last;
+    bool must_be;
+};
+
+// Of what is described, what somebody does not want to know.
+constexpr auto unheard = [](const auto&...) {};
 
 namespace detail {
 
@@ -149,65 +174,123 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form has the picture's `length` and walk(constant, field), which describes all of it by
-// calls of constant(position, value, width) and field(run).
+// `L` is the record's layout. Form has the picture's `length` and walk(constant, field, body, sum), which describes all
+// of it by calls of constant(position, value, width), field(run), body(body) and sum(sum); runs and bodies come in the
+// order of the wire.
 template <class L, class Form>
 struct Picture {
     static constexpr u32 length = Form::length;
+    static_assert(length <= 0xFFFF);   // picture_fits relies on it
 
     // The picture of an all-zero record.
     static constexpr std::array<u8, length> image = [] {
         std::array<u8, length> bytes{};
         Form::walk([&](u32 position, u32 value, u32 width) { detail::put(bytes.data() + position, value, width); },
-                   [](const Run&) {});
+                   unheard, unheard, unheard);
         return bytes;
     }();
+
+    static constexpr auto bodies =
+        detail::collected<Body, [](auto&& visit) { Form::walk(unheard, unheard, visit, unheard); }>;
+
+    static constexpr auto sums =
+        detail::collected<Sum, [](auto&& visit) { Form::walk(unheard, unheard, unheard, visit); }>;
+
+    // Where the parts are that the bodies leave of a picture: of each, the address that position 0 would have if the
+    // part began there. So the byte at a position of a part is at the part's address plus the position.
+    static constexpr u32 parts = bodies.size() + 1;
+    template <class Byte>
+    using Places = std::array<Byte*, parts>;
+
+    static constexpr u32 part_of(u32 position)
+    {
+        u32 part = 0;
+        while (part < bodies.size() && bodies[part].position <= position)
+            ++part;
+        return part;
+    }
+
+    // The number of the body whose field is at an offset in the record.
+    static constexpr u32 body_of(u32 record_offset)
+    {
+        u32 b = 0;
+        while (bodies[b].record_offset != record_offset)
+            ++b;
+        return b;
+    }
+
+    static constexpr u32 part_end(u32 position)
+    {
+        const u32 part = part_of(position);
+        return part < bodies.size() ? bodies[part].position : length;
+    }
 
     // Joined, in the order of the wire.
     static constexpr auto runs = detail::collected<Run, [](auto&& visit) {
         Run open{};
-        Form::walk([](u32, u32, u32) {},
-                   [&](const Run& field) {
-                       if (open.bytes != 0 && detail::joins(open, field)) {
-                           open.bytes += field.bytes;
-                           return;
-                       }
-                       if (open.bytes != 0)
-                           visit(open);
-                       open = field;
-                   });
-        visit(open);
+        Form::walk(
+            unheard,
+            [&](const Run& field) {
+                if (open.bytes != 0 && detail::joins(open, field) &&
+                    part_of(open.position) == part_of(field.position)) {
+                    open.bytes += field.bytes;
+                    return;
+                }
+                if (open.bytes != 0)
+                    visit(open);
+                open = field;
+            },
+            unheard, unheard);
+        if (open.bytes != 0)
+            visit(open);
     }>;
 
-    // Writes `length` bytes.
-    [[gnu::always_inline]] static void write_here(u8* to, const u8* record)
+    // Writes `length` bytes, all but the bodies.
+    [[gnu::always_inline]] static void write_here(const Places<u8>& to, const u8* record)
     {
         if constexpr (!host_has_wire_order) {
-            copy_run<length>(to, image.data());
+            for (u32 at = 0; at < length; at = part_end(at))
+                std::memcpy(to[part_of(at)] + at, image.data() + at, part_end(at) - at);
             for (const Run& run : runs)
-                copy_turned(to + run.position, record + run.record_offset, run);
+                copy_turned(to[part_of(run.position)] + run.position, record + run.record_offset, run);
         } else {
             make_moves<writing>([&](auto m) __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
                 const u8* const from = (move.constant ? image.data() : record) + move.from;
+                u8* const at = to[part_of(move.to)] + move.to;
                 if constexpr (move.bytes > detail::move_bytes)
-                    detail::copy_long(to + move.to, from, move.bytes);
+                    detail::copy_long(at, from, move.bytes);
                 else
-                    detail::copy_move<move.bytes>(to + move.to, from);
+                    detail::copy_move<move.bytes>(at, from);
             });
         }
+        each_sum([&](auto i) __attribute__((always_inline)) {
+            constexpr Sum sum = sums[i];
+            u8* const at = to[part_of(sum.position)] + sum.position;
+            if constexpr (sum.width == sizeof(u32))
+                store(at, value_of<i>(to));
+            else if constexpr (sum.first != sum.last)
+                store(at, static_cast<u16>(value_of<i>(to)));
+            return true;
+        });
     }
 
-    [[gnu::noinline]] static void write(u8* to, const u8* record) { write_here(to, record); }
+    [[gnu::noinline]] static void write(u8* to, const u8* record) { write_here({to}, record); }
 
-    // Whether `length` bytes are a picture of some record.
-    static bool matches(const u8* bytes)
+    // Whether the bytes are a picture of some record, which they can be with bodies of any content.
+    [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
         detail::Lanes wide{};
         u64 narrow = 0;
+        each_sum([&](auto i) __attribute__((always_inline)) {
+            constexpr Sum sum = sums[i];
+            if constexpr (sum.must_be)
+                narrow |= load<u32>(bytes[part_of(sum.position)] + sum.position) ^ value_of<i>(bytes);
+            return true;
+        });
         make_moves<comparing>([&](auto m) __attribute__((always_inline)) {
             constexpr detail::Move move = comparing[m];
-            const u8* const left = bytes + move.to;
+            const u8* const left = bytes[part_of(move.to)] + move.to;
             const u8* const right = image.data() + move.to;
             if constexpr (move.bytes > detail::move_bytes)
                 narrow |= detail::differ_long(left, right, move.bytes);
@@ -227,24 +310,25 @@ struct Picture {
         return (narrow | halves[0] | halves[1]) == 0;
     }
 
-    // Writes the whole record, gaps between its fields as zeros, from a picture that matches.
-    static void read(u8* record, const u8* bytes)
+    // Writes the whole record, pointers and gaps between its fields as zeros, from a picture that matches.
+    [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
         if constexpr (!host_has_wire_order) {
             clear_run<L::record_size>(record);
             for (const Run& run : runs)
-                copy_turned(record + run.record_offset, bytes + run.position, run);
+                copy_turned(record + run.record_offset, bytes[part_of(run.position)] + run.position, run);
         } else {
             make_moves<reading>([&](auto m) __attribute__((always_inline)) {
                 constexpr detail::Move move = reading[m];
+                const u8* const from = move.constant ? nullptr : bytes[part_of(move.from)] + move.from;
                 if constexpr (move.constant && move.bytes > detail::move_bytes)
                     detail::clear_long(record + move.to, move.bytes);
                 else if constexpr (move.constant)
                     std::memset(record + move.to, 0, move.bytes);
                 else if constexpr (move.bytes > detail::move_bytes)
-                    detail::copy_long(record + move.to, bytes + move.from, move.bytes);
+                    detail::copy_long(record + move.to, from, move.bytes);
                 else
-                    detail::copy_move<move.bytes>(record + move.to, bytes + move.from);
+                    detail::copy_move<move.bytes>(record + move.to, from);
             });
         }
     }
@@ -257,31 +341,76 @@ private:
         return sorted;
     }();
 
+    // What is not compared as it stands: the record's bytes and the sums.
+    static constexpr auto not_constant = [] {
+        std::array<Run, runs.size() + sums.size()> all{};
+        std::copy(runs.begin(), runs.end(), all.begin());
+        std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), [](const Sum& sum) {
+            return Run{0, sum.position, sum.width, sum.width};
+        });
+        std::sort(all.begin(), all.end(),
+                  [](const Run& left, const Run& right) { return left.position < right.position; });
+        return all;
+    }();
+
+    // Calls visit(piece) for the pieces of each part, in the order of the wire.
+    template <std::size_t N, class Visit>
+    static constexpr void each_wire_piece(const std::array<Run, N>& from_record, Visit&& visit)
+    {
+        detail::each_piece(from_record, &Run::position, &Run::record_offset, length, [&](detail::Piece piece) {
+            for (u32 end = piece.to + piece.bytes; piece.to < end; piece.to += piece.bytes) {
+                piece.bytes = std::min(end, part_end(piece.to)) - piece.to;
+                if (piece.constant)
+                    piece.from = piece.to;
+                visit(piece);
+            }
+        });
+    }
+
     static constexpr auto writing = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(runs, &Run::position, &Run::record_offset, length, [&](const detail::Piece& piece) {
-            detail::each_move_of(piece, length, piece.constant ? length : L::record_size, visit);
+        each_wire_piece(runs, [&](const detail::Piece& piece) {
+            detail::each_move_of(piece, part_end(piece.to), piece.constant ? length : L::record_size, visit);
         });
     }>;
 
     static constexpr auto comparing = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(runs, &Run::position, &Run::record_offset, length, [&](const detail::Piece& piece) {
+        each_wire_piece(not_constant, [&](const detail::Piece& piece) {
             if (piece.constant)
                 detail::each_move_of(piece, piece.to + piece.bytes, length, visit);
         });
     }>;
 
     static constexpr auto reading = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(
-            runs_by_record, &Run::record_offset, &Run::position, L::record_size, [&](const detail::Piece& piece) {
-                detail::each_move_of(piece, L::record_size, piece.constant ? L::record_size : length, visit);
-            });
+        detail::each_piece(runs_by_record, &Run::record_offset, &Run::position, L::record_size,
+                           [&](const detail::Piece& piece) {
+                               detail::each_move_of(piece, L::record_size,
+                                                    piece.constant ? L::record_size : part_end(piece.from), visit);
+                           });
     }>;
 
     static_assert(detail::is_whole(writing, length, L::record_size, length));
     static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
-    static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
-        return move.to == move.from && move.to + move.bytes <= length;
+    static_assert(std::all_of(writing.begin(), writing.end(),
+                              [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
+    static_assert(std::all_of(reading.begin(), reading.end(), [](const detail::Move& move) {
+        return move.constant || move.from + move.bytes <= part_end(move.from);
     }));
+    static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
+        return move.to == move.from && move.to + move.bytes <= part_end(move.to);
+    }));
+
+    template <class Visit>
+    [[gnu::always_inline]] static void each_sum(Visit&& visit)
+    {
+        detail::each_number(visit, std::make_integer_sequence<u32, sums.size()>());
+    }
+
+    template <u32 I, class Byte>
+    [[gnu::always_inline]] static u32 value_of(const Places<Byte>& places)
+    {
+        constexpr Sum sum = sums[I];
+        return sum.value + static_cast<u32>(places[sum.last] - places[sum.first]);
+    }
 
     template <const auto& moves, class Make>
     [[gnu::always_inline]] static void make_moves(Make&& make)

@@ -60,7 +60,7 @@ template <class L>
         u8 buffer[L::fixed_length];
         ensure_memory_services(*encoder.unit);
         if constexpr (L::is_small)
-            FixedForm<L>::write_here(buffer, record);
+            FixedForm<L>::write_here({buffer}, record);
         else
             FixedForm<L>::write(buffer, record);
         const MeshSendItem item{buffer, encoder.id, L::fixed_length};

@@ -247,8 +247,13 @@ constexpr u32 lane_bits = 16;
 constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
 constexpr u32 largest_lane = 0x7FFF;
 
-// The greatest room that can be told apart.
-constexpr u32 largest_room(std::size_t slots) { return slots >= wide_lanes ? 0xFFFE : largest_lane; }
+// The greatest room that can be told apart. Of few slots each is looked at by itself.
+constexpr u32 largest_room(std::size_t slots)
+{
+    if (slots < lanes)
+        return 0xFFFFFFFF;
+    return slots >= wide_lanes ? 0xFFFE : largest_lane;
+}
 
 template <class W>
 constexpr W each_lane(W value)
@@ -293,6 +298,12 @@ template <std::size_t N>
                                                           const Widths<N>& widths)
 {
     constexpr u32 slots = N;
+    if constexpr (slots < lanes) {
+        bool all = true;
+        for (u32 k = 0; k < slots; ++k)
+            all = all && field_fits(view, slot_unchecked(in, view, k), widths.of[k]);   // holds_slots
+        return all;
+    }
     if (view.room < widths.widest)
         return false;
     const u32 told_apart = view.room < largest_room(slots) ? view.room : largest_room(slots);
@@ -313,23 +324,14 @@ template <std::size_t N>
 #endif
     const LaneWord room = each_lane<LaneWord>(1) * told_apart;
     LaneWord beyond = 0;
-    const auto look = [&](u32 first, u32 count) __attribute__((always_inline))
-    {
-        LaneWord offsets = 0, fields = 0;
-        for (u32 i = 0; i < count; ++i)
-            fields |= LaneWord{widths.of[first + i]} << (lane_bits * i);
-        if (count == lanes)
-            offsets = in.load_unchecked<LaneWord>(view.vtable, vtable_head_bytes + slot_bytes * first);   // holds_slots
-        else
-            for (u32 i = 0; i < count; ++i)
-                offsets |= LaneWord{slot_unchecked(in, view, first + i)} << (lane_bits * i);
-        beyond |= lanes_beyond<LaneWord>(room, fields, offsets);
-    };
-    if constexpr (slots >= lanes)
-        each_group<lanes>(
-            slots, [&](u32 first) __attribute__((always_inline)) { look(first, lanes); });
-    else
-        look(0, slots);
+    each_group<lanes>(
+        slots, [&](u32 first) __attribute__((always_inline)) {
+            LaneWord fields = 0;
+            for (u32 i = 0; i < lanes; ++i)
+                fields |= LaneWord{widths.of[first + i]} << (lane_bits * i);
+            const auto offsets = in.load_unchecked<LaneWord>(view.vtable, vtable_head_bytes + slot_bytes * first);
+            beyond |= lanes_beyond<LaneWord>(room, fields, offsets);   // holds_slots
+        });
     return (beyond & each_lane<LaneWord>(largest_lane + 1)) == 0;
 }
 
@@ -379,6 +381,19 @@ template <class In>
 [[nodiscard]] inline bool payload_fits(const In& in, typename In::Word payload, typename In::Word count, u32 width)
 {
     return static_cast<bool>(count <= (in.length - payload) / width);
+}
+
+// A picture's own bytes lie inside, and `room` bytes behind them are left for its bodies: whether the one whose count
+// is at the position `at` finds room there. Takes it from the room.
+template <class In>
+[[nodiscard]] inline bool take_body(const In& in, typename In::Word at, typename In::Word& room,
+                                    typename In::Word& length)
+{
+    length = in.template load_unchecked<u32>(at);   // one of the picture's own bytes
+    if (length > room)
+        return false;
+    room = room - length;
+    return true;
 }
 
 // Follows the reference cell at `offset` to an array of so many values, of which there are fewer than 2^16.

@@ -9,8 +9,7 @@
 #include "tests/support/command.h"
 #include "tools/catalogue.h"
 
-namespace
-{
+namespace {
 
 using kesto::tools::MessageInfo;
 
@@ -32,10 +31,7 @@ Result exchange(const std::string& arguments, const std::string& environment = "
 }
 
 // One alone and three in a batch, in each form that there is.
-std::uint64_t strings_of(const MessageInfo& message)
-{
-    return message.fixed_length != 0 ? 8 : 4;
-}
+std::uint64_t strings_of(const MessageInfo& message) { return message.fixed_length != 0 ? 8 : 4; }
 
 std::uint64_t strings_of_all()
 {

@@ -195,6 +195,36 @@ struct PictureFits {
     }
 };
 
+// For any picture whose own bytes lie inside: what they leave for its bodies is `room`.
+template <class World, class Word>
+void room_is_left(World& world, Role role, const Word& at, const Word& n, const Word& room)
+{
+    world.state(role, wide(at) + wide(n) + wide(room) <= wide(world.input().length), "all that is left lies inside");
+}
+
+template <class Reader>
+struct TakeBody {
+    template <class World>
+    int operator()(World& world) const
+    {
+        const auto in = world.input();
+        const auto at = world.any(), n = world.any(), position = world.any(), room_before = world.any();
+        room_is_left(world, Role::relied_on, at, n, room_before);
+        world.state(Role::relied_on, wide(position) + count_bytes <= wide(n), "the count is in the picture");
+        auto room = room_before, length = world.any();
+        const bool accepted = Reader::take_body(in, at + position, room, length);
+        const auto count = in.template content<u32>(wide(at) + wide(position));
+        world.state(Role::promised, accepted == (wide(count) <= wide(room_before)),
+                    "a body is taken if and only if there is room for it");
+        if (!accepted)
+            return 0;
+        world.state(Role::promised, length == count, "it is as long as its count says");
+        in.touch(wide(at) + wide(position) + count_bytes, wide(length));
+        room_is_left(world, Role::promised, at + length, n, room);
+        return 1;
+    }
+};
+
 template <class Reader>
 struct OpenCompactTable {
     template <class World>
@@ -388,7 +418,7 @@ struct ElementTable {
 // the length: a counterexample is a byte string that somebody could send.
 template <class Reader>
 struct Message {
-    static constexpr std::size_t outcomes = 3 * 13 + 2;   // directly, in a nested table, in an element; and pictures
+    static constexpr std::size_t outcomes = 3 * 13 + 3;   // directly, in a nested table, in an element; and pictures
 
     template <class World>
     int operator()(World& world) const
@@ -412,7 +442,18 @@ private:
         if (root == root_bytes ? !Reader::holds_bytes(in, n) : !Reader::picture_fits(in, root, before, n, at))
             return 39;
         in.touch(wide(at), wide(n));
-        return 40;
+        Word room = in.length - at - n;
+        for (int bodies = 0; bodies < 2; ++bodies) {
+            const auto position = world.any();
+            Word length{};
+            world.state(Role::relied_on, wide(position) + count_bytes <= wide(n), "the count is in the picture");
+            if (!Reader::take_body(in, at + position, room, length))
+                return 40;
+            in.touch(wide(at) + wide(position) + count_bytes, wide(length));
+            at = at + length;
+            in.touch(wide(at), wide(n));
+        }
+        return 41;
     }
 
     template <class World, class Word>

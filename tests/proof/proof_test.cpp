@@ -38,6 +38,7 @@ struct Contracts {
     static constexpr Subject held_slots = subject<HeldSlots<Reader>>("holds_slots, slot_unchecked", 2);
     static constexpr Subject holds_bytes = subject<HoldsBytes<Reader>>("holds_bytes", 2);
     static constexpr Subject picture_fits = subject<PictureFits<Reader>>("picture_fits", 2);
+    static constexpr Subject take_body = subject<TakeBody<Reader>>("take_body", 2);
     static constexpr Subject open_compact = subject<OpenCompactTable<Reader>>("open_compact_table", 2);
     static constexpr Subject slot_offset = subject<SlotOffset<Reader>>("slot_offset", 2);
     static constexpr Subject scalar_u8 = subject<typename ScalarOf<u8>::template Read<Reader>>("read_scalar<u8>", 2);
@@ -54,10 +55,10 @@ struct Contracts {
     static constexpr Subject element_table = subject<ElementTable<Reader>>("element_table", 2);
     static constexpr Subject message = subject<Message<Reader>>("message", Message<Reader>::outcomes);
 
-    static constexpr Subject all[] = {root_table,   open_table,   held_slots,    holds_bytes, picture_fits,
-                                      open_compact, slot_offset,  scalar_u8,     scalar_u16,  scalar_u32,
-                                      scalar_u64,   open_body,    bytes_fit,     cells_fit,   array_u8,
-                                      array_u32,    nested_table, element_table, message};
+    static constexpr Subject all[] = {root_table, open_table,   held_slots,   holds_bytes,   picture_fits,
+                                      take_body,  open_compact, slot_offset,  scalar_u8,     scalar_u16,
+                                      scalar_u32, scalar_u64,   open_body,    bytes_fit,     cells_fit,
+                                      array_u8,   array_u32,    nested_table, element_table, message};
 };
 
 template <Weakness weakness>
@@ -206,6 +207,9 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
                                          FAULT(picture_of_any_length, picture_fits, broken_promise, read_outside),
                                          FAULT(picture_by_its_end, picture_fits, broken_promise, read_outside),
                                          FAULT(picture_one_too_far, picture_fits, broken_promise, read_outside),
+                                         FAULT(body_in_any_room, take_body, broken_promise, read_outside),
+                                         FAULT(body_one_too_long, take_body, broken_promise, read_outside),
+                                         FAULT(body_that_leaves_the_room, take_body, broken_promise, read_outside),
                                          FAULT(compact_anywhere, open_compact, read_outside, read_outside),
                                          FAULT(compact_of_any_vtable, open_compact, broken_promise, none),
                                          FAULT(compact_of_any_distance, open_compact, broken_promise, none),

@@ -37,6 +37,11 @@ struct Shipping {
         return kesto::picture_fits(in, table, before, n, at);
     }
     template <class In, class Word>
+    static bool take_body(const In& in, const Word& at, Word& room, Word& length)
+    {
+        return kesto::take_body(in, at, room, length);
+    }
+    template <class In, class Word>
     static bool open_compact_table(const In& in, const Word& table, const Word& slots, TableView<In>& view)
     {
         return kesto::open_compact_table(in, table, slots, view);
@@ -98,6 +103,9 @@ enum class Weakness {
     picture_of_any_length,
     picture_by_its_end,
     picture_one_too_far,
+    body_in_any_room,
+    body_one_too_long,
+    body_that_leaves_the_room,
     compact_anywhere,
     compact_of_any_vtable,
     compact_of_any_distance,
@@ -185,6 +193,17 @@ struct Weakened {
             return false;
         }
         at = table - before;
+        return true;
+    }
+
+    template <class In, class Word>
+    static bool take_body(const In& in, const Word& at, Word& room, Word& length)
+    {
+        length = in.template load_unchecked<u32>(at);
+        if (!is(Weakness::body_in_any_room) && length > room + (is(Weakness::body_one_too_long) ? 1 : 0))
+            return false;
+        if (!is(Weakness::body_that_leaves_the_room))
+            room = room - length;
         return true;
     }
 
