@@ -12,15 +12,6 @@ namespace {
     log_table_fault(*frame.decoder->unit, frame.routine, fault, frame.in, frame.view);
 }
 
-// Null, after a log line, when there is no memory.
-u8* allocate(const Decoder& owner, const char* routine, u32 size)
-{
-    void* const block = owner.unit->allocate(size, OSAL_MEMORY_MODULE, routine);
-    if (block == nullptr) [[unlikely]]
-        log_allocation(*owner.unit, routine, size);
-    return static_cast<u8*>(block);
-}
-
 void release_block(const Decoder& owner, u8* pointer_field)
 {
     owner.unit->release(field_pointer(pointer_field), OSAL_MEMORY_MODULE, owner.free_routine);
@@ -74,7 +65,8 @@ bool decode_slot(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field
     case Kind::table: return decode_table(frame, offset, slot, field);
     case Kind::vector: break;
     }
-    return decode_vector(frame, offset, field, frame.decoder->nested[slot.nested]);
+    return decode_vector(frame.in, frame.view, offset, field, *frame.decoder, frame.routine,
+                         frame.decoder->nested[slot.nested]);
 }
 
 bool decode_slots(const Frame& frame, u8* record)
@@ -164,44 +156,44 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     return take_block(*frame.decoder, frame.routine, block, length, field);
 }
 
-bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element)
+bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder, const char* routine,
+                           const NestedDecoder& element)
 {
-    u32 cells = 0, count = 0;
-    if (!open_body(frame.in, frame.view, offset, cells, count) || !payload_fits(frame.in, cells, count, cell_bytes))
-        return false;
-    set_field<u32>(field, count);   // stays even if the next lines fail
-    if (count == 0)
-        return true;
-
-    const u32 record_size = element.decoder->record_size;
-    const u64 needed = u64{count} * record_size;
-    const u32 size = static_cast<u32>(needed);   // required: in 32 bits, which many megabytes of cells can exceed
-    if (size == 0) [[unlikely]] {
+    const Decoder& of = *element.decoder;
+    const u32 size = count * of.record_size;   // required: in 32 bits, which many megabytes of cells can exceed
+    if (size == 0) {
         u32 table = 0;
-        if (element_table(frame.in, cells, 0, table))
-            log_decode_parameters(*element.decoder->unit, element.routine, frame.in.bytes, frame.in.length, nullptr);
+        if (element_table(in, cells, 0, table))
+            log_decode_parameters(*of.unit, element.routine, in.bytes, in.length, nullptr);
         return false;
     }
-    u8* const records = allocate(*frame.decoder, frame.routine, size);
+    u8* const records = allocate(decoder, routine, size);
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;
-    if (element.decoder->heap_field_count != 0)
-        memset_s(records, size, 0, size);   // others are written whole, and a fault gives back the block unseen
-    if (size == needed) [[likely]]
-        return element.decode_elements(frame.in, cells, count, records, element);
-    // The block of a wrapped size holds fewer elements than the count says. None is decoded past its end, and the block
-    // is gone before a free could walk the count.
-    const u32 whole = size / record_size;
-    (void)element.decode_elements(frame.in, cells, whole, records, element);
-    release_vector(*frame.decoder, *element.decoder, field, whole);
+    if (of.heap_field_count != 0)
+        memset_s(records, size, 0, size);
+    // The block holds fewer elements than the count says. None is decoded past its end, and the block is gone before a
+    // free could walk the count.
+    const u32 whole = size / of.record_size;
+    (void)element.decode_elements(in, cells, whole, records, element);
+    release_vector(decoder, of, field, whole);
     return false;
 }
 
-void free_unpacked(void* record, const Decoder& decoder)
+void free_unpacked(void* record_, const Decoder& decoder)
 {
-    if (record != nullptr)
-        release_record(decoder, static_cast<u8*>(record));
+    u8* const record = static_cast<u8*>(record_);
+    if (record == nullptr)
+        return;
+    const SlotInfo& first = decoder.heap_fields[0];
+    if (decoder.heap_field_count == 1 && first.kind == Kind::vector) {   // what most messages with heap parts are
+        ensure_memory_services(*decoder.unit);
+        release_vector(decoder, *decoder.nested[first.nested].decoder, record + first.record_offset,
+                       field_value<u32>(record + first.record_offset));
+    } else {
+        release_record(decoder, record);
+    }
 }
 
 bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message)

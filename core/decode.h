@@ -6,6 +6,7 @@
 
 #include "core/layout.h"
 #include "core/unit.h"
+#include "platform/bounded_memory.h"
 
 namespace kesto {
 
@@ -70,6 +71,15 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // The view of a table that has at least so many slots; its vtable is at 0, where none can be, when it has not.
 [[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
 
+// Memory for a part of a record; null, after a log line, when there is none.
+inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
+{
+    void* const block = decoder.unit->allocate(size, OSAL_MEMORY_MODULE, routine);
+    if (block == nullptr) [[unlikely]]
+        log_allocation(*decoder.unit, routine, size);
+    return static_cast<u8*>(block);
+}
+
 // Each of these makes a field own a copy of what has been found for it: of a text with a NUL added, of a block that is
 // not empty. False, after a log line, when there is no memory.
 [[nodiscard]] bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field);
@@ -78,7 +88,35 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
 [[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);   // logs a failed allocation
-[[nodiscard]] bool decode_vector(const Frame& frame, u32 offset, u8* field, const NestedDecoder& element);   // logs too
+
+// A vector whose elements take more than 32 bits can count, and so do not find room in the block that is allocated.
+[[nodiscard, gnu::cold]] bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder,
+                                                    const char* routine, const NestedDecoder& element);
+
+// Logs a failed allocation too. Inline, as most messages with heap parts are little more than a vector.
+[[nodiscard, gnu::always_inline]] inline bool decode_vector(const Input& in, const TableView<Input>& view, u32 offset,
+                                                            u8* field, const Decoder& decoder, const char* routine,
+                                                            const NestedDecoder& element)
+{
+    u32 cells = 0, count = 0;
+    if (!open_body(in, view, offset, cells, count) || !payload_fits(in, cells, count, cell_bytes))
+        return false;
+    set_field<u32>(field, count);   // stays even if the next lines fail
+    if (count == 0)
+        return true;
+
+    const Decoder& of = *element.decoder;
+    const u64 size = u64{count} * of.record_size;
+    if (size > 0xFFFFFFFF) [[unlikely]]
+        return decode_wrapped_vector(in, cells, count, field, decoder, routine, element);
+    u8* const records = allocate(decoder, routine, static_cast<u32>(size));
+    set_field<u8*>(field + counted_pointer, records);
+    if (records == nullptr) [[unlikely]]
+        return false;
+    if (of.heap_field_count != 0)
+        memset_s(records, size, 0, size);   // others are written whole, and a fault gives back the block unseen
+    return element.decode_elements(in, cells, count, records, element);
+}
 
 // Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
 void release_record(const Decoder& decoder, u8* record);

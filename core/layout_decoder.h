@@ -184,7 +184,8 @@ template <class L, u32 K>
         } else if constexpr (Slot::kind == Kind::block) {
             return decode_block(frame, offset, field);
         } else if constexpr (Slot::kind == Kind::vector) {
-            return decode_vector(frame, offset, field, frame.decoder->nested[L::nested_before(K)]);
+            return decode_vector(in, view, offset, field, *frame.decoder, frame.routine,
+                                 frame.decoder->nested[L::nested_before(K)]);
         } else {
             u32 table = 0;
             if (!nested_table(in, view, offset, table))

@@ -301,7 +301,8 @@ template <std::size_t N>
     if constexpr (slots < lanes) {
         bool all = true;
         for (u32 k = 0; k < slots; ++k)
-            all = all && field_fits(view, slot_unchecked(in, view, k), widths.of[k]);   // holds_slots
+            if (widths.of[k] != 0)
+                all = all && field_fits(view, slot_unchecked(in, view, k), widths.of[k]);   // holds_slots
         return all;
     }
     if (view.room < widths.widest)

@@ -151,7 +151,7 @@ class Tree:
         with open(os.path.join(ROOT, "CMakeLists.txt")) as whole, open(os.path.join(self.root, "CMakeLists.txt"), "w") as part:
             part.write(whole.read().replace(LARGEST_MODULE + " ", ""))
         configured = run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
-                          "-DCMAKE_CXX_FLAGS=-O0 -w",
+                          "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w",
                           f"-DCMAKE_SHARED_LINKER_FLAGS=-Wl,--whole-archive {archive} -Wl,--no-whole-archive"])
         if not configured:
             sys.exit("configure failed")
