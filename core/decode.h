@@ -106,10 +106,11 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
         return true;
 
     const Decoder& of = *element.decoder;
-    const u64 size = u64{count} * of.record_size;
-    if (size > 0xFFFFFFFF) [[unlikely]]
+    const u64 needed = u64{count} * of.record_size;
+    const u32 size = static_cast<u32>(needed);
+    if (size != needed) [[unlikely]]
         return decode_wrapped_vector(in, cells, count, field, decoder, routine, element);
-    u8* const records = allocate(decoder, routine, static_cast<u32>(size));
+    u8* const records = allocate(decoder, routine, size);
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr) [[unlikely]]
         return false;

@@ -2,7 +2,7 @@
 // decoder for anything, which comes to the same records, logs and refusals.
 //
 // A layout without heap parts has no effect but on its record, so that a fast way may give up at any point. The decoder
-// then begins anew.
+// then begins anew. One with heap parts gives up before it has had an effect, or not at all.
 #pragma once
 
 #include "core/decode.h"
