@@ -247,13 +247,8 @@ constexpr u32 lane_bits = 16;
 constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
 constexpr u32 largest_lane = 0x7FFF;
 
-// The greatest room that can be told apart. Of few slots each is looked at by itself.
-constexpr u32 largest_room(std::size_t slots)
-{
-    if (slots < lanes)
-        return 0xFFFFFFFF;
-    return slots >= wide_lanes ? 0xFFFE : largest_lane;
-}
+// The greatest room that can be told apart.
+constexpr u32 largest_room(std::size_t slots) { return slots >= wide_lanes ? 0xFFFE : largest_lane; }
 
 template <class W>
 constexpr W each_lane(W value)
@@ -298,7 +293,7 @@ template <std::size_t N>
                                                           const Widths<N>& widths)
 {
     constexpr u32 slots = N;
-    if constexpr (slots < lanes) {
+    if constexpr (slots < lanes) {   // each is looked at by itself
         bool all = true;
         for (u32 k = 0; k < slots; ++k)
             if (widths.of[k] != 0)
