@@ -146,66 +146,92 @@ template <class L>
 
 // ---- the packer ----
 
-// The slots of a vtable, gathered in registers and stored behind the fields: a store for each slot would be the dearest
-// part of packing.
-template <u32 N>
-struct SlotWords {
-    using Word = std::conditional_t<sizeof(void*) == 8, u64, u32>;
-    static constexpr u32 in_word = sizeof(Word) / slot_bytes;
+// Some slots of a vtable in one register.
+template <class Word>
+struct SlotWord {
+    static constexpr u32 slots = sizeof(Word) / slot_bytes;
+    Word word = 0;
 
-    u8* at;
-    std::array<Word, (N + in_word - 1) / in_word> words;
-
-    [[gnu::always_inline]] explicit SlotWords(u8* at_) : at(at_)
-    {
-        detail::each_number(
-            [&](auto i) __attribute__((always_inline)) {
-                words[i] = 0;
-                return true;
-            },
-            std::make_integer_sequence<u32, (N + in_word - 1) / in_word>());
-    }
-
-    template <u32 K>
+    template <u32 I>
     [[gnu::always_inline]] void set(u32 offset)
     {
-        words[K / in_word] |= Word{offset} << (8 * slot_bytes * (K % in_word));
+        word |= Word{offset} << (8 * slot_bytes * I);
     }
 
-    [[gnu::always_inline]] void close() const
-    {
-        // As constants, so that the words never need an address.
-        detail::each_number(
-            [&](auto i) __attribute__((always_inline)) {
-                store(at + i * sizeof(Word), words[i]);
-                return true;
-            },
-            std::make_integer_sequence<u32, N / in_word>());
-        detail::each_number(
-            [&](auto i) __attribute__((always_inline)) {
-                constexpr u32 k = N / in_word * in_word + i;
-                store(at + std::size_t{slot_bytes} * k,
-                      static_cast<u16>(words[k / in_word] >> (8 * slot_bytes * (k % in_word))));
-                return true;
-            },
-            std::make_integer_sequence<u32, N % in_word>());
-    }
+    [[gnu::always_inline]] Word value() const { return word; }
 };
 
-// The slots of a vtable, each stored as it is known.
-template <u32 N>
-struct SlotsInPlace {
-    u8* at;
+#ifdef __SSE2__
+// The same in a register that takes a slot in one instruction.
+struct SlotLanes {
+    static constexpr u32 slots = sizeof(u64) / slot_bytes;
+    u16 lanes [[gnu::vector_size(16)]] = {};
 
-    [[gnu::always_inline]] explicit SlotsInPlace(u8* at_) : at(at_) {}
+    template <u32 I>
+    [[gnu::always_inline]] void set(u32 offset)
+    {
+        lanes[I] = static_cast<u16>(offset);
+    }
+
+    [[gnu::always_inline]] u64 value() const { return static_cast<u64>(_mm_cvtsi128_si64(__m128i(lanes))); }
+};
+using SlotGatherer = SlotLanes;
+#else
+using SlotGatherer = SlotWord<std::size_t>;
+#endif
+
+// The slots of a vtable, gathered in registers, each of which is stored as soon as its last slot is known. Stores of
+// fields and of single slots in turn would be the dearest part of packing, as a processor merges those of neighbours.
+template <class L, class Gatherer>
+struct SlotWords {
+    static constexpr u32 in_word = Gatherer::slots;
+
+    u8* at;
+    std::array<Gatherer, (L::slots + in_word - 1) / in_word> words;
+
+    // Which slot of a word is known last: scalars are known before all others.
+    static constexpr u32 last_known(u32 word)
+    {
+        u32 last = word * in_word;
+        for (u32 k = last; k < (word + 1) * in_word && k < L::slots; ++k)
+            if (L::kinds[k] != Kind::scalar || L::kinds[last] == Kind::scalar)
+                last = k;
+        return last;
+    }
 
     template <u32 K>
     [[gnu::always_inline]] void set(u32 offset)
     {
-        store(at + std::size_t{slot_bytes} * K, static_cast<u16>(offset));
+        words[K / in_word].template set<K % in_word>(offset);
     }
 
-    [[gnu::always_inline]] void close() const {}
+    // Slot K will not change any more. Behind the last slots the head of the table may be written over, which comes
+    // later.
+    template <u32 K>
+    [[gnu::always_inline]] void known() const
+    {
+        constexpr u32 word = K / in_word, first = word * in_word;
+        static_assert((in_word - 2) * slot_bytes <= table_head_bytes);
+        if constexpr (K == last_known(word)) {
+            const auto slots = words[word].value();
+            if constexpr (first + 1 == L::slots)
+                store(at + std::size_t{slot_bytes} * first, static_cast<u16>(slots));
+            else
+                store(at + std::size_t{slot_bytes} * first, slots);
+        }
+    }
+
+    // Both, for a slot that is known at once.
+    template <u32 K>
+    [[gnu::always_inline]] void put(u32 offset)
+    {
+        if constexpr (K % in_word == 0 && K + 1 == L::slots) {
+            store(at + std::size_t{slot_bytes} * K, static_cast<u16>(offset));
+        } else {
+            set<K>(offset);
+            known<K>();
+        }
+    }
 };
 
 // Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was
@@ -229,11 +255,11 @@ struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    std::conditional_t<tail == Tail::follows, SlotsInPlace<L::slots>, SlotWords<L::slots>> slots;
+    SlotWords<L, std::conditional_t<tail == Tail::follows, SlotGatherer, SlotWord<std::size_t>>> slots;
     std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 
     [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_)
-        : table(table_), record(record_), slots(table_ - slot_bytes * L::slots)
+        : table(table_), record(record_), slots{table_ - slot_bytes * L::slots, {}}
     {
     }
 
@@ -254,12 +280,15 @@ struct TableWriter {
             if constexpr (tail == Tail::follows) {
                 store(table + at, value);   // a zero has the next field written over it, or the tail
                 const u32 mask = 0U - u32{value != 0};
-                slots.template set<K>(at & mask);
+                slots.template put<K>(at & mask);
                 at += sizeof value & mask;
-            } else if (value != 0) [[likely]] {
-                store(table + at, value);
-                slots.template set<K>(at);
-                at += sizeof value;
+            } else {
+                if (value != 0) [[likely]] {
+                    store(table + at, value);
+                    slots.template set<K>(at);
+                    at += sizeof value;
+                }
+                slots.template known<K>();
             }
         }
     }
@@ -275,7 +304,7 @@ struct TableWriter {
             else if constexpr (Slot<K>::kind == Kind::block || Slot<K>::kind == Kind::vector)
                 written = field_pointer(field<K>() + counted_pointer) != nullptr && field_value<u32>(field<K>()) != 0;
             cells[K] = written ? at : 0;
-            slots.template set<K>(cells[K]);
+            slots.template put<K>(cells[K]);
             at += written ? cell_bytes : 0;
         }
     }
@@ -372,7 +401,6 @@ u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
-    writer.slots.close();
     store(writer.table, u32{L::vtable_bytes});
 
     u8* end = writer.table + writer.at;

@@ -145,7 +145,7 @@ struct Layout {
     }();
 
     // Whether a call costs more than it spares, of code that more than one routine needs.
-    static constexpr bool is_small = slots <= 16;
+    static constexpr bool is_small = slots <= 14;
 
     // Whether it costs more even in a loop over elements. Never where code is larger and its size matters more.
     static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
