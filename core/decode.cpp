@@ -12,23 +12,17 @@ namespace {
     log_table_fault(*frame.decoder->unit, frame.routine, fault, frame.in, frame.view);
 }
 
-void release_block(const Decoder& owner, u8* pointer_field)
+void release_block(const Unit& unit, const char* routine, u8* pointer)
 {
-    owner.unit->release(field_pointer(pointer_field), OSAL_MEMORY_MODULE, owner.free_routine);
-    set_field<u8*>(pointer_field, nullptr);
+    unit.release(field_pointer(pointer), OSAL_MEMORY_MODULE, routine);
+    set_field<u8*>(pointer, nullptr);
 }
 
-// Releases a vector whose block holds `count` whole elements; nothing when there is no block.
-void release_vector(const Decoder& owner, const Decoder& element, u8* field, u32 count)
+void release_elements(const Decoder& element, u8* records, u32 count)
 {
-    u8* const pointer_field = field + counted_pointer;
-    u8* const records = field_pointer(pointer_field);
-    if (records == nullptr)
-        return;
-    if (element.heap_field_count != 0)
+    if (element.heap_part_count != 0)
         for (u32 i = 0; i < count; ++i)
             release_record(element, records + std::size_t{i} * element.record_size);
-    release_block(owner, pointer_field);
 }
 
 bool decode_scalar(const Frame& frame, u32 offset, u32 width, u8* field)
@@ -85,23 +79,17 @@ bool decode_slots(const Frame& frame, u8* record)
 void release_record(const Decoder& decoder, u8* record)
 {
     ensure_memory_services(*decoder.unit);
-    for (u32 i = 0; i < decoder.heap_field_count; ++i) {
-        const SlotInfo& heap = decoder.heap_fields[i];
-        u8* const field = record + heap.record_offset;
-        switch (heap.kind) {
-        case Kind::text:
-            release_block(decoder, field);   // required: release is called for an absent text too, with null
-            break;
-        case Kind::block:
-            release_block(decoder, field + counted_pointer);   // likewise
-            break;
-        case Kind::table: release_record(*decoder.nested[heap.nested].decoder, field); break;
-        case Kind::vector:
-            release_vector(decoder, *decoder.nested[heap.nested].decoder, field, field_value<u32>(field));
-            break;
-        case Kind::scalar:
-        case Kind::array: break;
+    for (u32 i = 0; i < decoder.heap_part_count; ++i) {
+        const HeapPart& part = decoder.heap_parts[i];
+        u8* const pointer = record + part.pointer;
+        if (part.element != nullptr) {
+            u8* const records = field_pointer(pointer);
+            if (records == nullptr)
+                continue;
+            release_elements(*part.element, records, field_value<u32>(pointer - counted_pointer));
         }
+        release_block(*decoder.unit, part.free_routine,
+                      pointer);   // required: for an absent text or block too, with null
     }
 }
 
@@ -171,29 +159,19 @@ bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Deco
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;
-    if (of.heap_field_count != 0)
-        memset_s(records, size, 0, size);
     // The block holds fewer elements than the count says. None is decoded past its end, and the block is gone before a
     // free could walk the count.
     const u32 whole = size / of.record_size;
     (void)element.decode_elements(in, cells, whole, records, element);
-    release_vector(decoder, of, field, whole);
+    release_elements(of, records, whole);
+    release_block(*decoder.unit, decoder.free_routine, field + counted_pointer);
     return false;
 }
 
-void free_unpacked(void* record_, const Decoder& decoder)
+void free_unpacked(void* record, const Decoder& decoder)
 {
-    u8* const record = static_cast<u8*>(record_);
-    if (record == nullptr)
-        return;
-    const SlotInfo& first = decoder.heap_fields[0];
-    if (decoder.heap_field_count == 1 && first.kind == Kind::vector) {   // what most messages with heap parts are
-        ensure_memory_services(*decoder.unit);
-        release_vector(decoder, *decoder.nested[first.nested].decoder, record + first.record_offset,
-                       field_value<u32>(record + first.record_offset));
-    } else {
-        release_record(decoder, record);
-    }
+    if (record != nullptr)
+        release_record(decoder, static_cast<u8*>(record));
 }
 
 bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
@@ -207,7 +185,7 @@ bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& mes
     }
     if (decode_slots(frame, record)) [[likely]]
         return true;
-    if (decoder.heap_field_count != 0)
+    if (decoder.heap_part_count != 0)
         release_record(decoder, record);
     return false;
 }
@@ -232,7 +210,7 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
     }
     ensure_memory_services(*decoder.unit);
     std::memset(record, 0, decoder.record_size);
-    if (!decode_slots(frame, record) && decoder.heap_field_count != 0)
+    if (!decode_slots(frame, record) && decoder.heap_part_count != 0)
         release_record(decoder, record);
 }
 

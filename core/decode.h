@@ -23,6 +23,15 @@ struct SlotInfo {
     u16 record_offset;
 };
 
+struct Decoder;
+
+// A part of a record that lies on the heap; the record's own, or that of a table within it.
+struct HeapPart {
+    const char* free_routine;   // of the message whose field it is
+    const Decoder* element;     // vectors: of what; null for texts and blocks
+    u32 pointer;                // its offset from the record
+};
+
 // What decoding and releasing need to know about one message.
 struct Decoder {
     Unit* unit;
@@ -31,11 +40,12 @@ struct Decoder {
     const NestedDecoder* nested;   // one for each table and vector, in slot order
     const SlotInfo* slots;
     u32 slot_count;
-    u32 heap_field_count;          // 0 for a message without heap parts
-    const SlotInfo* heap_fields;   // the slots that own memory, or whose nested record does
+    u32 heap_part_count;
+    const HeapPart* heap_parts;   // in slot order
     u32 record_size;
 };
 
+// Records come uninitialized. When one is refused, all are safe to release.
 using DecodeElements = bool (*)(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
 
 // A message inside another one.
@@ -105,8 +115,7 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
     if (count == 0)
         return true;
 
-    const Decoder& of = *element.decoder;
-    const u64 needed = u64{count} * of.record_size;
+    const u64 needed = u64{count} * element.decoder->record_size;
     const u32 size = static_cast<u32>(needed);
     if (size != needed) [[unlikely]]
         return decode_wrapped_vector(in, cells, count, field, decoder, routine, element);
@@ -114,8 +123,6 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr) [[unlikely]]
         return false;
-    if (of.heap_field_count != 0)
-        memset_s(records, size, 0, size);   // others are written whole, and a fault gives back the block unseen
     return element.decode_elements(in, cells, count, records, element);
 }
 

@@ -337,21 +337,25 @@ bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const Ne
 template <class L>
 bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
-    bool full = L::has_picture;   // so far
+    u32 i = 0, table = 0;
     u8* record = records;
-    for (u32 i = 0; i < count; ++i, record += L::record_size) {
-        u32 table = 0;
-        if (!element_table(in, cells, i, table))
-            return false;
-        Reading reading = Reading::none;
-        if constexpr (L::has_picture)
-            if (full)
-                reading =
-                    read_full_heap_table<L>(in, table, record, *element.decoder, element.routine, Behind::anything);
-        full = reading == Reading::done;
-        if (reading == Reading::refused || (!full && !decode_heap_table<L>(in, table, record, element)))
-            return false;
+    Reading reading = Reading::none;
+    if constexpr (L::has_picture) {
+        for (; i < count && element_table(in, cells, i, table); ++i, record += L::record_size) {
+            reading = read_full_heap_table<L>(in, table, record, *element.decoder, element.routine, Behind::anything);
+            if (reading != Reading::done)
+                break;
+        }
     }
+    if (i != count) {   // what is refused is released already
+        const std::size_t left = std::size_t{count - i} * L::record_size;
+        memset_s(record, left, 0, left);
+    }
+    if (reading == Reading::refused)
+        return false;
+    for (; i < count; ++i, record += L::record_size)
+        if (!element_table(in, cells, i, table) || !decode_heap_table<L>(in, table, record, element))
+            return false;
     return true;
 }
 
@@ -379,23 +383,17 @@ constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
 }();
 
 template <class L>
-constexpr auto heap_fields = [] {
-    constexpr u32 count = [] {
-        u32 fields = 0;
-        each_slot<L>([&](auto k) {
-            fields += L::template Slot<k>::fixed_bytes == 0;
-            return true;
-        });
-        return fields;
-    }();
-    std::array<SlotInfo, count> infos{};
-    u32 next = 0;
+constexpr u32 heap_part_count = [] {
+    u32 count = 0;
     each_slot<L>([&](auto k) {
-        if constexpr (L::template Slot<k>::fixed_bytes == 0)
-            infos[next++] = slot_infos<L>.data()[k];
+        using Slot = typename L::template Slot<k>;
+        if constexpr (Slot::kind == Kind::table)
+            count += heap_part_count<typename Slot::Layout>;
+        else
+            count += Slot::fixed_bytes == 0;
         return true;
     });
-    return infos;
+    return count;
 }();
 
 template <class L>

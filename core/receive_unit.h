@@ -31,6 +31,31 @@ struct Receiving {
         return list;
     }();
 
+    // In slot order, those of a table where it stands.
+    static constexpr auto heap_parts = [] {
+        std::array<HeapPart, heap_part_count<L>> parts{};
+        u32 next = 0;
+        each_slot<L>([&](auto k) {
+            constexpr Kind kind = L::template Slot<k>::kind;
+            constexpr u32 offset = L::record_offset[k];
+            if constexpr (kind == Kind::text) {
+                parts[next++] = {free_routine.data(), nullptr, offset};
+            } else if constexpr (kind == Kind::block) {
+                parts[next++] = {free_routine.data(), nullptr, offset + counted_pointer};
+            } else if constexpr (kind == Kind::vector) {
+                parts[next++] = {free_routine.data(), nested[L::nested_before(k)].decoder, offset + counted_pointer};
+            } else if constexpr (kind == Kind::table) {
+                const Decoder& inner = *nested[L::nested_before(k)].decoder;
+                for (u32 i = 0; i < inner.heap_part_count; ++i, ++next) {
+                    parts[next] = inner.heap_parts[i];
+                    parts[next].pointer += offset;
+                }
+            }
+            return true;
+        });
+        return parts;
+    }();
+
     static constexpr Decoder decoder{
         .unit = unit,
         .unpack_routine = unpack_routine.data(),
@@ -38,8 +63,8 @@ struct Receiving {
         .nested = nested.data(),
         .slots = slot_infos<L>.data(),
         .slot_count = L::slots,
-        .heap_field_count = heap_fields<L>.size(),
-        .heap_fields = heap_fields<L>.data(),
+        .heap_part_count = heap_part_count<L>,
+        .heap_parts = heap_parts.data(),
         .record_size = L::record_size,
     };
 };
