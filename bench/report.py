@@ -6,7 +6,8 @@ docs/performance.md.
                               allocations.txt that lies beside the first file
 
 A case's time is the median of its processor time over all repetitions in all files. Of the two ways to copy, the faster
-one is the limit. A median is within a few hundredths of the next run's; single repetitions are not.
+one is the limit. On a quiet machine a median is within a few hundredths of the next run's; single repetitions are not. On a
+busy one the least of the times says more, so the goals are judged by that as well.
 """
 
 import argparse
@@ -68,9 +69,9 @@ SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
 
 
 class Results:
-    """Median times in nanoseconds by (operation, set, contender), and mean lengths of byte strings."""
+    """Times in nanoseconds by (operation, set, contender), picked from all repetitions, and mean lengths of byte strings."""
 
-    def __init__(self, paths):
+    def __init__(self, paths, pick=statistics.median):
         times, lengths, rates = {}, {}, {}
         for path in paths:
             with open(path, encoding="utf-8") as file:
@@ -88,7 +89,7 @@ class Results:
                 lengths[key] = run["bytes"]
         self.processes = len(paths)
         self.repetitions = max(map(len, times.values()), default=0) // len(paths)
-        self.times = {key: statistics.median(values) for key, values in times.items()}
+        self.times = {key: pick(values) for key, values in times.items()}
         self.rates = {key: statistics.median(values) for key, values in rates.items()}
         self.lengths = lengths
         for operation, records, contender in list(self.times):
@@ -174,14 +175,19 @@ def threads(results):
     return head, rows
 
 
-def parts(results):
+def parts(results, least):
     """What is reported: a title and a table each."""
     for operation in OPERATIONS:
         if results.sets(operation):
             yield f"{operation}: nanoseconds, and ours as a multiple of the others'", table(results, operation)
     head, rows = goals(results)
     met, missed = (sum(row[-1] == word for row in rows) for word in ("met", "NOT MET"))
-    yield f"Goals: {met} of {met + missed} met", (head, rows)
+    by_least = goals(least)[1]
+    met_by_least = sum(row[-1] == "met" for row in by_least)
+    for row, other in zip(rows, by_least):
+        if row[-1] != other[-1]:
+            row[-1] += f" ({other[-1]} by the least times)"
+    yield f"Goals: {met} of {met + missed} met; by the least times instead of the medians, {met_by_least}", (head, rows)
     if results.rates:
         yield "Threads", threads(results)
 
@@ -194,8 +200,14 @@ def output_of(*command):
 
 def machine():
     info = pathlib.Path("/proc/cpuinfo").read_text(encoding="utf-8")
-    name = re.search(r"model name\s*: (.*)", info)
-    return f"{name[1] if name else 'unknown processor'}, {info.count('processor')} processors"
+
+    def first(key):
+        found = re.search(rf"^{key}\s*: (.*)", info, re.MULTILINE)
+        return found[1] if found else "unknown"
+
+    # A virtual machine's name of a processor does not say which one it is.
+    return (f"{first('model name')}, family {first('cpu family')}, model {first('model')}, {first('cpu MHz')} MHz, "
+            f"{len(re.findall('^processor', info, re.MULTILINE))} processors")
 
 
 def versions():
@@ -209,14 +221,14 @@ def as_markdown(head, rows):
     return "\n".join(lines + ["| " + " | ".join(row) + " |" for row in rows])
 
 
-def write_document(results, allocations):
+def write_document(results, tables, allocations):
     text = [
         f"- machine: {machine()}",
         f"- with: {versions()}",
         f"- date: {results.context['date'][:10]}; load at the start: {results.context['load_avg'][0]:.1f}",
         f"- command: `./run bench`; {results.processes} processes, {results.repetitions} repetitions in each",
     ]
-    for title, content in parts(results):
+    for title, content in tables:
         text += ["", f"### {title}", "", as_markdown(*content)]
         operation = title.split(":")[0]
         if (ROOT / f"docs/performance/{operation}.svg").exists():
@@ -295,11 +307,12 @@ def main():
     parser.add_argument("files", nargs="+")
     options = parser.parse_args()
     results = Results(options.files)
-    for title, content in parts(results):
+    tables = list(parts(results, Results(options.files, min)))
+    for title, content in tables:
         print(f"\n{title}\n\n{as_text(*content)}")
     if options.docs:
         draw(results)
-        write_document(results, (pathlib.Path(options.files[0]).parent / "allocations.txt").read_text(encoding="utf-8"))
+        write_document(results, tables, (pathlib.Path(options.files[0]).parent / "allocations.txt").read_text(encoding="utf-8"))
     return 0
 
 

@@ -88,8 +88,8 @@ void release_record(const Decoder& decoder, u8* record)
                 continue;
             release_elements(*part.element, records, field_value<u32>(pointer - counted_pointer));
         }
-        release_block(*decoder.unit, part.free_routine,
-                      pointer);   // required: for an absent text or block too, with null
+        // required: for an absent text or block too, with null
+        release_block(*decoder.unit, part.free_routine, pointer);
     }
 }
 

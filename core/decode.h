@@ -13,7 +13,7 @@ namespace kesto {
 struct Frame;
 struct NestedDecoder;
 
-// What decoding and releasing need to know about one slot.
+// What decoding needs to know about one slot.
 struct SlotInfo {
     Kind kind;
     u8 width;               // scalars and arrays: of a value
