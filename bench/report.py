@@ -6,8 +6,8 @@ docs/performance.md.
                               allocations.txt that lies beside the first file
 
 A case's time is the median of its processor time over all repetitions in all files. Of the two ways to copy, the faster
-one is the limit. On a quiet machine a median is within a few hundredths of the next run's; single repetitions are not. On a
-busy one the least of the times says more, so the goals are judged by that as well.
+one is the limit. On a quiet machine a median is within a few hundredths of the next run's; single repetitions are not.
+On a busy one the least of the times says more, so the goals are judged by that as well.
 """
 
 import argparse
@@ -69,7 +69,7 @@ SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
 
 
 class Results:
-    """Times in nanoseconds by (operation, set, contender), picked from all repetitions, and mean lengths of byte strings."""
+    """Times in nanoseconds by (operation, set, contender), each picked from all repetitions, and mean lengths."""
 
     def __init__(self, paths, pick=statistics.median):
         times, lengths, rates = {}, {}, {}
@@ -312,7 +312,8 @@ def main():
         print(f"\n{title}\n\n{as_text(*content)}")
     if options.docs:
         draw(results)
-        write_document(results, tables, (pathlib.Path(options.files[0]).parent / "allocations.txt").read_text(encoding="utf-8"))
+        allocations = pathlib.Path(options.files[0]).parent / "allocations.txt"
+        write_document(results, tables, allocations.read_text(encoding="utf-8"))
     return 0
 
 

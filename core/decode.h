@@ -6,7 +6,6 @@
 
 #include "core/layout.h"
 #include "core/unit.h"
-#include "platform/bounded_memory.h"
 
 namespace kesto {
 
@@ -29,7 +28,7 @@ struct Decoder;
 struct HeapPart {
     const char* free_routine;   // of the message whose field it is
     const Decoder* element;     // vectors: of what; null for texts and blocks
-    u32 pointer;                // its offset from the record
+    u32 pointer;                // its offset from the record's start
 };
 
 // What decoding and releasing need to know about one message.

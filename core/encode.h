@@ -175,19 +175,19 @@ struct SlotLanes {
 
     [[gnu::always_inline]] u64 value() const { return static_cast<u64>(_mm_cvtsi128_si64(__m128i(lanes))); }
 };
-using SlotGatherer = SlotLanes;
+using BranchlessWord = SlotLanes;
 #else
-using SlotGatherer = SlotWord<std::size_t>;
+using BranchlessWord = SlotWord<std::size_t>;
 #endif
 
 // The slots of a vtable, gathered in registers, each of which is stored as soon as its last slot is known. Stores of
 // fields and of single slots in turn would be the dearest part of packing, as a processor merges those of neighbours.
-template <class L, class Gatherer>
+template <class L, class Word>
 struct SlotWords {
-    static constexpr u32 in_word = Gatherer::slots;
+    static constexpr u32 in_word = Word::slots;
 
     u8* at;
-    std::array<Gatherer, (L::slots + in_word - 1) / in_word> words;
+    std::array<Word, (L::slots + in_word - 1) / in_word> words;
 
     // Which slot of a word is known last: scalars are known before all others.
     static constexpr u32 last_known(u32 word)
@@ -225,12 +225,8 @@ struct SlotWords {
     template <u32 K>
     [[gnu::always_inline]] void put(u32 offset)
     {
-        if constexpr (K % in_word == 0 && K + 1 == L::slots) {
-            store(at + std::size_t{slot_bytes} * K, static_cast<u16>(offset));
-        } else {
-            set<K>(offset);
-            known<K>();
-        }
+        set<K>(offset);
+        known<K>();
     }
 };
 
@@ -255,7 +251,8 @@ struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    SlotWords<L, std::conditional_t<tail == Tail::follows, SlotGatherer, SlotWord<std::size_t>>> slots;
+    // A vector register does not pay behind branches, which set few slots.
+    SlotWords<L, std::conditional_t<tail == Tail::follows, BranchlessWord, SlotWord<std::size_t>>> slots;
     std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 
     [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_)

@@ -144,7 +144,8 @@ struct Layout {
         return any;
     }();
 
-    // Whether a call costs more than it spares, of code that more than one routine needs.
+    // Whether a call costs more than it spares, of code that more than one routine needs. With 16 slots the library
+    // grows by 3 KB, which its size has no room for.
     static constexpr bool is_small = slots <= 14;
 
     // Whether it costs more even in a loop over elements. Never where code is larger and its size matters more.

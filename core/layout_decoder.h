@@ -7,6 +7,7 @@
 
 #include "core/decode.h"
 #include "core/forms.h"
+#include "platform/bounded_memory.h"
 
 namespace kesto {
 
