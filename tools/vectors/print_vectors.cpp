@@ -163,7 +163,7 @@ void add_strange(std::vector<ordered_json>& lines)
     constexpr Density densities[] = {Density::full, Density::sparse, Density::edge};
     for (const Message& message : command::catalogue().messages) {
         Random random(message.id);
-        const Record record = drawn_record(message, densities[message.index % 3], random, most_strange);
+        const Record record = drawn_record(message, densities[message.id % 3], random, most_strange);
         Sample sample = {"strange layout", &message, {}};
         for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
             sample.bytes = reference::strange_layout(record, random);
