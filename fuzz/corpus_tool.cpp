@@ -173,7 +173,8 @@ int add(const Catalogue& catalogue, const std::string& name, const std::string& 
     inputs.push_back(input);
     if (!fuzz::write_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
         return fail(error);
-    std::printf("%s: %zu bytes, input %zu of tests/fuzz/corpus/decode.inputs\n", name.c_str(), bytes.size(), inputs.size());
+    std::printf("%s: %zu bytes, input %zu of tests/fuzz/corpus/decode.inputs\n", name.c_str(), bytes.size(),
+                inputs.size());
     return 0;
 }
 

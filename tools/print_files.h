@@ -8,8 +8,8 @@
 
 namespace kesto::tools {
 
-// Writes a file, unless it says that already: what depends on it would be built again. False, after a message, when that
-// is not possible.
+// Writes a file, unless it says that already: what depends on it would be built again. False, after a message, when
+// that is not possible.
 [[nodiscard]] bool write_changed(const std::string& path, const std::string& text);
 
 // The main of a printer: writes FOLDER/<module><suffix> for every module. Returns the program's result.

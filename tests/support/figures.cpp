@@ -1,8 +1,8 @@
 #include "tests/support/figures.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstdio>
+#include <cstdlib>
 #include <sstream>
 
 #include "reference/encode.h"
