@@ -139,6 +139,12 @@ protected:
         return now;
     }
 
+    static void await_waiting(uint32_t calls)
+    {
+        while (counters().waiting < calls)
+            std::this_thread::yield();
+    }
+
     char folder[32] = "/tmp/standinXXXXXX";
     std::string path;
 };
@@ -274,7 +280,7 @@ TEST_F(Mesh, packets_of_a_foreign_peer_are_judged_one_by_one)
         ASSERT_EQ(send(peer, one.packet.data(), one.packet.size(), 0), static_cast<ssize_t>(one.packet.size()));
         EXPECT_EQ(mesh_standin_receive(1, 1000), one.result) << testing::PrintToString(one.packet.substr(0, 16));
     }
-    EXPECT_EQ(mesh_standin_receive(1, 10), MESH_STANDIN_TIMEOUT);
+    EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_TIMEOUT);
     EXPECT_EQ(seen, (Lines{"1:7 ", "1:7 x"}));
 
     uint8_t got[16];
@@ -296,7 +302,7 @@ TEST_F(Mesh, longest_item_crosses_and_one_byte_more_sends_nothing_of_the_batch)
     const std::string longest(MESH_STANDIN_ITEM_BYTES, 'l'), longer = longest + "r", small = "s";
     const MeshSendItem batch[] = {item(7, small), item(7, longer)};
     EXPECT_EQ(MESH_SendMsg(2, batch, 2), MESH_STANDIN_TOO_LONG);
-    EXPECT_EQ(mesh_standin_receive(1, 10), MESH_STANDIN_TIMEOUT);
+    EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_TIMEOUT);
     EXPECT_EQ(send_text(2, 7, longest), 0);
     EXPECT_EQ(mesh_standin_receive(1, 1000), 0);
     EXPECT_EQ(seen, Lines{"1:7 " + longest});
@@ -307,18 +313,26 @@ TEST_F(Mesh, longest_item_crosses_and_one_byte_more_sends_nothing_of_the_batch)
 
 TEST_F(Mesh, two_processes_exchange_in_both_directions)
 {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
     const pid_t child = fork();
     if (child == 0) {
-        // The listener appears late: the parent has to wait for it.
-        usleep(50000);
-        int bad = mesh_standin_listen(5, path.c_str());
+        // The listener appears once the parent waits for it.
+        char go;
+        int bad = read(ends[0], &go, 1) != 1;
+        bad |= mesh_standin_listen(5, path.c_str());
         for (int i = 0; i < 100; ++i) {
             bad |= mesh_standin_receive(5, 5000);
             bad |= send_text(5, 7, seen.back() + "!");
         }
         _exit(bad);
     }
-    ASSERT_EQ(mesh_standin_connect(4, path.c_str(), 5000), 0);
+    std::thread connecting([this] { EXPECT_EQ(mesh_standin_connect(4, path.c_str(), 5000), 0); });
+    await_waiting(1);
+    EXPECT_EQ(write(ends[1], "", 1), 1);
+    connecting.join();
+    close(ends[0]);
+    close(ends[1]);
     for (int i = 0; i < 100; ++i)
         ASSERT_EQ(send_text(4, 7, std::to_string(i)), 0);
     for (int i = 0; i < 100; ++i) {
@@ -337,11 +351,13 @@ TEST_F(Mesh, close_wakes_waiting_threads_and_frees_the_channel_for_a_new_binding
         ASSERT_EQ(mesh_standin_listen(1, path.c_str()), 0);
         if (connected) {
             ASSERT_EQ(mesh_standin_connect(2, path.c_str(), 0), 0);
+            ASSERT_EQ(send_text(2, 7, "so that the peer is there"), 0);
+            ASSERT_EQ(mesh_standin_receive(1, 0), 0);
         }
         std::vector<std::thread> waiting;
         for (int i = 0; i < 3; ++i)
             waiting.emplace_back([] { EXPECT_EQ(mesh_standin_receive(1, 20000), MESH_STANDIN_PEER_CLOSED); });
-        usleep(20000);
+        await_waiting(3);
         EXPECT_EQ(mesh_standin_close(1), 0);
         for (std::thread &one : waiting)
             one.join();

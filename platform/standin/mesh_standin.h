@@ -111,6 +111,7 @@ typedef struct MeshStandinCounters {
     uint64_t delivered;   /* items that went through a decoder */
     uint64_t refused;     /* items without a decoder for their id */
     uint32_t destination; /* of the latest MESH_SendToMsg, 0 before */
+    uint32_t waiting;     /* calls that now wait for a peer or a packet on a socket; a close from here on wakes them */
 } MeshStandinCounters;
 
 void mesh_standin_counters(MeshStandinCounters *counters);
