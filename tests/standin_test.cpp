@@ -8,6 +8,7 @@
 #include <string.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -397,12 +398,18 @@ uint32_t number_at(const std::string &bytes, size_t at)
     return number;
 }
 
+const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
+
+std::string bytes_of(const std::string &path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 // The packets of a capture file, which must be whole.
 Lines packets_in(const std::string &path)
 {
-    const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = bytes_of(path);
     EXPECT_EQ(bytes.substr(0, head.size()), head) << path;
     Lines packets;
     for (size_t at = head.size(); at < bytes.size(); at += 16 + packets.back().size()) {
@@ -439,7 +446,7 @@ protected:
 
 TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
 {
-    std::ofstream(file) << std::string(1000, 'o'); // an older one
+    std::ofstream(file) << head << std::string(1000, 'o'); // an older one
     ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
     EXPECT_EQ(packets_in(file), Lines{});
     const std::string a = "a", b;
@@ -464,6 +471,55 @@ TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
     EXPECT_EQ(send_text(3, 7, "after"), 0);
     EXPECT_EQ(packets_in(file), passed);
     close(peer);
+}
+
+TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
+{
+    const auto mode = [this] {
+        struct stat status;
+        EXPECT_EQ(lstat(file.c_str(), &status), 0);
+        return status.st_mode;
+    };
+    const std::string other_link_type = head.substr(0, 20) + std::string("\x01\0\0\0", 4);
+    for (const std::string &content : {std::string("notes"), head.substr(0, 23) + "x", other_link_type}) {
+        std::ofstream(file) << content;
+        ASSERT_EQ(chmod(file.c_str(), 0644), 0);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH) << content;
+        EXPECT_EQ(send_text(3, 7, "x"), 0);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("no capture of ours"), std::string::npos);
+        EXPECT_EQ(bytes_of(file), content);
+        EXPECT_EQ(mode(), S_IFREG | 0644u);
+    }
+    for (const std::string &content : {std::string(), head.substr(0, 7), head + "older"}) {
+        std::ofstream(file) << content;
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK) << content;
+        EXPECT_EQ(bytes_of(file), head);
+        EXPECT_EQ(mode(), S_IFREG | 0600u) << "an older capture that all could read";
+    }
+    ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
+    unlink(file.c_str());
+    EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK);
+    EXPECT_EQ(mode(), S_IFREG | 0600u) << "a new one";
+    if (geteuid() == 0) { // who may write to what others own
+        ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
+        ASSERT_EQ(chown(file.c_str(), 1, 1), 0);
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);
+    }
+
+    unlink(file.c_str());
+    const std::string target = file + ".target";
+    for (const bool exists : {false, true}) {
+        if (exists)
+            std::ofstream(target) << head << "of somebody else";
+        ASSERT_EQ(symlink(target.c_str(), file.c_str()), 0);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("symbolic link"), std::string::npos);
+        EXPECT_EQ(bytes_of(target), exists ? head + "of somebody else" : "");
+        unlink(file.c_str());
+        EXPECT_EQ(unlink(target.c_str()), exists ? 0 : -1);
+    }
 }
 
 TEST_F(Capture, of_many_threads_has_whole_packets)
