@@ -1,11 +1,15 @@
 // The transport over ZeroMQ inside one process, driven by hooks of this file's own: what goes out on channel 1 comes in
-// on channel 2.
+// on channel 2. With ZEROMQ_TEST_KEYS in the environment it does so with keys.
 
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
 #include <errno.h>
 #include <stdlib.h>
+#include <string.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -49,6 +53,8 @@ extern "C" int zmq_msg_send(void *message, void *socket, int flags)
     return fails("send") ? -1 : real(message, socket, flags);
 }
 
+extern "C" int zmq_curve_keypair(char *public_key, char *secret_key);
+
 namespace {
 
 std::vector<std::string> seen;
@@ -91,6 +97,15 @@ protected:
                                       << "4 send    nowhere\n"
                                       << "5 send    ipc://" << place << "/nobody\n";
         setenv("MESH_ZEROMQ_MAP", (place + "/map").c_str(), 1);
+        if (getenv("ZEROMQ_TEST_KEYS") != nullptr) {
+            char public_key[41], secret_key[41];
+            ASSERT_EQ(zmq_curve_keypair(public_key, secret_key), 0);
+            std::ofstream(place + "/keys") << "secret " << secret_key << "\n\nsender " << public_key << "\n"
+                                           << "receiver ipc://" << place << "/two " << public_key << "\n"
+                                           << "receiver ipc://" << place << "/nobody " << public_key << "\n"
+                                           << "receiver nowhere " << public_key << "\n";
+            setenv("MESH_ZEROMQ_KEYS", (place + "/keys").c_str(), 1);
+        }
         testing::internal::CaptureStderr();
         ASSERT_EQ(mesh_standin_receive(2, 0), MESH_STANDIN_TIMEOUT);
         reported = testing::internal::GetCapturedStderr();
@@ -169,6 +184,37 @@ TEST_F(ZeroMq, a_batch_of_which_one_item_cannot_leave_goes_not_at_all)
             EXPECT_EQ(MESH_SendMsg(1, three, 3), MESH_STANDIN_NO_MEMORY) << operation << " " << k;
             expect_nothing_under_way();
         }
+}
+
+// Somebody who speaks the protocol without the library: a greeting, READY as a PUSH socket, and the head of a part.
+TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
+{
+    const std::string greeting = '\xff' + std::string(8, '\0') + '\x7f' + '\3' + '\0' + "NULL" + std::string(48, '\0');
+    const std::string ready = std::string("\4\x1a\5READY\x0bSocket-Type\0\0\0\4PUSH", 28);
+    const std::string part = "\2" + std::string(5, '\0') + "\3" + std::string("\0\x09", 2);   // of 196608 + 9 bytes
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    strcpy(address.sun_path, (std::string(folder) + "/two").c_str());
+    const int peer = socket(AF_UNIX, SOCK_STREAM, 0);
+    const timeval patience{5, 0};
+    ASSERT_EQ(setsockopt(peer, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience), 0);
+    ASSERT_EQ(connect(peer, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    std::string heard;
+    const auto hear = [&] {
+        char c;
+        const ssize_t got = recv(peer, &c, 1, 0);
+        heard += c;
+        return got;
+    };
+    ASSERT_EQ(send(peer, (greeting + ready).data(), 64 + 28, 0), 64 + 28);
+    while (heard.find("READY") == std::string::npos)
+        ASSERT_EQ(hear(), 1) << "cut off before the part";
+    ASSERT_EQ(send(peer, part.data(), part.size(), 0), 9);
+    ssize_t got;
+    while ((got = hear()) == 1) {
+    }
+    EXPECT_TRUE(got == 0 || errno == ECONNRESET) << "still connected";
+    close(peer);
 }
 
 TEST_F(ZeroMq, what_the_map_does_not_say_is_refused)
