@@ -201,7 +201,7 @@ TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
     ASSERT_EQ(connect(peer, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
     std::string heard;
     const auto hear = [&] {
-        char c;
+        char c = 0;
         const ssize_t got = recv(peer, &c, 1, 0);
         heard += c;
         return got;
