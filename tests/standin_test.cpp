@@ -400,7 +400,7 @@ uint32_t number_at(const std::string &bytes, size_t at)
 
 const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
 
-std::string bytes_of(const std::string &path)
+std::string bytes_of(const std::string& path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -446,7 +446,7 @@ protected:
 
 TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
 {
-    std::ofstream(file) << head << std::string(1000, 'o'); // an older one
+    std::ofstream(file) << head << std::string(1000, 'o');   // an older one
     ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
     EXPECT_EQ(packets_in(file), Lines{});
     const std::string a = "a", b;
@@ -481,7 +481,7 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
         return status.st_mode;
     };
     const std::string other_link_type = head.substr(0, 20) + std::string("\x01\0\0\0", 4);
-    for (const std::string &content : {std::string("notes"), head.substr(0, 23) + "x", other_link_type}) {
+    for (const std::string& content : {std::string("notes"), head.substr(0, 23) + "x", other_link_type}) {
         std::ofstream(file) << content;
         ASSERT_EQ(chmod(file.c_str(), 0644), 0);
         testing::internal::CaptureStderr();
@@ -491,7 +491,7 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
         EXPECT_EQ(bytes_of(file), content);
         EXPECT_EQ(mode(), S_IFREG | 0644u);
     }
-    for (const std::string &content : {std::string(), head.substr(0, 7), head + "older"}) {
+    for (const std::string& content : {std::string(), head.substr(0, 7), head + "older"}) {
         std::ofstream(file) << content;
         EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK) << content;
         EXPECT_EQ(bytes_of(file), head);
@@ -501,7 +501,7 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
     unlink(file.c_str());
     EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK);
     EXPECT_EQ(mode(), S_IFREG | 0600u) << "a new one";
-    if (geteuid() == 0) { // who may write to what others own
+    if (geteuid() == 0) {   // who may write to what others own
         ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
         ASSERT_EQ(chown(file.c_str(), 1, 1), 0);
         EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);

@@ -84,8 +84,9 @@ constexpr size_t file_head = 24;
     return got >= 0 && memcmp(old, head, static_cast<size_t>(got)) == 0;
 }
 
-// Takes the file from nobody: neither from another user, nor from a process that writes it, whose lock is on it, nor from
-// whoever keeps something else in it. What passes is nobody else's business, also in an older file that all could read.
+// Takes the file from nobody: neither from another user, nor from a process that writes it, whose lock is on it, nor
+// from whoever keeps something else in it. What passes is nobody else's business, also in an older file that all could
+// read.
 [[nodiscard]] bool open_file(const char* path)
 {
     capture.file = open(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600);

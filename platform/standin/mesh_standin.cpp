@@ -215,8 +215,8 @@ struct Use {
 struct Wait {
     Wait() { count(1); }
     ~Wait() { count(UINT32_MAX); }
-    Wait(const Wait &) = delete;
-    Wait &operator=(const Wait &) = delete;
+    Wait(const Wait&) = delete;
+    Wait& operator=(const Wait&) = delete;
 
     static void count(uint32_t step)
     {

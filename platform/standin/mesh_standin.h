@@ -27,10 +27,10 @@
  * pcap file of link type USER0 (147), in the form of the packets above and once per process: an item before it is delivered
  * on a loopback, a packet after it has left on a socket or over another transport, and a packet that was received, whatever
  * is in it. A packet longer than 262144 bytes, which only a loopback takes, is cut to them. %p in the name stands for the
- * process id. The file is its owner's alone (mode 0600). An empty file and an older capture are replaced; anything else is
- * left as it is: a file that is no capture, is another user's, or is being written by another process, and a symbolic
- * link. A child after a fork needs a file of its own, and so the %p. When the file cannot be opened or written, a line on
- * stderr says so once, and messages pass as they would have.
+ * process id. Only its owner can read the file (mode 0600). An empty file and an older capture are replaced; anything
+ * else is left as it is: a file that is not a capture, belongs to another user or is being written by another process,
+ * and a symbolic link. A child after a fork needs a file of its own, and so the %p. When the file cannot be opened or
+ * written, a line on stderr says so once, and messages pass as they would have.
  *
  * Threads: everything may be called from any thread, save mesh_standin_reset. Hooks and consumers run without a lock held
  * and may themselves send. */

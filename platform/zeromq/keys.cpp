@@ -65,8 +65,8 @@ const char* read_line(char* line, Keys& keys)
     return "neither secret KEY, sender KEY nor receiver ADDRESS KEY";
 }
 
-// Admission: ZeroMQ asks at inproc://zeromq.zap.01, in frames of 255 bytes at most, and goes by the answer's third frame.
-// A sender has proved by then that it has the secret key to the public one in the question.
+// Admission: ZeroMQ asks at inproc://zeromq.zap.01, in frames of 255 bytes at most, and goes by the answer's third
+// frame. A sender has proved by then that it has the secret key to the public one in the question.
 
 enum { VERSION, REQUEST, DOMAIN, ADDRESS, IDENTITY, MECHANISM, CREDENTIALS, QUESTION_FRAMES };
 

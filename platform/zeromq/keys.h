@@ -31,7 +31,8 @@ struct Keys {
 // The public key of the receiver at `address`; null when no line has it.
 const char* receiver_key(const Keys& keys, const char* address);
 
-// Before the first socket is opened: from now on a thread tells ZeroMQ which senders `keys` admit, until the context ends.
+// Before the first socket is opened: from now on a thread tells ZeroMQ which senders `keys` admit, until the context
+// ends.
 [[nodiscard]] bool start_admission(void* zeromq, const Keys& keys);
 
 // After the context's end: waits for that thread, if there is one.

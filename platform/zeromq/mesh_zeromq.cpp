@@ -1,6 +1,7 @@
-// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An item
-// is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message, which
-// ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS, sockets talk to those alone whose keys they know.
+// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An
+// item is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message,
+// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS, sockets talk to those alone whose keys they
+// know.
 
 #include <errno.h>
 #include <pthread.h>
@@ -19,7 +20,7 @@
 namespace {
 
 constexpr uint32_t packet_head = 8;
-constexpr uint32_t sealing = 64; // above what encryption adds to a part
+constexpr uint32_t sealing = 64;   // above what encryption adds to a part
 constexpr int patience_ms = 5000; // for a receiver to appear or to make room, and at the end for what is still to leave
 
 // A place with its socket, which one thread uses at a time.
@@ -51,28 +52,28 @@ void set(void *socket, int option, int value)
     zmq_setsockopt(socket, option, &value, sizeof value);
 }
 
-[[nodiscard]] bool set_key(void *socket, int option, const char *key)
+[[nodiscard]] bool set_key(void* socket, int option, const char* key)
 {
     return zmq_setsockopt(socket, option, key, KEY_ROOM) == 0;
 }
 
-[[nodiscard]] bool lock_socket(void *socket, const Endpoint &endpoint)
+[[nodiscard]] bool lock_socket(void* socket, const Endpoint& endpoint)
 {
     if (endpoint.receives) {
         set(socket, ZMQ_CURVE_SERVER, 1);
-        zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4); // so that nobody is admitted unasked
+        zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4);   // so that nobody is admitted unasked
         return set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key);
     }
-    const char *const receiver = receiver_key(keys, endpoint.address);
+    const char* const receiver = receiver_key(keys, endpoint.address);
     if (receiver == nullptr) {
-        errno = EACCES; // no line has its key
+        errno = EACCES;   // no line has its key
         return false;
     }
     return set_key(socket, ZMQ_CURVE_SERVERKEY, receiver) && set_key(socket, ZMQ_CURVE_PUBLICKEY, keys.public_key) &&
            set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key);
 }
 
-[[nodiscard]] bool connect_socket(void *socket, const Endpoint &endpoint)
+[[nodiscard]] bool connect_socket(void* socket, const Endpoint& endpoint)
 {
     if (with_keys && !lock_socket(socket, endpoint))
         return false;
@@ -84,7 +85,8 @@ void *open_socket(const Endpoint &endpoint)
     void *const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
     if (socket == nullptr)
         return nullptr;
-    // Of a part; who sends more is cut off. There is no such bound on a message of many parts, which arrives as a whole.
+    // Of a part; who sends more is cut off. There is no such bound on a message of many parts, which arrives as a
+    // whole.
     const int64_t longest = packet_head + MESH_STANDIN_ITEM_BYTES + (with_keys ? sealing : 0);
     zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest);
     set(socket, ZMQ_LINGER, patience_ms);
@@ -100,11 +102,11 @@ void *open_socket(const Endpoint &endpoint)
 // Without keys that were asked for, no socket is opened.
 [[nodiscard]] bool prepare_keys()
 {
-    const char *const name = getenv("MESH_ZEROMQ_KEYS");
+    const char* const name = getenv("MESH_ZEROMQ_KEYS");
     with_keys = name != nullptr && name[0] != '\0';
     if (!with_keys)
         return true;
-    FILE *const file = fopen(name, "re");
+    FILE* const file = fopen(name, "re");
     const bool good = file != nullptr && read_keys(file, name, keys) && start_admission(zeromq, keys);
     if (file != nullptr)
         fclose(file);
@@ -179,29 +181,29 @@ int result_of_errno()
 
 // The parts of one message. All are made before the first one is sent, as what has begun cannot be taken back.
 struct Parts {
-    explicit Parts(uint32_t count) : all(static_cast<zmq_msg_t *>(calloc(count, sizeof(zmq_msg_t)))) {}
+    explicit Parts(uint32_t count) : all(static_cast<zmq_msg_t*>(calloc(count, sizeof(zmq_msg_t)))) {}
     ~Parts()
     {
         for (uint32_t i = sent; i < made; ++i)
             zmq_msg_close(&all[i]);
         free(all);
     }
-    Parts(const Parts &) = delete;
-    Parts &operator=(const Parts &) = delete;
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
 
-    zmq_msg_t *all;
+    zmq_msg_t* all;
     uint32_t made = 0;
     uint32_t sent = 0;
 };
 
-[[nodiscard]] bool make_parts(const MeshSendItem *items, uint32_t count, Parts &parts)
+[[nodiscard]] bool make_parts(const MeshSendItem* items, uint32_t count, Parts& parts)
 {
     for (; parts.all != nullptr && parts.made < count; ++parts.made) {
-        const MeshSendItem &item = items[parts.made];
-        zmq_msg_t *const part = &parts.all[parts.made];
+        const MeshSendItem& item = items[parts.made];
+        zmq_msg_t* const part = &parts.all[parts.made];
         if (zmq_msg_init_size(part, packet_head + item.length) != 0)
             return false;
-        uint8_t *const packet = static_cast<uint8_t *>(zmq_msg_data(part));
+        uint8_t* const packet = static_cast<uint8_t*>(zmq_msg_data(part));
         store_u32(packet, item.id);
         store_u32(packet + 4, item.length);
         if (item.length > 0)
@@ -210,7 +212,7 @@ struct Parts {
     return parts.made == count;
 }
 
-int send_parts(void *socket, Parts &parts)
+int send_parts(void* socket, Parts& parts)
 {
     for (; parts.sent < parts.made; ++parts.sent)
         while (zmq_msg_send(&parts.all[parts.sent], socket, parts.sent + 1 < parts.made ? ZMQ_SNDMORE : 0) < 0)
