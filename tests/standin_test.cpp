@@ -504,7 +504,9 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
     if (geteuid() == 0) {   // who may write to what others own
         ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
         ASSERT_EQ(chown(file.c_str(), 1, 1), 0);
+        testing::internal::CaptureStderr();
         EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("another user"), std::string::npos);
     }
 
     unlink(file.c_str());

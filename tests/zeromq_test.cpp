@@ -185,11 +185,10 @@ TEST_F(ZeroMq, a_batch_of_which_one_item_cannot_leave_goes_not_at_all)
         }
 }
 
+#if !KESTO_WITH_KEYS // for want of a key nobody gets that far
 // Somebody who speaks the protocol without the library: a greeting, READY as a PUSH socket, and the head of a part.
 TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
 {
-    if (KESTO_WITH_KEYS)
-        return; // then it would be cut off for want of a key
     const std::string greeting = '\xff' + std::string(8, '\0') + '\x7f' + '\3' + '\0' + "NULL" + std::string(48, '\0');
     const std::string ready = std::string("\4\x1a\5READY\x0bSocket-Type\0\0\0\4PUSH", 28);
     const std::string part = "\2" + std::string(5, '\0') + "\3" + std::string("\0\x09", 2);   // of 196608 + 9 bytes
@@ -216,6 +215,7 @@ TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
     EXPECT_TRUE(got == 0 || errno == ECONNRESET) << "still connected";
     close(peer);
 }
+#endif
 
 TEST_F(ZeroMq, what_the_map_does_not_say_is_refused)
 {
