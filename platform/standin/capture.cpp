@@ -76,7 +76,7 @@ void stop()
 
 constexpr size_t file_head = 24;
 
-// Empty, or with the head of our captures as far as it goes: one may have ended within its head.
+// An empty file is a capture too, and so is one that ended within its head.
 [[nodiscard]] bool holds_capture(const uint8_t (&head)[file_head])
 {
     uint8_t old[file_head];
@@ -84,9 +84,8 @@ constexpr size_t file_head = 24;
     return got >= 0 && memcmp(old, head, static_cast<size_t>(got)) == 0;
 }
 
-// Takes the file from nobody: neither from another user, nor from a process that writes it, whose lock is on it, nor
-// from whoever keeps something else in it. What passes is nobody else's business, also in an older file that all could
-// read.
+// Refuses a file of another user, one that holds anything but a capture, and one that another process is writing, which
+// has locked it. An older capture may have been readable by all, and this one must not be.
 [[nodiscard]] bool open_file(const char* path)
 {
     capture.file = open(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600);

@@ -31,7 +31,7 @@ struct Keys {
 // The public key of the receiver at `address`; null when no line has it.
 const char* receiver_key(const Keys& keys, const char* address);
 
-// Before the first socket is opened: from now on a thread tells ZeroMQ which senders `keys` admit, until the context
+// Call before the first socket is opened. From then on a thread tells ZeroMQ which senders `keys` admit, until the
 // ends.
 [[nodiscard]] bool start_admission(void* zeromq, const Keys& keys);
 

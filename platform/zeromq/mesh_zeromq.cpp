@@ -1,7 +1,7 @@
 // Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An
 // item is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message,
-// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS, sockets talk to those alone whose keys they
-// know.
+// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS a socket talks only to peers whose keys it
+// knows.
 
 #include <errno.h>
 #include <pthread.h>
@@ -20,7 +20,7 @@
 namespace {
 
 constexpr uint32_t packet_head = 8;
-constexpr uint32_t sealing = 64;   // above what encryption adds to a part
+constexpr uint32_t sealing = 64;   // more than encryption adds to a part
 constexpr int patience_ms = 5000; // for a receiver to appear or to make room, and at the end for what is still to leave
 
 // A place with its socket, which one thread uses at a time.
@@ -61,8 +61,8 @@ void set(void *socket, int option, int value)
 {
     if (endpoint.receives) {
         set(socket, ZMQ_CURVE_SERVER, 1);
-        zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4);   // so that nobody is admitted unasked
-        return set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key);
+        return set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key) &&
+               zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4) == 0;   // nobody is admitted unasked
     }
     const char* const receiver = receiver_key(keys, endpoint.address);
     if (receiver == nullptr) {
@@ -85,8 +85,7 @@ void *open_socket(const Endpoint &endpoint)
     void *const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
     if (socket == nullptr)
         return nullptr;
-    // Of a part; who sends more is cut off. There is no such bound on a message of many parts, which arrives as a
-    // whole.
+    // The limit is per part, and a longer one ends the connection. ZeroMQ has none for a message of many parts.
     const int64_t longest = packet_head + MESH_STANDIN_ITEM_BYTES + (with_keys ? sealing : 0);
     zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest);
     set(socket, ZMQ_LINGER, patience_ms);
@@ -233,7 +232,7 @@ int send(uint32_t channel, const MeshSendItem *items, uint32_t count, uint32_t d
     if (place->socket == nullptr)
         return MESH_STANDIN_BAD_PATH;
     const int result = send_parts(place->socket, parts);
-    // The next call would go on with what has begun. A new socket has not begun anything.
+    // The next call would continue the unfinished message; closing the socket discards it.
     if (result != MESH_STANDIN_OK && parts.sent > 0) {
         zmq_close(place->socket);
         place->socket = open_socket(place->endpoint);
