@@ -32,10 +32,10 @@ struct Keys {
 const char* receiver_key(const Keys& keys, const char* address);
 
 // Call before the first socket is opened. From then on a thread tells ZeroMQ which senders `keys` admit, until the
-// ends.
+// context ends.
 [[nodiscard]] bool start_admission(void* zeromq, const Keys& keys);
 
-// After the context's end: waits for that thread, if there is one.
+// Call after the context has ended. Waits for that thread, if there is one.
 void end_admission();
 
 #endif
