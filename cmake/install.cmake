@@ -3,6 +3,7 @@
 #   runtime   the shared library
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
 #   tools     the program kesto and the dissector, where they are built
+#   zervamesh our stand-in for MESH, where it is built: IfitCodec::zervamesh for who names it as a component
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -35,6 +36,16 @@ file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/ifit-codec)
 configure_file(cmake/ifit-codec.pc.in ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+
+# In a folder of its own: where the closed library is, a program must not get this one by its name.
+if(TARGET zervamesh)
+  target_include_directories(zervamesh INTERFACE $<INSTALL_INTERFACE:${headers_in}>)
+  install(TARGETS zervamesh EXPORT IfitCodecZervamesh
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ifit-codec COMPONENT zervamesh)
+  install(FILES platform/standin/mesh_standin.h DESTINATION ${headers_in}/platform/standin COMPONENT zervamesh)
+  install(EXPORT IfitCodecZervamesh NAMESPACE IfitCodec:: FILE IfitCodecZervameshTargets.cmake
+    DESTINATION ${package_in} COMPONENT zervamesh)
+endif()
 
 if(TARGET kesto)
   install(TARGETS kesto RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)

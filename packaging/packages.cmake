@@ -1,5 +1,5 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where kesto is built, ifit-codec-tools. `./run package`
-# makes them. Changelog and copyright stand beside this file.
+# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh and
+# ifit-codec-tools. `./run package` makes them. Changelog and copyright stand beside this file.
 
 find_program(KESTO_GZIP gzip)
 if(NOT KESTO_GZIP)
@@ -21,6 +21,10 @@ set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libifit-codec1)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
+set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_NAME libifit-codec-zervamesh)
+if(TARGET zervamesh)
+  list(APPEND CPACK_COMPONENTS_ALL zervamesh)
+endif()
 if(TARGET kesto)
   list(APPEND CPACK_COMPONENTS_ALL tools)
   if(EXISTS ${PROJECT_SOURCE_DIR}/tools/kesto/kesto.1)
@@ -58,6 +62,7 @@ tables, flow records, reports and statistics as byte strings. These codecs
 turn C records into such byte strings and back, over 200 message types in all.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 "message codecs for IFIT control software
@@ -70,6 +75,12 @@ set(CPACK_COMPONENT_DEV_DESCRIPTION
 ${about_the_codecs}
 .
 This package has the headers, the CMake package IfitCodec and ifit-codec.pc.")
+set(CPACK_COMPONENT_ZERVAMESH_DESCRIPTION
+"message codecs for IFIT control software - stand-in for MESH
+${about_the_codecs}
+.
+This package has a small messaging library to build and try programs with,
+on machines that do not have MESH: IfitCodec::zervamesh of the CMake package.")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "tools that explain the messages of IFIT control software
 ${about_the_codecs}
@@ -77,4 +88,6 @@ ${about_the_codecs}
 This package has the program kesto, which shows and makes such byte strings,
 and a dissector for Wireshark.")
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libifit-codec1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_DEPENDS
+  "libifit-codec-dev (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 include(CPack)

@@ -616,7 +616,7 @@ TEST(Reference, an_array_whose_size_wraps_ends_the_decode_within_its_block)
     const GreatList nothing(0, 4, 1U << 24);
     decode(message_named("ifit_sync_ifit_session_entry_update"), nothing.bytes, nothing.length, options, outcome);
     EXPECT_STREQ(name_of(outcome.failure.refusal), "element_null");
-    EXPECT_EQ(to_text(outcome.trace), "ifit_sync_ifit_session_entry_unpack_non_root logs 22 "
+    EXPECT_EQ(to_text(outcome.trace), "ifit_sync_ifit_session_entry_update_unpack logs 22 "
                                       "[KESTO]:Param invalid(nonNull, 67108952, null)\n");
     EXPECT_EQ(reference::to_text(outcome.record), "{0 null*16777216}");
 }

@@ -8,6 +8,7 @@
 #include <string.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -137,6 +138,12 @@ protected:
         MeshStandinCounters now;
         mesh_standin_counters(&now);
         return now;
+    }
+
+    static void await_waiting(uint32_t calls)
+    {
+        while (counters().waiting < calls)
+            std::this_thread::yield();
     }
 
     char folder[32] = "/tmp/standinXXXXXX";
@@ -274,7 +281,7 @@ TEST_F(Mesh, packets_of_a_foreign_peer_are_judged_one_by_one)
         ASSERT_EQ(send(peer, one.packet.data(), one.packet.size(), 0), static_cast<ssize_t>(one.packet.size()));
         EXPECT_EQ(mesh_standin_receive(1, 1000), one.result) << testing::PrintToString(one.packet.substr(0, 16));
     }
-    EXPECT_EQ(mesh_standin_receive(1, 10), MESH_STANDIN_TIMEOUT);
+    EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_TIMEOUT);
     EXPECT_EQ(seen, (Lines{"1:7 ", "1:7 x"}));
 
     uint8_t got[16];
@@ -296,7 +303,7 @@ TEST_F(Mesh, longest_item_crosses_and_one_byte_more_sends_nothing_of_the_batch)
     const std::string longest(MESH_STANDIN_ITEM_BYTES, 'l'), longer = longest + "r", small = "s";
     const MeshSendItem batch[] = {item(7, small), item(7, longer)};
     EXPECT_EQ(MESH_SendMsg(2, batch, 2), MESH_STANDIN_TOO_LONG);
-    EXPECT_EQ(mesh_standin_receive(1, 10), MESH_STANDIN_TIMEOUT);
+    EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_TIMEOUT);
     EXPECT_EQ(send_text(2, 7, longest), 0);
     EXPECT_EQ(mesh_standin_receive(1, 1000), 0);
     EXPECT_EQ(seen, Lines{"1:7 " + longest});
@@ -307,18 +314,26 @@ TEST_F(Mesh, longest_item_crosses_and_one_byte_more_sends_nothing_of_the_batch)
 
 TEST_F(Mesh, two_processes_exchange_in_both_directions)
 {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
     const pid_t child = fork();
     if (child == 0) {
-        // The listener appears late: the parent has to wait for it.
-        usleep(50000);
-        int bad = mesh_standin_listen(5, path.c_str());
+        // The listener appears once the parent waits for it.
+        char go;
+        int bad = read(ends[0], &go, 1) != 1;
+        bad |= mesh_standin_listen(5, path.c_str());
         for (int i = 0; i < 100; ++i) {
             bad |= mesh_standin_receive(5, 5000);
             bad |= send_text(5, 7, seen.back() + "!");
         }
         _exit(bad);
     }
-    ASSERT_EQ(mesh_standin_connect(4, path.c_str(), 5000), 0);
+    std::thread connecting([this] { EXPECT_EQ(mesh_standin_connect(4, path.c_str(), 5000), 0); });
+    await_waiting(1);
+    EXPECT_EQ(write(ends[1], "", 1), 1);
+    connecting.join();
+    close(ends[0]);
+    close(ends[1]);
     for (int i = 0; i < 100; ++i)
         ASSERT_EQ(send_text(4, 7, std::to_string(i)), 0);
     for (int i = 0; i < 100; ++i) {
@@ -337,11 +352,13 @@ TEST_F(Mesh, close_wakes_waiting_threads_and_frees_the_channel_for_a_new_binding
         ASSERT_EQ(mesh_standin_listen(1, path.c_str()), 0);
         if (connected) {
             ASSERT_EQ(mesh_standin_connect(2, path.c_str(), 0), 0);
+            ASSERT_EQ(send_text(2, 7, "so that the peer is there"), 0);
+            ASSERT_EQ(mesh_standin_receive(1, 0), 0);
         }
         std::vector<std::thread> waiting;
         for (int i = 0; i < 3; ++i)
             waiting.emplace_back([] { EXPECT_EQ(mesh_standin_receive(1, 20000), MESH_STANDIN_PEER_CLOSED); });
-        usleep(20000);
+        await_waiting(3);
         EXPECT_EQ(mesh_standin_close(1), 0);
         for (std::thread &one : waiting)
             one.join();
@@ -381,12 +398,18 @@ uint32_t number_at(const std::string &bytes, size_t at)
     return number;
 }
 
+const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
+
+std::string bytes_of(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 // The packets of a capture file, which must be whole.
 Lines packets_in(const std::string &path)
 {
-    const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = bytes_of(path);
     EXPECT_EQ(bytes.substr(0, head.size()), head) << path;
     Lines packets;
     for (size_t at = head.size(); at < bytes.size(); at += 16 + packets.back().size()) {
@@ -423,7 +446,7 @@ protected:
 
 TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
 {
-    std::ofstream(file) << std::string(1000, 'o'); // an older one
+    std::ofstream(file) << head << std::string(1000, 'o');   // an older one
     ASSERT_EQ(mesh_standin_capture(file.c_str()), 0);
     EXPECT_EQ(packets_in(file), Lines{});
     const std::string a = "a", b;
@@ -448,6 +471,57 @@ TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
     EXPECT_EQ(send_text(3, 7, "after"), 0);
     EXPECT_EQ(packets_in(file), passed);
     close(peer);
+}
+
+TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
+{
+    const auto mode = [this] {
+        struct stat status;
+        EXPECT_EQ(lstat(file.c_str(), &status), 0);
+        return status.st_mode;
+    };
+    const std::string other_link_type = head.substr(0, 20) + std::string("\x01\0\0\0", 4);
+    for (const std::string& content : {std::string("notes"), head.substr(0, 23) + "x", other_link_type}) {
+        std::ofstream(file) << content;
+        ASSERT_EQ(chmod(file.c_str(), 0644), 0);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH) << content;
+        EXPECT_EQ(send_text(3, 7, "x"), 0);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("no capture of ours"), std::string::npos);
+        EXPECT_EQ(bytes_of(file), content);
+        EXPECT_EQ(mode(), S_IFREG | 0644u);
+    }
+    for (const std::string& content : {std::string(), head.substr(0, 7), head + "older"}) {
+        std::ofstream(file) << content;
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK) << content;
+        EXPECT_EQ(bytes_of(file), head);
+        EXPECT_EQ(mode(), S_IFREG | 0600u) << "an older capture that all could read";
+    }
+    ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
+    unlink(file.c_str());
+    EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_OK);
+    EXPECT_EQ(mode(), S_IFREG | 0600u) << "a new one";
+    if (geteuid() == 0) {   // who may write to what others own
+        ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
+        ASSERT_EQ(chown(file.c_str(), 1, 1), 0);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("another user"), std::string::npos);
+    }
+
+    unlink(file.c_str());
+    const std::string target = file + ".target";
+    for (const bool exists : {false, true}) {
+        if (exists)
+            std::ofstream(target) << head << "of somebody else";
+        ASSERT_EQ(symlink(target.c_str(), file.c_str()), 0);
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(mesh_standin_capture(file.c_str()), MESH_STANDIN_BAD_PATH);
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("symbolic link"), std::string::npos);
+        EXPECT_EQ(bytes_of(target), exists ? head + "of somebody else" : "");
+        unlink(file.c_str());
+        EXPECT_EQ(unlink(target.c_str()), exists ? 0 : -1);
+    }
 }
 
 TEST_F(Capture, of_many_threads_has_whole_packets)

@@ -74,10 +74,21 @@ void stop()
     capture.file = no_file;
 }
 
-// Takes the file from nobody: its lock is held for as long as somebody writes it.
+constexpr size_t file_head = 24;
+
+// An empty file is a capture too, and so is one that ended within its head.
+[[nodiscard]] bool holds_capture(const uint8_t (&head)[file_head])
+{
+    uint8_t old[file_head];
+    const ssize_t got = pread(capture.file, old, sizeof old, 0);
+    return got >= 0 && memcmp(old, head, static_cast<size_t>(got)) == 0;
+}
+
+// Refuses a file of another user, one that holds anything but a capture, and one that another process is writing, which
+// has locked it. An older capture may have been readable by all, and this one must not be.
 [[nodiscard]] bool open_file(const char* path)
 {
-    capture.file = open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK, 0666);
+    capture.file = open(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600);
     if (capture.file == no_file)
         return false;
     struct stat status;
@@ -85,14 +96,22 @@ void stop()
         errno = EINVAL;
         return false;
     }
+    if (status.st_uid != geteuid()) {
+        errno = EPERM;
+        return false;
+    }
     if (flock(capture.file, LOCK_EX | LOCK_NB) != 0)
         return false;
-    uint8_t head[24] = {};
+    uint8_t head[file_head] = {};
     store_u32(head, magic_microseconds);
     store_u32(head + 4, version);
     store_u32(head + 16, most_captured);
     store_u32(head + 20, link_type_user0);
-    return ftruncate(capture.file, 0) == 0 &&
+    if (!holds_capture(head)) {
+        errno = EEXIST;
+        return false;
+    }
+    return fchmod(capture.file, 0600) == 0 && ftruncate(capture.file, 0) == 0 &&
            write(capture.file, head, sizeof head) == static_cast<ssize_t>(sizeof head);
 }
 
@@ -101,6 +120,9 @@ const char* text_of(int error)
     switch (error) {
     case EWOULDBLOCK: return "another process writes it; %p in the name stands for the process id";
     case EINVAL: return "not a regular file";
+    case ELOOP: return "a symbolic link";
+    case EPERM: return "it belongs to another user";
+    case EEXIST: return "it holds something, and no capture of ours; it stays as it is";
     default: return strerror(error);
     }
 }

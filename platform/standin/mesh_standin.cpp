@@ -211,9 +211,24 @@ struct Use {
     int result;
 };
 
+// Counts a call among those that wait.
+struct Wait {
+    Wait() { count(1); }
+    ~Wait() { count(UINT32_MAX); }
+    Wait(const Wait&) = delete;
+    Wait& operator=(const Wait&) = delete;
+
+    static void count(uint32_t step)
+    {
+        const Lock lock;
+        counters.waiting += step;
+    }
+};
+
 // Waits until there is something to read or the other side has gone; poll's own answer for "nothing yet" is 0.
 int wait_readable(int socket, uint64_t deadline)
 {
+    const Wait wait;
     for (;;) {
         const uint64_t now = now_ms();
         const uint64_t left = deadline > now ? deadline - now : 0;
@@ -674,6 +689,7 @@ int mesh_standin_connect(uint32_t number, const char *path, uint32_t timeout_ms)
         result = try_connect(address, peer);
         if (result != MESH_STANDIN_TIMEOUT || last)
             break;
+        const Wait wait;
         const timespec pause{0, 10000000};
         nanosleep(&pause, nullptr);
     }

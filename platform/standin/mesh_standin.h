@@ -27,9 +27,10 @@
  * pcap file of link type USER0 (147), in the form of the packets above and once per process: an item before it is delivered
  * on a loopback, a packet after it has left on a socket or over another transport, and a packet that was received, whatever
  * is in it. A packet longer than 262144 bytes, which only a loopback takes, is cut to them. %p in the name stands for the
- * process id. An older file is replaced; one that another process is writing is not touched. A child after a fork needs a
- * file of its own, and so the %p. When the file cannot be opened or written, a line on stderr says so once, and messages
- * pass as they would have.
+ * process id. Only its owner can read the file (mode 0600). An empty file and an older capture are replaced; anything
+ * else is left as it is: a file that is not a capture, belongs to another user or is being written by another process,
+ * and a symbolic link. A child after a fork needs a file of its own, and so the %p. When the file cannot be opened or
+ * written, a line on stderr says so once, and messages pass as they would have.
  *
  * Threads: everything may be called from any thread, save mesh_standin_reset. Hooks and consumers run without a lock held
  * and may themselves send. */
@@ -111,6 +112,7 @@ typedef struct MeshStandinCounters {
     uint64_t delivered;   /* items that went through a decoder */
     uint64_t refused;     /* items without a decoder for their id */
     uint32_t destination; /* of the latest MESH_SendToMsg, 0 before */
+    uint32_t waiting;     /* calls that now wait for a peer or a packet on a socket; a close from here on wakes them */
 } MeshStandinCounters;
 
 void mesh_standin_counters(MeshStandinCounters *counters);

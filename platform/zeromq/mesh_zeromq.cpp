@@ -1,6 +1,7 @@
-// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An item
-// is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message, which
-// ZeroMQ carries as a whole or not at all.
+// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An
+// item is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message,
+// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS a socket talks only to peers whose keys it
+// knows.
 
 #include <errno.h>
 #include <pthread.h>
@@ -14,10 +15,12 @@
 #include "platform/standin/mesh_standin.h"
 #include "platform/standin/mesh_transport.h"
 #include "platform/zeromq/endpoints.h"
+#include "platform/zeromq/keys.h"
 
 namespace {
 
 constexpr uint32_t packet_head = 8;
+constexpr uint32_t sealing = 64;   // more than encryption adds to a part
 constexpr int patience_ms = 5000; // for a receiver to appear or to make room, and at the end for what is still to leave
 
 // A place with its socket, which one thread uses at a time.
@@ -29,6 +32,8 @@ struct Place {
 
 constinit pthread_once_t opened = PTHREAD_ONCE_INIT;
 constinit void *zeromq{};
+constinit bool with_keys{};
+constinit Keys keys{};
 constinit pid_t opener{};
 constinit Place places[MOST_ENDPOINTS]{};
 constinit uint32_t place_count{};
@@ -47,22 +52,66 @@ void set(void *socket, int option, int value)
     zmq_setsockopt(socket, option, &value, sizeof value);
 }
 
+[[nodiscard]] bool set_key(void* socket, int option, const char* key)
+{
+    return zmq_setsockopt(socket, option, key, KEY_ROOM) == 0;
+}
+
+[[nodiscard]] bool lock_socket(void* socket, const Endpoint& endpoint)
+{
+    if (endpoint.receives) {
+        set(socket, ZMQ_CURVE_SERVER, 1);
+        return set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key) &&
+               zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4) == 0;   // nobody is admitted unasked
+    }
+    const char* const receiver = receiver_key(keys, endpoint.address);
+    if (receiver == nullptr) {
+        errno = EACCES;   // no line has its key
+        return false;
+    }
+    return set_key(socket, ZMQ_CURVE_SERVERKEY, receiver) && set_key(socket, ZMQ_CURVE_PUBLICKEY, keys.public_key) &&
+           set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key);
+}
+
+[[nodiscard]] bool connect_socket(void* socket, const Endpoint& endpoint)
+{
+    if (with_keys && !lock_socket(socket, endpoint))
+        return false;
+    return (endpoint.receives ? zmq_bind : zmq_connect)(socket, endpoint.address) == 0;
+}
+
 void *open_socket(const Endpoint &endpoint)
 {
     void *const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
     if (socket == nullptr)
         return nullptr;
-    const int64_t longest = packet_head + MESH_STANDIN_ITEM_BYTES;
-    zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest); // of a part; who sends more is cut off
+    // The limit is per part, and a longer one ends the connection. ZeroMQ has none for a message of many parts.
+    const int64_t longest = packet_head + MESH_STANDIN_ITEM_BYTES + (with_keys ? sealing : 0);
+    zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest);
     set(socket, ZMQ_LINGER, patience_ms);
     set(socket, ZMQ_SNDTIMEO, patience_ms);
     set(socket, ZMQ_IMMEDIATE, 1); // a receiver that has not appeared yet keeps the sender waiting; nothing is queued
-    const int result = endpoint.receives ? zmq_bind(socket, endpoint.address) : zmq_connect(socket, endpoint.address);
-    if (result == 0)
+    if (connect_socket(socket, endpoint))
         return socket;
     fprintf(stderr, "MESH over ZeroMQ: %s: %s\n", endpoint.address, zmq_strerror(errno));
     zmq_close(socket);
     return nullptr;
+}
+
+// Without keys that were asked for, no socket is opened.
+[[nodiscard]] bool prepare_keys()
+{
+    const char* const name = getenv("MESH_ZEROMQ_KEYS");
+    with_keys = name != nullptr && name[0] != '\0';
+    if (!with_keys)
+        return true;
+    FILE* const file = fopen(name, "re");
+    const bool good = file != nullptr && read_keys(file, name, keys) && start_admission(zeromq, keys);
+    if (file != nullptr)
+        fclose(file);
+    if (!good)
+        fprintf(stderr, "MESH over ZeroMQ: no keys from MESH_ZEROMQ_KEYS; no place of the map is opened\n");
+    return good;
 }
 
 void open_all()
@@ -78,10 +127,11 @@ void open_all()
     fclose(file);
     zeromq = zmq_ctx_new();
     opener = getpid();
-    for (uint32_t i = 0; i < count && zeromq != nullptr; ++i) {
+    const bool may_open = zeromq != nullptr && prepare_keys();
+    for (uint32_t i = 0; i < count; ++i) {
         pthread_mutex_init(&places[i].mutex, nullptr);
         places[i].endpoint = endpoints[i];
-        places[i].socket = open_socket(endpoints[i]);
+        places[i].socket = may_open ? open_socket(endpoints[i]) : nullptr;
         place_count = i + 1;
     }
 }
@@ -96,6 +146,7 @@ void open_all()
             zmq_close(places[i].socket);
     if (zeromq != nullptr)
         zmq_ctx_term(zeromq);
+    end_admission();
 }
 
 bool carries(uint32_t channel)
@@ -127,22 +178,45 @@ int result_of_errno()
     }
 }
 
-int send_part(void *socket, const MeshSendItem &item, int flags)
+// The parts of one message. All are made before the first one is sent, as what has begun cannot be taken back.
+struct Parts {
+    explicit Parts(uint32_t count) : all(static_cast<zmq_msg_t*>(calloc(count, sizeof(zmq_msg_t)))) {}
+    ~Parts()
+    {
+        for (uint32_t i = sent; i < made; ++i)
+            zmq_msg_close(&all[i]);
+        free(all);
+    }
+    Parts(const Parts&) = delete;
+    Parts& operator=(const Parts&) = delete;
+
+    zmq_msg_t* all;
+    uint32_t made = 0;
+    uint32_t sent = 0;
+};
+
+[[nodiscard]] bool make_parts(const MeshSendItem* items, uint32_t count, Parts& parts)
 {
-    zmq_msg_t part;
-    if (zmq_msg_init_size(&part, packet_head + item.length) != 0)
-        return MESH_STANDIN_NO_MEMORY;
-    uint8_t *const packet = static_cast<uint8_t *>(zmq_msg_data(&part));
-    store_u32(packet, item.id);
-    store_u32(packet + 4, item.length);
-    if (item.length > 0)
-        memcpy(packet + packet_head, item.data, item.length);
-    while (zmq_msg_send(&part, socket, flags) < 0)
-        if (errno != EINTR) {
-            const int result = result_of_errno();
-            zmq_msg_close(&part);
-            return result;
-        }
+    for (; parts.all != nullptr && parts.made < count; ++parts.made) {
+        const MeshSendItem& item = items[parts.made];
+        zmq_msg_t* const part = &parts.all[parts.made];
+        if (zmq_msg_init_size(part, packet_head + item.length) != 0)
+            return false;
+        uint8_t* const packet = static_cast<uint8_t*>(zmq_msg_data(part));
+        store_u32(packet, item.id);
+        store_u32(packet + 4, item.length);
+        if (item.length > 0)
+            memcpy(packet + packet_head, item.data, item.length);
+    }
+    return parts.made == count;
+}
+
+int send_parts(void* socket, Parts& parts)
+{
+    for (; parts.sent < parts.made; ++parts.sent)
+        while (zmq_msg_send(&parts.all[parts.sent], socket, parts.sent + 1 < parts.made ? ZMQ_SNDMORE : 0) < 0)
+            if (errno != EINTR)
+                return result_of_errno();
     return MESH_STANDIN_OK;
 }
 
@@ -151,12 +225,18 @@ int send(uint32_t channel, const MeshSendItem *items, uint32_t count, uint32_t d
     Place *const place = find_place(channel, false, destination);
     if (place == nullptr)
         return MESH_STANDIN_NO_PEER;
+    Parts parts(count);
+    if (!make_parts(items, count, parts))
+        return MESH_STANDIN_NO_MEMORY;
+    const Hold hold(*place);
     if (place->socket == nullptr)
         return MESH_STANDIN_BAD_PATH;
-    const Hold hold(*place);
-    int result = MESH_STANDIN_OK;
-    for (uint32_t i = 0; i < count && result == MESH_STANDIN_OK; ++i)
-        result = send_part(place->socket, items[i], i + 1 < count ? ZMQ_SNDMORE : 0);
+    const int result = send_parts(place->socket, parts);
+    // The next call would continue the unfinished message; closing the socket discards it.
+    if (result != MESH_STANDIN_OK && parts.sent > 0) {
+        zmq_close(place->socket);
+        place->socket = open_socket(place->endpoint);
+    }
     return result;
 }
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs a build, moves what was installed, and builds and runs programs that have nothing else: by CMake and by
-# pkg-config, in C and in C++. Then the same programs with the sources taken along.
+# pkg-config, in C and in C++, with a MESH of their own and with the stand-in. Then the same programs with the sources
+# taken along.
 #
 #   install.sh BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
@@ -36,6 +37,23 @@ quietly cmake -G Ninja -S "$consumer" -B "$work/package" -DIFIT_CODEC_FROM=find_
     -DCMAKE_C_STANDARD=99 -DCMAKE_CXX_STANDARD=11
 quietly cmake --build "$work/package"
 runs_well "$work/package"
+
+# MESH from the stand-in; without it the errors are those that README.md and docs/integrating.md name.
+with_standin=(-G Ninja -S "$consumer" -DIFIT_CODEC_FROM=find_package -DCMAKE_PREFIX_PATH="$here"
+    -DIFIT_CODEC_COMPONENTS=zervamesh)
+quietly cmake "${with_standin[@]}" -B "$work/standin"
+quietly cmake --build "$work/standin" --target first_program
+[ "$("$work/standin/first_program")" = '28 bytes carry "hello"' ] || fail "first_program with the stand-in"
+if cmake --build "$work/package" --target first_program >"$work/log" 2>&1; then
+    fail "first_program links without MESH"
+fi
+grep -q "libifit_codec.so.*: undefined reference to \`MESH_SendMsg'" "$work/log" || { cat "$work/log"; fail "its error"; }
+mv "$lib/ifit-codec" "$lib"/cmake/IfitCodec/IfitCodecZervamesh* "$work"
+if cmake "${with_standin[@]}" -B "$work/without" >"$work/log" 2>&1; then
+    fail "a stand-in that is not installed is found"
+fi
+grep -q "component zervamesh is missing" "$work/log" || { cat "$work/log"; fail "asking for the stand-in"; }
+
 if cmake -S "$consumer" -B "$work/future" -DCMAKE_PREFIX_PATH="$here" -DIfitCodec_DIR="$lib/cmake/IfitCodec" \
     -DIFIT_CODEC_FROM=find_package -DIFIT_CODEC_WANTED=2.0 >"$work/log" 2>&1; then
     fail "version 1 is taken for version 2"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # sender and receiver of examples/ over ZeroMQ in place of the stand-in's sockets: on this host's loopback, to one of
-# two receivers by destination, and between two network namespaces: 77 where we may not make these.
+# two receivers by destination, with keys, and between two network namespaces: 77 where we may not make these.
 #
 #   zeromq.sh LIBRARY PROGRAM_FOLDER EXPECTED_OUTPUT
 set -uo pipefail
@@ -50,6 +50,54 @@ MAP
     echo "on this host, two destinations"
 }
 
+# $1: file of keys; the rest as for the sender.
+sender_with() {
+    MESH_ZEROMQ_KEYS=$1 over_zeromq "$work/near.map" "$programs/sender" - 0 "${@:2}"
+}
+
+public_key() {
+    sed -n 's/^# public key: //p' "$work/$1.pair"
+}
+
+# Those who lack a key try for as long as they have patience; the admitted one keeps the receiver from losing its own.
+with_keys() {
+    local address=tcp://127.0.0.1:$((20000 + RANDOM % 10000)) name receiver tries=()
+    echo "1 receive $address" >"$work/far.map"
+    echo "1 send $address" >"$work/near.map"
+    for name in receiver admitted stranger other; do
+        "$(dirname "$library")/mesh_zeromq_keys" >"$work/$name.pair"
+    done
+    (cat "$work/receiver.pair" && echo "sender $(public_key admitted)") >"$work/receiver.keys"
+    for name in admitted stranger; do
+        (cat "$work/$name.pair" && echo "receiver $address $(public_key receiver)") >"$work/$name.keys"
+    done
+    (cat "$work/admitted.pair" && echo "receiver $address $(public_key other)") >"$work/misled.keys"
+
+    MESH_ZEROMQ_KEYS=$work/receiver.keys over_zeromq "$work/far.map" "$programs/receiver" - >"$work/far" &
+    receiver=$!
+    for name in stranger misled ""; do
+        (sender_with "${name:+$work/$name.keys}" "from ${name:-one without keys}" 2>>"$work/refused" &&
+            echo "FAILED: $name is admitted") >>"$work/admitted" &
+        tries+=($!)
+    done
+    while kill -0 "${tries[@]}" 2>/dev/null; do   # while one of them is left
+        sender_with "$work/admitted.keys" "still here" || { failed=1; break; }
+    done
+    sender_with "$work/admitted.keys" "good morning" "" bye || failed=1
+    wait $receiver || failed=1
+    grep FAILED "$work/admitted" && failed=1
+    [ "$(grep -c "the time is over" "$work/refused")" = 3 ] || { cat "$work/refused"; failed=1; }
+    compare <(grep -v "still here" "$work/far") "the receiver with keys"
+
+    cp "$work/admitted.pair" "$work/without_receiver.keys"
+    sender_with "$work/without_receiver.keys" bye 2>"$work/refused" && failed=1
+    grep -q "$address: Permission denied" "$work/refused" || { echo "FAILED: no key for the receiver"; failed=1; }
+    printf '%s\n' "secret short" "sender $(public_key other)x" "receiver $(public_key other)" "key 1" >"$work/bad.keys"
+    sender_with "$work/bad.keys" bye 2>"$work/refused" && failed=1
+    [ "$(grep -c "bad.keys:[1-4]: " "$work/refused")" = 4 ] || { cat "$work/refused"; failed=1; }
+    echo "with keys"
+}
+
 make_namespaces() {
     ip netns add $first && ip netns add $second &&
         ip link add kesto1 netns $first type veth peer name kesto2 netns $second &&
@@ -73,6 +121,7 @@ between_namespaces() {
 }
 
 on_this_host
+with_keys
 between_namespaces
 [ $failed -eq 0 ] && [ $left_out -eq 1 ] && exit 77
 exit $failed

@@ -1,0 +1,182 @@
+#include "platform/zeromq/keys.h"
+
+#include <errno.h>
+#include <pthread.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <string.h>
+#include <zmq.h>
+
+namespace {
+
+constexpr const char* blanks = " \t\r\n";
+constexpr const char* no_key = "no key, or not one of 40 characters";
+
+[[nodiscard]] bool read_key(const char* word, uint8_t (&key)[KEY_BYTES])
+{
+    return word != nullptr && strlen(word) == KEY_ROOM - 1 && zmq_z85_decode(key, word) != nullptr;
+}
+
+const char* read_secret(const char* word, Keys& keys)
+{
+    uint8_t key[KEY_BYTES];
+    if (!read_key(word, key))
+        return no_key;
+    memcpy(keys.secret_key, word, KEY_ROOM);
+    return zmq_curve_public(keys.public_key, keys.secret_key) == 0 ? nullptr : "this ZeroMQ knows no keys";
+}
+
+const char* read_sender(const char* word, Keys& keys)
+{
+    if (keys.sender_count == MOST_ENDPOINTS)
+        return "too many senders";
+    if (!read_key(word, keys.senders[keys.sender_count]))
+        return no_key;
+    ++keys.sender_count;
+    return nullptr;
+}
+
+const char* read_receiver(const char* address, const char* word, Keys& keys)
+{
+    uint8_t key[KEY_BYTES];
+    if (keys.receiver_count == MOST_ENDPOINTS || address == nullptr || strlen(address) >= ENDPOINT_ROOM)
+        return "too many receivers, or no address, or too long a one";
+    if (!read_key(word, key))
+        return no_key;
+    Receiver& receiver = keys.receivers[keys.receiver_count++];
+    memcpy(receiver.address, address, strlen(address) + 1);
+    memcpy(receiver.key, word, KEY_ROOM);
+    return nullptr;
+}
+
+// secret KEY, sender KEY, or receiver ADDRESS KEY. Null when `line` says so.
+const char* read_line(char* line, Keys& keys)
+{
+    char* rest = nullptr;
+    const char* const word = strtok_r(line, blanks, &rest);
+    const char* const second = strtok_r(nullptr, blanks, &rest);
+    const char* const third = strtok_r(nullptr, blanks, &rest);
+    if (strcmp(word, "receiver") == 0 && strtok_r(nullptr, blanks, &rest) == nullptr)
+        return read_receiver(second, third, keys);
+    if (strcmp(word, "secret") == 0 && third == nullptr)
+        return read_secret(second, keys);
+    if (strcmp(word, "sender") == 0 && third == nullptr)
+        return read_sender(second, keys);
+    return "neither secret KEY, sender KEY nor receiver ADDRESS KEY";
+}
+
+// Admission: ZeroMQ asks at inproc://zeromq.zap.01, in frames of 255 bytes at most, and goes by the answer's third
+// frame. A sender has proved by then that it has the secret key to the public one in the question.
+
+enum { VERSION, REQUEST, DOMAIN, ADDRESS, IDENTITY, MECHANISM, CREDENTIALS, QUESTION_FRAMES };
+
+struct Frame {
+    uint8_t bytes[256];
+    size_t length;
+};
+
+struct Admission {
+    void* socket;
+    const Keys* keys;
+    pthread_t thread;
+};
+
+constinit Admission admission{};
+
+// False at the end of the context. Frames that no question has are read over, and `count` tells.
+[[nodiscard]] bool read_question(Frame (&frames)[QUESTION_FRAMES + 1], int& count)
+{
+    int more = 1;
+    for (count = 0; more != 0; ++count) {
+        Frame& frame = frames[count < QUESTION_FRAMES ? count : QUESTION_FRAMES];
+        int got;
+        do
+            got = zmq_recv(admission.socket, frame.bytes, sizeof frame.bytes, 0);
+        while (got < 0 && errno == EINTR);
+        if (got < 0)
+            return false;
+        frame.length = static_cast<size_t>(got) < sizeof frame.bytes ? static_cast<size_t>(got) : sizeof frame.bytes;
+        size_t size = sizeof more;
+        zmq_getsockopt(admission.socket, ZMQ_RCVMORE, &more, &size);
+    }
+    return true;
+}
+
+[[nodiscard]] bool admits(const Frame& mechanism, const Frame& key)
+{
+    if (mechanism.length != 5 || memcmp(mechanism.bytes, "CURVE", 5) != 0 || key.length != KEY_BYTES)
+        return false;
+    for (uint32_t i = 0; i < admission.keys->sender_count; ++i)
+        if (memcmp(admission.keys->senders[i], key.bytes, KEY_BYTES) == 0)
+            return true;
+    return false;
+}
+
+void* admit(void*)
+{
+    Frame question[QUESTION_FRAMES + 1];
+    for (int count; read_question(question, count);) {
+        const bool good = count == QUESTION_FRAMES && admits(question[MECHANISM], question[CREDENTIALS]);
+        zmq_send(admission.socket, "1.0", 3, ZMQ_SNDMORE);
+        zmq_send(admission.socket, question[REQUEST].bytes, question[REQUEST].length, ZMQ_SNDMORE);
+        zmq_send(admission.socket, good ? "200" : "400", 3, ZMQ_SNDMORE);
+        for (int rest = 0; rest < 3; ++rest)   // a text, the user's name and properties
+            zmq_send(admission.socket, "", 0, rest < 2 ? ZMQ_SNDMORE : 0);
+    }
+    zmq_close(admission.socket);
+    return nullptr;
+}
+
+}   // namespace
+
+bool read_keys(FILE* file, const char* name, Keys& keys)
+{
+    bool good = true;
+    char* line = nullptr;
+    size_t room = 0;
+    for (int number = 1; getline(&line, &room, file) >= 0; ++number) {
+        if (line[0] == '#' || line[strspn(line, blanks)] == '\0')   // elsewhere # may belong to a key
+            continue;
+        const char* const fault = read_line(line, keys);
+        if (fault != nullptr)
+            fprintf(stderr, "%s:%d: %s\n", name, number, fault);
+        good = good && fault == nullptr;
+    }
+    free(line);
+    if (good && keys.secret_key[0] == '\0')
+        fprintf(stderr, "%s: no secret key\n", name);
+    return good && keys.secret_key[0] != '\0';
+}
+
+const char* receiver_key(const Keys& keys, const char* address)
+{
+    for (uint32_t i = 0; i < keys.receiver_count; ++i)
+        if (strcmp(keys.receivers[i].address, address) == 0)
+            return keys.receivers[i].key;
+    return nullptr;
+}
+
+bool start_admission(void* zeromq, const Keys& keys)
+{
+    admission.keys = &keys;
+    admission.socket = zmq_socket(zeromq, ZMQ_REP);
+    if (admission.socket == nullptr)
+        return false;
+    sigset_t all, before;   // signals are the program's, and for its own threads
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
+    const bool started = zmq_bind(admission.socket, "inproc://zeromq.zap.01") == 0 &&
+                         pthread_create(&admission.thread, nullptr, admit, nullptr) == 0;
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    if (!started) {
+        zmq_close(admission.socket);
+        admission.socket = nullptr;
+    }
+    return started;
+}
+
+void end_admission()
+{
+    if (admission.socket != nullptr)
+        pthread_join(admission.thread, nullptr);
+}
