@@ -8,6 +8,7 @@
 #include <set>
 
 #include "tools/kesto/explanation.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -71,7 +72,7 @@ u64 number_from(const ordered_json& json, u32 width, const std::string& path)
             refuse(path, fmt::format("\"{}\" is no number from 0 to {}", digits, most));
     } else {
         refuse(path, fmt::format("{} stands where a number from 0 to {} is needed",
-                                 json.is_structured() ? json.type_name() : json.dump(), most));
+                                 json.is_structured() ? json.type_name() : json_text(json, -1), most));
     }
     if (number > most)
         refuse(path, fmt::format("{} does not fit u{}, which ends at {}", number, 8 * width, most));
