@@ -152,7 +152,7 @@ bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Deco
     if (size == 0) {
         u32 table = 0;
         if (element_table(in, cells, 0, table))
-            log_decode_parameters(*of.unit, element.routine, in.bytes, in.length, nullptr);
+            log_decode_parameters(*of.unit, routine, in.bytes, in.length, nullptr);
         return false;
     }
     u8* const records = allocate(decoder, routine, size);

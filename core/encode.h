@@ -1,8 +1,8 @@
 // From record to compact form: a size routine that says how many bytes are needed, then a packer without bounds tests.
 //
-// Both walk the slots of a layout by the same rules, except for the two cases in which they are required to differ:
-// a block with a pointer and length 0, and a vector with a count and no pointer. Where there is room for the largest
-// table of a layout, its bound, the packer runs alone, and its end gives the size.
+// Both walk the slots of a layout by the same rules, but for the one case in which they are required to differ: a block
+// with a pointer and length 0. Where there is room for the largest table of a layout, its bound, the packer runs alone,
+// and its end gives the size.
 #pragma once
 
 #include "core/forms.h"
@@ -56,8 +56,9 @@ template <class L>
     return size <= largest_size ? size : too_large;
 }
 
-// The size of one table and all beneath it, without a root. A bound counts every scalar; it is too_large for a block
-// with a pointer and length 0, so that nobody takes the packer's end for the size there.
+// The size of one table and all beneath it, without a root; too_large for a vector with a count and no pointer. A bound
+// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's end
+// for the size there.
 template <class L, Measure how>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
@@ -84,10 +85,11 @@ template <class L, Measure how>
                     size = too_large;
             }
         } else if constexpr (Slot::kind == Kind::vector) {
-            // required: the count alone decides; a count without elements is the caller's fault
             const u32 count = field_value<u32>(field);
             if (count != 0) {
                 const u8* const records = field_pointer(field + counted_pointer);
+                if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
+                    return false;
                 const NestedEncoder& element = nested[L::nested_before(K)];
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
@@ -173,7 +175,11 @@ struct SlotLanes {
         lanes[I] = static_cast<u16>(offset);
     }
 
-    [[gnu::always_inline]] u64 value() const { return static_cast<u64>(_mm_cvtsi128_si64(__m128i(lanes))); }
+    [[gnu::always_inline]] u64 value() const
+    {
+        using Halves = u64 [[gnu::vector_size(16)]];
+        return Halves(lanes)[0];
+    }
 };
 using BranchlessWord = SlotLanes;
 #else
@@ -298,7 +304,9 @@ struct TableWriter {
             bool written = true;
             if constexpr (Slot<K>::kind == Kind::text)
                 written = field_pointer(field<K>()) != nullptr;
-            else if constexpr (Slot<K>::kind == Kind::block || Slot<K>::kind == Kind::vector)
+            else if constexpr (Slot<K>::kind == Kind::vector)
+                written = field_value<u32>(field<K>()) != 0;   // it has a pointer then, or there would be no size
+            else if constexpr (Slot<K>::kind == Kind::block)
                 written = field_pointer(field<K>() + counted_pointer) != nullptr && field_value<u32>(field<K>()) != 0;
             cells[K] = written ? at : 0;
             slots.template put<K>(cells[K]);

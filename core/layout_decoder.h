@@ -208,7 +208,6 @@ read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, co
     TableView<Input> view;
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return Reading::none;
-    ensure_memory_services(*decoder.unit);
     if (clear)
         clear_run<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
@@ -307,7 +306,6 @@ template <class L>
     });
     if (!fit || (behind == Behind::nothing && room != 0) || !Form::matches(bytes))
         return Reading::none;
-    ensure_memory_services(*decoder.unit);
     Form::read(record, bytes);
     return take_heap_parts<Form, L, 0>(bytes, record, decoder, routine) ? Reading::done : Reading::refused;
 }
@@ -423,11 +421,8 @@ template <class L>
         else
             return read_heap_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
     } else {
-        if (!(table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) &&
-            !read_short_table<L>(in, table, record))
-            return false;
-        ensure_memory_services(*decoder.unit);
-        return true;
+        return (table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) ||
+               read_short_table<L>(in, table, record);
     }
 }
 
@@ -435,7 +430,9 @@ template <class L>
 template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    const bool done = may_decode(bytes, length, record) && read_message<L>({bytes, length}, record, decoder);
+    // The services are looked up between two steps that the fast ways take at once: the first decode is not theirs.
+    const bool done = has_memory_services(*decoder.unit) && may_decode(bytes, length, record) &&
+                      read_message<L>({bytes, length}, record, decoder);
     if (!done) [[unlikely]]
         decode_message(bytes, length, record, decoder);
     return L::record_size;

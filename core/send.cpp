@@ -43,19 +43,22 @@ struct Batch {
     return true;
 }
 
-// Packs one record into the pool, `used` bytes of which are taken.
+// Packs one record into the pool, `used` bytes of which are taken. The services are looked up once the first record is
+// known to fit.
 [[nodiscard]] bool add_to_pool(const Batch& batch, u32 i, u32& used, const u8* record, const Encoder& encoder)
 {
-    if (used == pool_bytes)
+    if (record == nullptr || used == pool_bytes)
         return false;
     u8* const at = batch.data + used;
     u32 size;
     if (encoder.layout->bound(record, encoder.nested) <= pool_bytes - used) {
+        ensure_memory_services(*encoder.unit);
         size = static_cast<u32>(encoder.layout->write(at, record, encoder.nested) - at);
     } else {
         size = encoder.layout->measure(record, encoder.nested);
         if (size == 0 || size > pool_bytes - used)
             return false;
+        ensure_memory_services(*encoder.unit);
         write_sent(at, size, record, encoder);
     }
     batch.items[i] = {at, encoder.id, size};
@@ -68,7 +71,8 @@ int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination,
     Batch batch;
     if (!open_batch(u64{count} * encoder.layout->fixed_length, count, batch))
         return failed;
-    ensure_memory_services(*encoder.unit);
+    if (count != 0)
+        ensure_memory_services(*encoder.unit);
     for (u32 i = 0; i < count; ++i) {
         u8* const at = batch.data + std::size_t{i} * encoder.layout->fixed_length;
         encoder.layout->write_fixed(at, records + std::size_t{i} * encoder.layout->record_size);
@@ -84,7 +88,6 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
     Batch batch;
     if (!open_batch(pool_bytes, count, batch))
         return failed;
-    ensure_memory_services(*encoder.unit);
     bool all = true;
     u32 used = 0;
     for (u32 i = 0; i < count && all; ++i)

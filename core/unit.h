@@ -37,10 +37,13 @@ inline void start(Unit& unit) { unit.byte_order = host_has_wire_order ? 0 : 1; }
 
 void find_memory_services(Unit& unit);
 
-// After the first call one plain load: the acquire orders the hooks behind the flag that says they are there.
+// Whether they have been looked up: one plain load, whose acquire orders the hooks after the flag that says they are
+// there.
+inline bool has_memory_services(const Unit& unit) { return unit.memory_ready.load(std::memory_order_acquire) != 0; }
+
 inline void ensure_memory_services(Unit& unit)
 {
-    if (unit.memory_ready.load(std::memory_order_acquire) == 0) [[unlikely]]
+    if (!has_memory_services(unit)) [[unlikely]]
         find_memory_services(unit);
 }
 

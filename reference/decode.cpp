@@ -427,9 +427,8 @@ bool Decoder::read_element(const Table& table, const Slot& slot, u32 cell, const
     if (target < cell)
         return refuse(table.routine, Refusal::element_wrap, cell, target, cell);
     if (block.is_null) {
-        const Routine element{slot.nested, RoutineKind::unpack_non_root};
-        log(element, Format::unpack_parameters, 1, length_, 0);
-        return refuse(element, Refusal::element_null, cell, target, 0);
+        log(table.routine, Format::unpack_parameters, 1, length_, 0);
+        return refuse(table.routine, Refusal::element_null, cell, target, 0);
     }
     const u32 number = static_cast<u32>(step().element);
     if (number >= block.elements_inside) {

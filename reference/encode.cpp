@@ -7,6 +7,9 @@ namespace kesto::reference
 namespace
 {
 
+// Of a vector with a count and no pointer, and so of every record that holds one.
+constexpr u64 no_size = u64{1} << 32;
+
 // A table with everything below it, without a root word.
 template <typename View>
 u64 size_of_table(const View& view)
@@ -33,6 +36,8 @@ u64 size_of_table(const View& view)
         case Kind::vector:
             if (view.count(k) == 0)
                 break;
+            if (!view.present(k))
+                return no_size;
             size += 8 + 4 * u64{view.count(k)};
             for (u32 i = 0; i < view.count(k); ++i)
                 size += size_of_table(view.element(k, i));
@@ -48,8 +53,8 @@ bool is_written(const View& view, std::size_t k)
     switch (view.message().slots[k].kind) {
     case Kind::scalar: return view.scalar(k) != 0;
     case Kind::string: return view.present(k);
-    case Kind::bytes:
-    case Kind::vector: return view.present(k) && view.count(k) != 0;
+    case Kind::bytes: return view.present(k) && view.count(k) != 0;
+    case Kind::vector: return view.count(k) != 0;
     case Kind::array:
     case Kind::table: break;
     }

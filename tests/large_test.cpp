@@ -178,7 +178,7 @@ TEST_F(WrappedBlock, is_not_overrun_where_every_cell_leads_to_a_table)
 }
 
 // The same written out, for elements of 256 bytes: 2^24 of them are 2^32 bytes.
-TEST_F(WrappedBlock, of_no_byte_is_reported_by_the_first_element_and_of_two_elements_holds_two)
+TEST_F(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_of_two_elements_holds_two)
 {
     const auto vectors = vector_messages();
     const auto vector = std::find_if(vectors.begin(), vectors.end(), [](auto& each) {
@@ -196,7 +196,7 @@ TEST_F(WrappedBlock, of_no_byte_is_reported_by_the_first_element_and_of_two_elem
         {0x01000000, true, {}},
         {0x01000000,
          false,
-         {"ifit_sync_ifit_session_entry_unpack_non_root logs 22 [KESTO]:Param invalid(nonNull, LENGTH, null)"}},
+         {"ifit_sync_ifit_session_entry_update_unpack logs 22 [KESTO]:Param invalid(nonNull, LENGTH, null)"}},
         {0x01000002,
          false,
          {"ifit_sync_ifit_session_entry_update_unpack allocates block 0, size 512",

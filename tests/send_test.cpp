@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstring>
 
 #include "ifit.h"
 #include "ifit_dfx.h"
@@ -138,12 +139,44 @@ TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
 TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
 {
     if (!fixed()) {
+        const WatchMalloc watch;
         EXPECT_EQ(library().sendsingle(1, nullptr, 0, 0), -1);
-        EXPECT_EQ(library().sendmsg(1, nullptr, 1), -1);
+        for (const std::uint32_t n : {1U, 2U, 3U}) {
+            EXPECT_EQ(library().sendmsg(1, nullptr, n), -1);
+            EXPECT_EQ(library().sendtomsg(1, nullptr, n, 2), -1);
+            EXPECT_EQ(library().sendbatch(1, nullptr, n, 0), -1);
+        }
+        EXPECT_EQ(malloc_watch.frees, malloc_watch.mallocs);
     }
     const RecordMemory memory(records(1));
     EXPECT_EQ(library().sendmsg(1, memory.data(), 0xFFFFFFFF), -1);
     EXPECT_EQ(library().sendbatch(1, memory.data(), 0xFFFFFFFF, 2), -1);
+    EXPECT_TRUE(mesh().sends.empty());
+}
+
+// As a failed decode leaves it. By whichever routine finds it, in whatever room.
+TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_operation)
+{
+    for (std::size_t k = 0; k < message().slots.size(); ++k) {
+        if (message().slots[k].kind != reference::Kind::vector)
+            continue;
+        const RecordMemory memory(records(2));
+        auto* const field =
+            static_cast<std::uint8_t*>(memory.data()) + message().layout(reference::host_pointer_width).offsets[k];
+        const std::uint32_t count = 2;
+        std::memcpy(field, &count, sizeof count);
+        std::memset(field + sizeof(void*), 0, sizeof(void*));
+        std::vector<std::uint8_t> buffer(pool);
+        for (const std::uint32_t room : {4U, message().compact_zero, message().compact_zero + 16, pool}) {
+            std::uint32_t length = room;
+            EXPECT_EQ(library().pack(memory.data(), buffer.data(), &length), -1);
+            EXPECT_EQ(length, room);
+        }
+        EXPECT_EQ(library().sendsingle(1, memory.data(), 0, 0), -1);
+        EXPECT_EQ(library().sendbatch(1, memory.data(), 1, 0), -1);
+        EXPECT_EQ(library().sendmsg(1, memory.data(), 2), -1);
+        EXPECT_EQ(reference::exact_size(message(), memory.data()) >> 32, 1U);
+    }
     EXPECT_TRUE(mesh().sends.empty());
 }
 

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -54,8 +55,13 @@ const Offer offers[] = {
 const Offer* offer = &offers[0];
 std::atomic<int> lookups_of_flag, lookups_of_allocate, lookups_of_release, lookups_of_log;
 std::atomic<int> allocated, released, logged;
+std::function<void()> at_lookup = [] {};   // what happens while the service answers
 
-std::uint32_t use_flag(std::uint32_t module) { return module == 12 ? static_cast<std::uint32_t>(offer->use_flag) : 0; }
+std::uint32_t use_flag(std::uint32_t module)
+{
+    at_lookup();
+    return module == 12 ? static_cast<std::uint32_t>(offer->use_flag) : 0;
+}
 
 void* service_allocate(std::uint32_t size, std::uint32_t, const char*)
 {
@@ -164,9 +170,36 @@ TEST(Services, are_not_looked_up_without_need)
         verdict.expect("memory", lookups_of_flag, 1);
         std::uint32_t length = 10;
         ifit_dfx_query_comm_param_mesh__pack(nullptr, nullptr, &length);
+        ifit_dfx_query_comm_param_mesh__sendbatch(1, nullptr, 1, 0);
+        ifit_dfx_query_comm_param_mesh__sendbatch(1, nullptr, 0, 0);
+        ifit_dfx_reset_statis_mesh__sendbatch(1, nullptr, 0, 0);
         verdict.expect("memory of the send unit", lookups_of_flag, 1);
         verdict.expect("log", lookups_of_log, 1);
     });
+}
+
+// In whichever form it comes.
+TEST(Services, are_looked_up_before_the_first_byte_of_a_record_is_written)
+{
+    namespace reference = kesto::reference;
+    reference::Catalogue catalogue;
+    std::string error;
+    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
+    const reference::Message& message = *catalogue.find("ifit_color_intf_mesh");
+    reference::Random chance(1);
+    const reference::Record full = reference::random_record(message, reference::Density::full, chance);
+    const reference::Record sparse = reference::random_record(message, reference::Density::sparse, chance);
+    for (const reference::Bytes& bytes :
+         {reference::fixed_form(full), reference::compact_form(full), reference::compact_form(sparse)})
+        expect_in_child([&](Verdict& verdict) {
+            offer = &offers[8];
+            ifit_color_intf_mesh record, before;
+            std::memset(&record, 0xEE, sizeof record);
+            std::memcpy(&before, &record, sizeof record);
+            at_lookup = [&] { verdict.expect("record", std::memcmp(&record, &before, sizeof record), 0); };
+            ifit_color_intf_mesh__unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &record);
+            verdict.expect("look-ups of the flag", lookups_of_flag, 1);
+        });
 }
 
 TEST(Services, are_looked_up_by_whichever_way_of_decoding_or_releasing_comes_first)

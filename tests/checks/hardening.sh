@@ -18,6 +18,7 @@ require "read-only relocations" GNU_RELRO "$headers"
 require "immediate binding" 'BIND_NOW\|FLAGS.*NOW' "$dynamic"
 require "non-executable stack" 'GNU_STACK.* RW ' "$headers"
 require "stack protector" __stack_chk_fail "$symbols"
+require "flag that keeps it mapped" NODELETE "$dynamic"
 if grep -q TEXTREL <<<"$dynamic"; then
     echo "$library: relocations in its code"
     missing=1
@@ -27,5 +28,5 @@ if [ "$objdump" != none ] && $objdump -d "$library" | grep -q 'rep \(stos\|movs\
     echo "$library: string instructions"
     missing=1
 fi
-[ $missing -eq 0 ] && echo "relro, bind now, stack not executable, stack protector, no string instructions"
+[ $missing -eq 0 ] && echo "relro, bind now, kept mapped, stack not executable, stack protector, no string instructions"
 exit $missing

@@ -1,0 +1,104 @@
+// Whoever looks at a process that stands in MESH or in a memory service sees who called: the stack can be unwound
+// through every operation of the library.
+
+#include <gtest/gtest.h>
+
+#include <dlfcn.h>
+#include <unwind.h>
+
+#include <cstdlib>
+#include <cstring>
+
+#include "platform/mesh.h"
+#include "platform/osal.h"
+#include "reference/encode.h"
+#include "reference/generate.h"
+#include "reference/memory.h"
+#include "tests/support/figures.h"
+#include "tools/operations.h"
+
+namespace {
+
+namespace reference = kesto::reference;
+
+int calls = 0, calls_from_main = 0;
+
+// The functions of the program are exported, so that they have names here.
+_Unwind_Reason_Code visit_frame(_Unwind_Context* context, void* found)
+{
+    Dl_info function;
+    if (dladdr(reinterpret_cast<void*>(_Unwind_GetIP(context) - 1), &function) != 0 && function.dli_sname != nullptr &&
+        std::strcmp(function.dli_sname, "main") == 0)
+        *static_cast<bool*>(found) = true;
+    return _URC_NO_REASON;
+}
+
+[[gnu::noinline]] void look_for_main()
+{
+    bool found = false;
+    _Unwind_Backtrace(visit_frame, &found);
+    ++calls;
+    calls_from_main += found;
+}
+
+TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
+{
+    reference::Catalogue catalogue;
+    std::string error;
+    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
+    for (const reference::Message& message : catalogue.messages) {
+        const kesto::tools::Operations& library = kesto::tools::operations(message.name);
+        reference::Random random(message.id);
+        const std::vector<reference::Record> records(
+            2, reference::random_record(message, reference::Density::full, random));
+        const reference::RecordMemory memory(records);
+        calls = calls_from_main = 0;
+        library.sendsingle(1, memory.data(), 0, 2);
+        library.sendbatch(1, memory.data(), 2, 0);
+        library.sendmsg(1, memory.data(), 1);
+        library.sendtomsg(1, memory.data(), 2, 3);
+        EXPECT_EQ(calls, 4) << message.name;
+        const reference::Bytes bytes = reference::compact_form(records[0]);
+        std::vector<std::uint64_t> record(library.record_size / 8 + 1);
+        library.unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), record.data());
+        EXPECT_EQ(calls > 4, message.owns_heap) << message.name;
+        library.free_unpacked(record.data());
+        EXPECT_EQ(calls_from_main, calls) << message.name;
+    }
+}
+
+}   // namespace
+
+extern "C" {
+
+int MESH_SendMsg(std::uint32_t, const MeshSendItem*, std::uint32_t)
+{
+    look_for_main();
+    return 0;
+}
+
+int MESH_SendToMsg(std::uint32_t, const MeshSendItem*, std::uint32_t, std::uint32_t)
+{
+    look_for_main();
+    return 0;
+}
+
+int MESH_RegIDLFuncHook(std::uint32_t, MeshUnpack, MeshFree) { return 0; }
+
+int MESH_RegIDLResorceCleanFuncHook(MeshClean) { return 0; }
+
+std::uint32_t RVL_OsalMemUseFlagGet(std::uint32_t) { return 1; }
+
+void* RVL_OsalMemCacheAlloc(std::uint32_t size, std::uint32_t, const char*)
+{
+    look_for_main();
+    return std::malloc(size);
+}
+
+void RVL_OsalMemFree(void* pointer, std::uint32_t, const char*)
+{
+    look_for_main();
+    std::free(pointer);
+}
+
+}   // extern "C"
