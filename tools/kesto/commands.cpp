@@ -83,10 +83,11 @@ std::optional<Record> decoded(const Message& message, std::span<const u8> bytes,
                               const std::string& where)
 {
     const Explanation explanation = explain_verdict(message, bytes, most_memory);
+    const std::string before = where.empty() ? "" : where + ": ";
     if (explanation.given_up)
-        throw Fault(given_up_text(most_memory));
+        throw Fault(before + given_up_text(most_memory));
     if (explanation.refused) {
-        fmt::print(stderr, "{}{}", where.empty() ? "" : visible(where) + ": ", refused_text(explanation, {}));
+        fmt::print(stderr, "{}{}", visible(before), refused_text(explanation, {}));
         return {};
     }
     return record_of(explanation);

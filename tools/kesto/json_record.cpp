@@ -17,6 +17,8 @@ namespace {
 using nlohmann::ordered_json;
 using reference::Field;
 
+constexpr int most_depth = 2 * reference::greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
+
 // ---- to JSON ----
 
 ordered_json text_json(const Field& field)
@@ -189,7 +191,9 @@ Record record_from_json(const Message& message, const ordered_json& json)
 ordered_json parse_json(const std::string& text, const std::string& where)
 {
     std::vector<std::set<std::string>> names;
-    const auto watch = [&](int, ordered_json::parse_event_t event, ordered_json& parsed) {
+    const auto watch = [&](int depth, ordered_json::parse_event_t event, ordered_json& parsed) {
+        if (depth > most_depth)
+            throw Fault(fmt::format("{}: nested deeper than any record", where));
         if (event == ordered_json::parse_event_t::object_start)
             names.emplace_back();
         else if (event == ordered_json::parse_event_t::object_end)
