@@ -82,8 +82,7 @@ void Collector::count(const Item& item)
 {
     explanation_.bytes_read += item.length;
     if (item.piece == Piece::payload)
-        explanation_.record_memory +=
-            u64{4} * item.length;   // what is printed or written of it is longer than a field's
+        explanation_.record_memory += u64{4} * item.length;   // printing them takes more than printing a field
     if (begins_record(item)) {
         if (sized_ != item.message)
             size_ = record_size(*item.message);
