@@ -431,7 +431,7 @@ template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
     // The services are looked up between two steps that the fast ways take at once: the first decode is not theirs.
-    const bool done = has_memory_services(*decoder.unit) && may_decode(bytes, length, record) &&
+    const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
                       read_message<L>({bytes, length}, record, decoder);
     if (!done) [[unlikely]]
         decode_message(bytes, length, record, decoder);

@@ -4,10 +4,12 @@
 //   corpus_tool dictionary FILE                 writes the numbers that matter in a byte string
 //   corpus_tool unpack FILE DIRECTORY           a packed corpus as one file an input
 //   corpus_tool pack DIRECTORY FILE             and back, in the order of the names
+//   corpus_tool add MESSAGE HEX                 adds a byte string to what the decoders are tested with
 //
 // An input's file is named by its content, so that equal ones fall together.
 
 #include <algorithm>
+#include <cctype>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +17,7 @@
 #include <set>
 
 #include "fuzz/inputs.h"
+#include "fuzz/one_input.h"
 #include "reference/encode.h"
 #include "reference/generate.h"
 #include "reference/strange.h"
@@ -85,6 +88,7 @@ int write_dictionary(const Catalogue& catalogue, const std::string& path)
                                       0x80000000u, 0xFFFFFFF8u, 0xFFFFFFFCu, 0xFFFFFFFFu})
         words.insert({4, value});
     for (const reference::Message& message : catalogue.messages) {
+        words.insert({4, message.id});
         words.insert({2, message.vtable_length});
         words.insert({2, message.vtable_length - 1});
         words.insert({4, message.vtable_length});       // a compact vtable offset
@@ -132,6 +136,48 @@ int pack(const std::string& directory, const std::string& path)
     return fuzz::write_packed(path, inputs, error) ? 0 : fail(error);
 }
 
+// As people copy them: digits in pairs, with any blanks between them.
+bool parse_hex(const std::string& text, Bytes& bytes)
+{
+    int high = -1;
+    for (const char c : text) {
+        if (std::isspace(static_cast<unsigned char>(c)) != 0 && high < 0)
+            continue;
+        if (std::isxdigit(static_cast<unsigned char>(c)) == 0)
+            return false;
+        const int digit = std::isdigit(static_cast<unsigned char>(c)) != 0 ? c - '0' : (c | 0x20) - 'a' + 10;
+        if (high >= 0)
+            bytes.push_back(static_cast<std::uint8_t>(16 * high + digit));
+        high = high < 0 ? digit : -1;
+    }
+    return high < 0;
+}
+
+int add(const Catalogue& catalogue, const std::string& name, const std::string& hex)
+{
+    const reference::Message* const message = catalogue.find(name);
+    if (message == nullptr)
+        return fail("no message " + name);
+    Bytes bytes;
+    if (!parse_hex(hex, bytes))
+        return fail("not hex digits in pairs: " + hex);
+    const Bytes input = fuzz::decode_input(*message, bytes);
+    if (input.size() > fuzz::longest_input)
+        return fail("longer than what is replayed from there: make a case of it in tests/large_test.cpp");
+    Inputs inputs;
+    std::string error;
+    if (!fuzz::read_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
+        return fail(error);
+    if (std::find(inputs.begin(), inputs.end(), input) != inputs.end())
+        return fail("it is there already");
+    inputs.push_back(input);
+    if (!fuzz::write_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
+        return fail(error);
+    std::printf("%s: %zu bytes, input %zu of tests/fuzz/corpus/decode.inputs\n", name.c_str(), bytes.size(),
+                inputs.size());
+    return 0;
+}
+
 }   // namespace
 
 int main(int count, char** arguments)
@@ -149,5 +195,7 @@ int main(int count, char** arguments)
         return unpack(words[1], words[2]);
     if (words.size() == 3 && words[0] == "pack")
         return pack(words[1], words[2]);
+    if (words.size() == 3 && words[0] == "add")
+        return add(catalogue, words[1], words[2]);
     return fail("see the head of fuzz/corpus_tool.cpp for its commands");
 }

@@ -147,27 +147,33 @@ void write_record(const Record& record, Bytes& out)
 
 Bytes decode_input(const Message& message, const Bytes& bytes)
 {
-    Bytes input{static_cast<std::uint8_t>(message.index), 0};
+    Bytes input;
+    reference::append(input, message.id, id_bytes);
+    input.push_back(0);
     input.insert(input.end(), bytes.begin(), bytes.end());
     return input;
 }
 
 Bytes record_input(const Record& record)
 {
-    Bytes input{static_cast<std::uint8_t>(record.message->index)};
+    Bytes input;
+    reference::append(input, record.message->id, id_bytes);
     write_record(record, input);
     return input;
 }
 
-const Message& message_of(const Catalogue& catalogue, std::uint8_t number)
+const Message* message_of(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size)
 {
-    return catalogue.messages[number % catalogue.messages.size()];
+    for (const Message& message : catalogue.messages)
+        if (size >= id_bytes && message.id == reference::get32(input))
+            return &message;
+    return nullptr;
 }
 
-Record record_from(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size)
+Record record_from(const Message& message, const std::uint8_t* input, std::size_t size)
 {
-    Source source(input, size);
-    Record record = zero_record(message_of(catalogue, source.octet()));
+    Source source(input + id_bytes, size - id_bytes);
+    Record record = zero_record(message);
     read_record(source, record);
     return record;
 }

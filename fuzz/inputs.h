@@ -13,18 +13,23 @@ using reference::Catalogue;
 using reference::Message;
 using reference::Record;
 
-// A byte string for a decoder: the message's number in the catalogue, which allocation fails, then the byte string.
+// An input begins with the id of its message, little-endian. One whose id nobody has stands for nothing.
+constexpr std::size_t id_bytes = 4;
+
+// A byte string for a decoder: the message's id, which allocation fails, then the byte string.
 //
-// The second byte is 0 for no failure; else its low seven bits give the number, counted from 1, of the allocation that
-// fails, and the high one says that all later ones fail too.
+// The byte after the id is 0 for no failure; else its low seven bits give the number, counted from 1, of the allocation
+// that fails, and the high one says that all later ones fail too.
+constexpr std::size_t before_bytes = id_bytes + 1;
 Bytes decode_input(const Message& message, const Bytes& bytes);
 
-// A record for the encoders: the message's number, then values in slot order (see inputs.cpp). Whatever is missing at
-// the end is zero, so that every input stands for a record.
+// A record for the encoders: the message's id, then values in slot order (see inputs.cpp). Whatever is missing at the
+// end is zero.
 Bytes record_input(const Record& record);
-Record record_from(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size);
+Record record_from(const Message& message, const std::uint8_t* input, std::size_t size);
 
-const Message& message_of(const Catalogue& catalogue, std::uint8_t number);
+// Null where there is none.
+const Message* message_of(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size);
 
 // ---- many inputs in one file: each is preceded by its length, a little-endian u32 ----
 

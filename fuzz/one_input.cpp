@@ -19,25 +19,28 @@ constexpr std::uint32_t largest_allocation = 1 << 14;
 
 std::string run_decode_input(const std::uint8_t* input, std::size_t size)
 {
-    if (size < 2 || size > longest_input)
+    const Message* const message = message_of(transcribed(), input, size);
+    if (message == nullptr || size < before_bytes || size > longest_input)
         return {};
     static DecodeCheck check(1 << 16);
     check.packs_again = true;
     check.faults = {most_allocations, true, largest_allocation};
-    if (input[1] != 0)
-        check.faults = {(input[1] & 0x7FU) - 1, input[1] >= 0x80, largest_allocation};
-    const std::uint32_t length = static_cast<std::uint32_t>(size - 2);
+    const std::uint8_t failing = input[id_bytes];
+    if (failing != 0)
+        check.faults = {(failing & 0x7FU) - 1, failing >= 0x80, largest_allocation};
+    const std::uint32_t length = static_cast<std::uint32_t>(size - before_bytes);
     std::uint8_t* const placed = check.buffer().place(length);
-    std::copy_n(input + 2, length, placed);
-    return check.check(message_of(transcribed(), input[0]), placed, length);
+    std::copy_n(input + before_bytes, length, placed);
+    return check.check(*message, placed, length);
 }
 
 std::string run_record_input(const std::uint8_t* input, std::size_t size)
 {
-    if (size > longest_input)
+    const Message* const message = message_of(transcribed(), input, size);
+    if (message == nullptr || size > longest_input)
         return {};
     static DecodeCheck check(1 << 16);
-    const Record record = record_from(transcribed(), input, size);
+    const Record record = record_from(*message, input, size);
     std::string fault = tests::check_encoders(record);
     const Record decoded = as_decoded(record);
     check.expected = &decoded;

@@ -3,7 +3,8 @@
  * A message X has a record, the plain structure X, an id, X_ID in capitals, and seven operations. In the record, fields
  * stand in slot order at their natural alignment, a 64-bit one at a multiple of 8 on every target. A text is a pointer to
  * NUL-terminated bytes; a block of bytes is a length and a pointer; a vector is a count and a pointer to that many
- * records, end to end. Arrays and nested records lie inline.
+ * records, end to end. Arrays and nested records lie inline. Fields have places and types here, and no meanings: those
+ * are agreed between the programs that exchange the message.
  *
  * All operations may be called from any thread at any time, on different records. None of them keeps a pointer.
  *
@@ -21,9 +22,10 @@
  * X__pack encodes `*rec` in compact form into `buf`. `*len` is the room at `buf` on entry and the length on return. Returns
  *   0, or -1 for a null `rec`, a room that is too small or a length beyond 32 bits; `*len` then stays as it was.
  *   `len` must not be null. WARNING: with a null `buf` and enough room it writes nothing and yet returns 0 with `*len` set.
+ *   So a null `buf` with `*len` UINT32_MAX tells the room that a record needs; it writes a log line, too.
  *   A zero scalar, a null text and a null or empty block or vector take no room; an empty text is kept apart from a null
  *   one. A block with a pointer and length 0 makes `*len` 8 larger than what was written.
- *   A vector with a count must have its pointer; a failed X__unpack leaves a record of which that is not true.
+ *   A vector with a count and no pointer, as a failed X__unpack leaves it, is refused with -1, whatever the room.
  *
  * X__sendsingle, X__sendbatch, X__sendmsg and X__sendtomsg encode records and hand them to the messaging library, on
  *   `channel`, to `destination` (0 for none). They return that library's result, or -1 when nothing was sent. X__sendmsg
@@ -31,7 +33,8 @@
  *   use X__sendsingle for one and X__sendbatch for more; a batch goes as a whole or not at all. Messages with a fixed form
  *   are sent in it: nothing is allocated for one, and one block for a batch of any size. All others are sent in compact
  *   form, and a batch of them must fit 64 KiB in all, while a single one has no limit. The argument `unused` is not read.
- *   Records must not be null.
+ *   Null records are refused with -1 where the form is compact, and so is a vector with a count and no pointer. Of messages
+ *   with a fixed form, records must not be null.
  *
  * ifit_sync_recv_init registers every message's X__unpack and X_free__unpacked with the messaging library, in the order of this
  *   file; it returns 0 or the library's first other result, after which the later ones are not registered.

@@ -55,7 +55,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/packa
 set(about_the_codecs
 "The processes that measure live traffic in a network device exchange their
 tables, flow records, reports and statistics as byte strings. These codecs
-turn C records into such byte strings and back, 235 message types in all.")
+turn C records into such byte strings and back, over 200 message types in all.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)

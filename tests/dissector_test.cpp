@@ -377,8 +377,9 @@ std::vector<Case> cases_of_the_corpus()
     std::string error;
     EXPECT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
     for (const Bytes& input : inputs)
-        if (input.size() >= 2)
-            cases.push_back({&fuzz::message_of(transcribed(), input[0]), {input.begin() + 2, input.end()}});
+        if (input.size() >= fuzz::before_bytes)
+            cases.push_back({fuzz::message_of(transcribed(), input.data(), input.size()),
+                             {input.begin() + fuzz::before_bytes, input.end()}});
     return cases;
 }
 

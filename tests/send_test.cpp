@@ -189,36 +189,6 @@ TEST_P(EverySend, an_empty_batch_reaches_mesh)
     EXPECT_TRUE(mesh().sends[0].sent.empty());
 }
 
-// The same bytes on every host: the sum was taken on one of them and holds on all.
-TEST(Encodings, are_the_same_on_every_host)
-{
-    std::uint64_t digest = 0xCBF29CE484222325;   // FNV-1a
-    const auto add = [&](const std::uint8_t* bytes, std::size_t count) {
-        for (std::size_t i = 0; i < count; ++i)
-            digest = (digest ^ bytes[i]) * 0x100000001B3;
-    };
-    std::size_t compact_forms = 0, fixed_forms = 0;
-    for (const Message& message : transcribed().messages) {
-        reference::Random random(message.id);
-        const Record record = reference::random_record(message, Density::full, random);
-        const RecordMemory memory(record);
-        std::vector<std::uint8_t> buffer(pool);
-        std::uint32_t length = pool;
-        ASSERT_EQ(operations(message.name).pack(memory.data(), buffer.data(), &length), 0);
-        add(buffer.data(), length);
-        ++compact_forms;
-        if (message.fixed_length == 0)
-            continue;
-        mesh().reset();
-        ASSERT_EQ(operations(message.name).sendsingle(0, memory.data(), 0, 0), 0);
-        add(mesh().sends[0].sent[0].bytes.data(), message.fixed_length);
-        ++fixed_forms;
-    }
-    EXPECT_EQ(compact_forms, 235u);
-    EXPECT_EQ(fixed_forms, 125u);
-    EXPECT_EQ(digest, 0x42E85D4DC9E0A914u);
-}
-
 // Two records that fill the 64 KiB to the byte, and one byte more.
 TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
 {

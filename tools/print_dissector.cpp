@@ -8,7 +8,7 @@
 #include <iterator>
 #include <string>
 
-#include "tools/catalogue.h"
+#include "tools/print_files.h"
 
 using namespace kesto::tools;
 
@@ -63,11 +63,5 @@ int main(int argc, char** argv)
     }
     const std::size_t from = begin + sizeof first_line - 1;
     script.replace(from, end - from, catalogue_lines());
-    std::ofstream output(argv[1], std::ios::binary);
-    output << script << std::flush;
-    if (!output) {
-        std::fprintf(stderr, "%s: could not be written\n", argv[1]);
-        return 1;
-    }
-    return 0;
+    return write_changed(argv[1], script) ? 0 : 1;
 }

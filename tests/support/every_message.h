@@ -1,4 +1,4 @@
-// A test body for each of the 235 messages.
+// A test body for every message.
 #pragma once
 
 #include <gtest/gtest.h>

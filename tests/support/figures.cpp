@@ -1,9 +1,8 @@
 #include "tests/support/figures.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstdio>
-#include <set>
+#include <cstdlib>
 #include <sstream>
 
 #include "reference/encode.h"
@@ -312,74 +311,6 @@ std::string check_gaps(const Figure& figure)
     return expected("further gap bytes", 0, static_cast<u64>(std::count(used.begin(), used.end(), false)));
 }
 
-// ---- all of them
-
-u64 count_pairs(const Catalogue& catalogue, const std::string& module, const char* kind)
-{
-    u64 found = 0;
-    for (const Message& message : catalogue.messages) {
-        const Message* const update = catalogue.find(message.name + "_update");
-        const Message* const remove = catalogue.find(message.name + "_delete");
-        if (message.module != module || update == nullptr || remove == nullptr)
-            continue;
-        found += is_u16_and(*update, kind + message.name) && is_u16_and(*remove, kind + message.name);
-    }
-    return found;
-}
-
-u64 count_arrays(const Catalogue& catalogue, const std::string& wanted)
-{
-    std::set<std::string> in_use;
-    for (const Message& message : catalogue.messages) {
-        for (const Slot& slot : message.slots) {
-            if (slot.kind == Kind::array)
-                in_use.insert(kind_text(slot));
-        }
-    }
-    const std::vector<std::string> names = cut(wanted, "+");
-    return in_use == std::set<std::string>(names.begin(), names.end()) ? in_use.size() : 0;
-}
-
-std::string check_all(const Figure& figure, const Catalogue& catalogue)
-{
-    const std::string& what = figure.arguments[0];
-    const std::string of = what.find(':') == std::string::npos ? "" : what.substr(what.find(':') + 1);
-    u64 found = 0;
-    u64 least = ~u64{0};
-    u64 greatest = 0;
-    u64 uneven = 0;
-    for (const Message& message : catalogue.messages) {
-        if (what == "messages")
-            ++found;
-        if (what == "fixed" && !message.owns_heap)
-            ++found;
-        if (what == "heap" && message.owns_heap)
-            ++found;
-        if (what.starts_with("messages_of:") && message.module == of)
-            ++found;
-        if (what.starts_with("updates_of:") && message.module == of && message.name.ends_with("_update"))
-            ++found;
-        if (message.owns_heap)
-            continue;
-        least = std::min<u64>(least, message.fixed_length);
-        greatest = std::max<u64>(greatest, message.fixed_length);
-        uneven += message.fixed_length % 8 != 0;
-    }
-    if (what == "least_fixed_length")
-        found = least;
-    if (what == "greatest_fixed_length")
-        found = greatest;
-    if (what == "fixed_length_step")
-        found = uneven == 0 ? 8 : 0;
-    if (what.starts_with("array:"))
-        found = count_arrays(catalogue, of);
-    if (what.starts_with("vector_pairs_of:"))
-        found = count_pairs(catalogue, of, "vector:");
-    if (what.starts_with("single_table_pairs_of:"))
-        found = count_pairs(catalogue, of, "table:");
-    return expected(what, number(figure.arguments[1]), found);
-}
-
 // ---- lines
 
 bool parse_fill(std::string_view& rest, Figure& figure, std::string& error)
@@ -409,12 +340,10 @@ std::string take_word(std::string_view& rest)
 bool parse_figure(const Catalogue& catalogue, std::string_view rest, Figure& figure, std::string& error)
 {
     figure.kind = take_word(rest);
-    if (figure.kind != "all") {
-        const std::string name = take_word(rest);
-        figure.message = catalogue.find(name);
-        if (figure.message == nullptr)
-            return error = "no message " + name, false;
-    }
+    const std::string name = take_word(rest);
+    figure.message = catalogue.find(name);
+    if (figure.message == nullptr)
+        return error = "no message " + name, false;
     if (figure.about_bytes()) {
         const std::string form = take_word(rest);
         if (form != "compact" && form != "fixed")
@@ -507,8 +436,6 @@ std::string fault_in_catalogue(const Figure& figure, const Catalogue& catalogue)
     const u64 first = number(figure.arguments[0]);
     constexpr u32 send_item = 12;
     constexpr u32 pool = 65536;
-    if (figure.kind == "all")
-        return check_all(figure, catalogue);
     const Message& message = *figure.message;
     if (figure.kind == "batch")
         return expected("batch", first, message.fixed_length + send_item);

@@ -14,13 +14,13 @@ struct Figure {
 
     unsigned line = 0;
     std::string kind;
-    const reference::Message* message = nullptr;   // none for `all`
+    const reference::Message* message = nullptr;
     bool fixed_form = false;
     Fill fill = Fill::zero;
     reference::Record given;
     std::vector<std::string> arguments;
 
-    // Says something about the bytes of a record, not about a message or about all of them.
+    // Says something about the bytes of a record, not about a message.
     bool about_bytes() const;
 
     // The records it speaks of; full ones are drawn at random.

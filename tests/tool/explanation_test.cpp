@@ -67,10 +67,10 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
     std::string error;
     ASSERT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
     for (const ByteString& input : inputs) {
-        if (input.size() < 2)
+        if (input.size() < fuzz::before_bytes)
             continue;
-        ASSERT_NO_FATAL_FAILURE(
-            expect_true(fuzz::message_of(transcribed(), input[0]), {input.begin() + 2, input.end()}));
+        ASSERT_NO_FATAL_FAILURE(expect_true(*fuzz::message_of(transcribed(), input.data(), input.size()),
+                                            {input.begin() + fuzz::before_bytes, input.end()}));
     }
     EXPECT_GT(refused_, 100);
     EXPECT_GT(seen_ - refused_, 100);

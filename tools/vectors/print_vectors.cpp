@@ -12,6 +12,7 @@
 #include "reference/strange.h"
 #include "tools/kesto/explain.h"
 #include "tools/kesto/json_record.h"
+#include "tools/print_files.h"
 #include "tools/vectors/damage.h"
 
 namespace kesto::vectors {
@@ -162,7 +163,7 @@ void add_strange(std::vector<ordered_json>& lines)
     constexpr Density densities[] = {Density::full, Density::sparse, Density::edge};
     for (const Message& message : command::catalogue().messages) {
         Random random(message.id);
-        const Record record = drawn_record(message, densities[message.index % 3], random, most_strange);
+        const Record record = drawn_record(message, densities[message.id % 3], random, most_strange);
         Sample sample = {"strange layout", &message, {}};
         for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
             sample.bytes = reference::strange_layout(record, random);
@@ -195,6 +196,12 @@ std::string sha256_of(const std::string& path)
     return digits;
 }
 
+void write_file(const std::string& path, const std::string& text)
+{
+    if (!tools::write_changed(path, text))
+        throw Fault(path + ": not written");
+}
+
 class Folder {
 public:
     explicit Folder(std::string path) : path_(std::move(path)) {}
@@ -205,7 +212,7 @@ public:
         for (const ordered_json& line : lines)
             text += line.dump() + "\n";
         const std::string path = path_ + "/" + name;
-        command::write_bytes(path, text.data(), text.size());
+        write_file(path, text);
         files_.push_back({{"name", name}, {"lines", lines.size()}, {"sha256", sha256_of(path)}});
     }
 
@@ -213,7 +220,7 @@ public:
     {
         const std::string text =
             ordered_json{{"messages", command::catalogue().messages.size()}, {"files", files_}}.dump(2) + "\n";
-        command::write_bytes(path_ + "/manifest.json", text.data(), text.size());
+        write_file(path_ + "/manifest.json", text);
     }
 
 private:

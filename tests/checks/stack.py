@@ -1,0 +1,91 @@
+#!/usr/bin/env python3
+"""The stack that each operation takes at most within the library, from the call graphs that the compiler leaves.
+
+    stack.py COLUMN BUILD_FOLDER
+
+Fails where that is more than docs/integrating.md says in this column of its table. BUILD_FOLDER is compiled with
+KESTO_CALL_GRAPHS. MESH, services and libc count nothing.
+"""
+import functools
+import pathlib
+import re
+import sys
+
+OPERATION = "(__unpack|_free__unpacked|__pack|__sendsingle|__sendbatch|__sendmsg|__sendtomsg|_recv_init|_send_init)"
+NODE = re.compile(r'node: \{ title: "(.*?)" label: ".*\\n(\d+) bytes \((.*?)\)')
+EDGE = re.compile(r'edge: \{ sourcename: "(.*?)" targetname: "(.*?)"(?: label: "(.*?):(\d+):\d+")?')
+SERVICE = re.compile(r"\b(allocate|release)\(")
+# These, and what is called through a pointer, may lead to one another. The catalogue bounds how often: by its nesting.
+NESTED = re.compile(r"_ZN5kesto\d+(decode_any_nested|decode_nested_anew|release_record)E")
+ANY = "__indirect_call"
+
+
+def nesting():
+    """Messages on the longest way from one to those within."""
+    depth = {}
+    for line in open("tests/data/messages.txt"):
+        if " : " in line and not line.startswith("#"):
+            head, slots = line.split(" : ")
+            depth[head.split()[0]] = 1 + max((depth[slot.split(":")[1]] for slot in slots.split() if ":" in slot), default=0)
+    return max(depth.values())
+
+
+# A call through a pointer that leads to a service of the process.
+def leaves_the_library(file, line):
+    return file.endswith("core/unit.cpp") or SERVICE.search(pathlib.Path(file).read_text().splitlines()[int(line) - 1])
+
+
+column, folder = sys.argv[1], pathlib.Path(sys.argv[2]) / "CMakeFiles/ifit_codec.dir"
+objects, graphs = [sorted(f.with_suffix("") for f in folder.glob("**/*" + suffix)) for suffix in (".o", ".ci")]
+if not objects or objects != graphs:
+    sys.exit(f"{folder}: {len(objects)} objects, {len(graphs)} call graphs")
+frames, calls, half = {}, {}, {}
+for graph in graphs:
+    for line in graph.with_suffix(graph.suffix + ".ci").read_text().splitlines():
+        if node := NODE.match(line):
+            if node[3] == "dynamic":
+                sys.exit(f"{node[1]}: a frame without a bound")
+            frames[node[1]] = int(node[2])
+            half[node[1]] = "send" in graph.name
+        if (edge := EDGE.match(line)) and not (edge[2] == ANY and leaves_the_library(edge[3], edge[4])):
+            calls.setdefault(edge[1], set()).add(edge[2])
+
+
+def operation(name):
+    match = re.fullmatch(r"[a-z]\w*?" + OPERATION, name)
+    return match and match[1]
+
+
+def template(name):
+    return name.split(":")[-1].split("I")[0]
+
+
+# What is never called by its name is called through a pointer, and so may be all that is made from the same template.
+named = set().union(*calls.values())
+pointed = {template(f) for f in frames if f not in named and not operation(f)} | {"_ZN5kesto11send_single"}
+targets = {side: [f for f in frames if template(f) in pointed and half[f] == side] for side in (False, True)}
+
+
+@functools.cache
+def deepest(name, messages):
+    most = 0
+    for callee in calls.get(name, ()):
+        inner = targets[half[name]] if callee == ANY else [callee] if callee in frames else []
+        left = messages - (callee == ANY or bool(NESTED.match(callee)))
+        if left >= 0:
+            most = max([most] + [deepest(each, left) for each in inner])
+    return frames[name] + most
+
+
+found = {}
+for name in filter(operation, frames):
+    found[operation(name)] = max(found.get(operation(name), 0), deepest(name, nesting()))
+
+table = [[cell.strip() for cell in line.split("|")[1:-1]] for line in open("docs/integrating.md") if line.startswith("|")]
+place = next((row.index(column) for row in table if column in row), None)
+stated = {name: int(row[place].replace(",", "")) for row in table for name in re.findall(OPERATION, row[0])
+          if place is not None and len(row) > place and re.fullmatch(r"[\d,]+", row[place])}
+wrong = [f"{column}, {name}: {found[name]} bytes, stated {stated.get(name)}" for name in sorted(found)
+         if found[name] > stated.get(name, 0)]
+print("\n".join(wrong) or f"{column}, bytes at most: {found}")
+sys.exit(bool(wrong) or len(found) < 9)
