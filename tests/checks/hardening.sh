@@ -23,7 +23,8 @@ require "stack protector" __stack_chk_fail "$symbols"
 of_codecs=""
 if [[ $library = */libifit_codec.so* ]]; then
     require "flag that keeps it mapped" NODELETE "$dynamic"
-    of_codecs=", kept mapped, no string instructions"
+    of_codecs=", kept mapped"
+    [ "$objdump" = none ] || of_codecs+=", no string instructions"
 fi
 if grep -q TEXTREL <<<"$dynamic"; then
     echo "$library: relocations in its code"
