@@ -96,6 +96,7 @@ private:
     bool read_body_count(const Table& table, u32 offset, u32& body, u32& count);
     bool body_fits(const Table& table, u32 body, u64 payload);
     bool allocate(const Routine& routine, u32 size, i32& block);
+    void release(const Message& message, Record& record);
 
     bool refuse(const Routine& routine, Refusal refusal, u32 position, u64 value, u64 limit);
     void log(const Routine& routine, Format format, u32 first, u32 second, u32 third = 0);
@@ -146,19 +147,27 @@ void Decoder::log(const Routine& routine, Format format, u32 first, u32 second, 
 bool Decoder::allocate(const Routine& routine, u32 size, i32& block)
 {
     const u32 number = outcome_.allocations++;
+    outcome_.memory += size;
     Event event;
     event.act = Act::allocate;
     event.routine = routine;
     event.size = size;
     event.block = static_cast<i32>(number);
     event.failed = options_.faults.refuses(number, size);
-    outcome_.trace.push_back(event);
+    if (options_.contents)
+        outcome_.trace.push_back(event);
     if (event.failed) {
         log(routine, Format::allocation, size, 0);
         return refuse(routine, Refusal::allocation, 0, size, 0);
     }
     block = event.block;
     return true;
+}
+
+void Decoder::release(const Message& message, Record& record)
+{
+    if (message.owns_heap && options_.contents)
+        release_parts(message, &record, outcome_.trace);
 }
 
 bool Decoder::parameters(const Routine& routine)
@@ -205,6 +214,7 @@ void Decoder::run(const Message& message)
     outcome_.ignored = {};
     outcome_.trace.clear();
     outcome_.allocations = 0;
+    outcome_.memory = 0;
     outcome_.record_size = message.layout(options_.pointer_width).size;
 
     Table table;
@@ -217,9 +227,8 @@ void Decoder::run(const Message& message)
 
     outcome_.untouched = false;
     clear(outcome_.record, message);
-    if (!read_slots(table, outcome_.record) && message.owns_heap) {
-        release_parts(message, &outcome_.record, outcome_.trace);
-    }
+    if (!read_slots(table, outcome_.record))
+        release(message, outcome_.record);
 }
 
 // A nested record's decoder. Refusing the table is a plain stop; only a failure in the slots releases.
@@ -232,8 +241,7 @@ bool Decoder::read_non_root(const Message& message, u32 position, Record& record
         return false;
     if (read_slots(table, record))
         return true;
-    if (message.owns_heap)
-        release_parts(message, &record, outcome_.trace);
+    release(message, record);
     return false;
 }
 
@@ -396,7 +404,7 @@ bool Decoder::read_vector(const Table& table, const Slot& slot, u32 offset, Fiel
     if (read_elements(table, slot, body + 4, block, field))
         return true;
     // The count is not true of a short array, so the record's own free must not see the array.
-    if (block.is_short && !block.is_null) {
+    if (block.is_short && !block.is_null && options_.contents) {
         release_vector(*table.routine.message, slot, field, block.elements_inside, outcome_.trace);
     }
     return false;

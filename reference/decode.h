@@ -107,7 +107,7 @@ struct DecodeOptions {
     u32 pointer_width = host_pointer_width;   // gives the size of an element's record
     AllocationFaults faults;
     bool record_null = false;
-    bool contents = true;   // false: record and releases are of no use, and stay small whatever the bytes ask for
+    bool contents = true;   // false: no record of use, and a trace of logs only, which stay small whatever is asked for
     Walk* walk = nullptr;
 };
 
@@ -118,6 +118,7 @@ struct Outcome {
     Failure ignored;          // the last failure of a nested record whose outcome is ignored
     Trace trace;
     u32 allocations = 0;   // asked for
+    u64 memory = 0;        // in all of them
     u32 record_size = 0;   // returned in every case
 };
 

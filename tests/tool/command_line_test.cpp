@@ -3,16 +3,20 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <nlohmann/json.hpp>
 #include <string>
 
 #include "tests/support/capture_file.h"
 #include "tests/support/command.h"
+#include "tools/kesto/input.h"
 
 namespace {
 
+using kesto::tests::Bytes;
 using kesto::tests::CommandResult;
 
 CommandResult kesto(const std::string& arguments, const std::string& before = "")
@@ -66,7 +70,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
          "\"written_for\": [\n    \"ifit_dfx_query_glbdata_item"},
         {"explain --raw --json --hex 00", 1, "\"root_table\": false"},
         {"decode" + named + " --hex 0a0000000600", 1, "refused: table_position"},
-        {"decode" + named + " --memory 5 --hex " + hello, 2, "6 bytes"},
+        {"decode" + named + " --memory 5 --hex " + hello, 2, "more than 5 bytes of memory"},
         {"explain" + named + " --hex 0a0", 2, "'0a0' is no hex text"},
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
@@ -124,6 +128,25 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
 }
 
+// What would steer a terminal or turn a line around, with its first character as it is shown.
+struct Hostile {
+    std::string text, shown;
+    std::string in_json;   // as a JSON text holds it
+};
+
+const Hostile hostile[] = {
+    {"\x1b]0;x\x07\x1b[2J", "\\x1b", R"(\u001b]0;x\u0007\u001b[2J)"},
+    {"\xc2\x9b\x32J\x7f", "\\u009b", "\xc2\x9b\x32J\x7f"},
+    {"\xe2\x80\xae\xe2\x81\xa6\xd8\x9c", "\\u202e", "\xe2\x80\xae\xe2\x81\xa6\xd8\x9c"},
+};
+const std::string not_utf8 = "\x9b\xe2\x80";
+
+// The hostile texts leave nothing behind that is harmless, but for ASCII.
+bool is_harmless(const std::string& output)
+{
+    return std::all_of(output.begin(), output.end(), [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); });
+}
+
 class Files : public testing::Test {
 protected:
     Files() : folder_(std::filesystem::temp_directory_path() / ("kesto_test." + std::to_string(getpid())))
@@ -158,9 +181,65 @@ TEST_F(Files, diff_compares_records_and_not_bytes)
     EXPECT_EQ(kesto(diff + "/dev/null").exit_code, 2);
 }
 
-#if KESTO_CAN_CAPTURE
+TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
+{
+    const std::string named = std::string(" ") + item + " ";
+    const auto check = [&](const std::string& arguments, const std::string& input, const std::string& says) {
+        kesto::tests::write_file(path("input"), {input.begin(), input.end()});
+        const CommandResult result = kesto(arguments, "<'" + path("input") + "'");
+        EXPECT_TRUE(is_harmless(result.output)) << arguments << "\n" << result.output;
+        EXPECT_NE(result.output.find(says), std::string::npos) << arguments << "\n" << result.output;
+    };
+    std::vector<Hostile> all(std::begin(hostile), std::end(hostile));
+    all.push_back({not_utf8, "\\x9b", ""});
+    for (const auto& [text, shown, in_json] : all) {
+        const std::string quoted = "'" + text + "'", nowhere = "'/nowhere/" + text + "'";
+        for (const std::string& arguments :
+             {"list mesh " + quoted, "list --" + quoted, "explain " + quoted, "explain" + named + nowhere,
+              "explain" + named + "--color " + quoted, "explain" + named + "--hex " + quoted,
+              "explain" + named + "--html " + nowhere + " --hex " + hello, "explain --raw " + nowhere,
+              "explain --pcap " + nowhere, "explain --pcap x --message " + quoted, "decode " + quoted,
+              "decode" + named + "--memory " + quoted, "decode" + named + "--input-format hex",
+              "diff" + named + nowhere + " " + nowhere, "encode " + quoted, "encode" + named + "-o " + nowhere,
+              "size" + named + nowhere, "size " + quoted, "show " + quoted})
+            check(arguments, arguments.starts_with("encode") ? "{}" : "00 " + text, shown);
+        check("encode" + named, text, "no JSON");
+        check("encode" + named, "{\"" + text + "\":1}", in_json == text ? shown : "no JSON");
+        if (in_json.empty())
+            continue;
+        check("encode" + named, "{\"" + in_json + "\":1}", shown);
+        check("encode" + named, "{\"" + in_json + "\":1,\"" + in_json + "\":1}", shown);
+        check("encode" + named, "{\"f0\":{\"hex\":\"" + in_json + "\"}}", shown);
+        check("encode ifit_dfx_query_queryhash_item_mesh", "{\"f7\":\"" + in_json + "\"}", shown);
+        check("size ifit_mcp_mesh -", "{\"f0\":\"" + in_json + "\"}", "\\u");
+    }
+}
 
-using kesto::tests::Bytes;
+TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
+{
+    const std::string named = std::string(" ") + item + " ", a = path("a"), b = path("b");
+    kesto::tests::write_file(b, kesto::command::bytes_from_hex(hello));
+    for (const std::string& text : {hostile[0].text, hostile[1].text, hostile[2].text, not_utf8}) {
+        Bytes bytes = kesto::command::bytes_from_hex("0a000000 06001200 0400 06000000 04000000");
+        kesto::reference::append(bytes, text.size(), 4);
+        bytes.insert(bytes.end(), text.begin(), text.end());
+        bytes.push_back(0);
+        kesto::tests::write_file(a, bytes);
+        for (const std::string& arguments :
+             {"explain" + named + a, "explain --json" + named + a, "explain --raw " + a, "explain --raw --json " + a,
+              "decode" + named + a, "decode --line" + named + a, "diff" + named + a + " " + b,
+              "diff --json" + named + b + " " + a}) {
+            const CommandResult result = kesto(arguments);
+            EXPECT_TRUE(is_harmless(result.output)) << arguments << "\n" << result.output;
+            EXPECT_EQ(result.exit_code, arguments.starts_with("diff") ? 1 : 0) << arguments << "\n" << result.output;
+        }
+        if (text == not_utf8)
+            continue;
+        EXPECT_EQ(nlohmann::json::parse(kesto("decode" + named + a).output).at("f0"), text);
+    }
+}
+
+#if KESTO_CAN_CAPTURE
 
 std::size_t count_of(const std::string& text, const std::string& part)
 {
@@ -205,7 +284,8 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
         {"decode --pcap " + file, 1, 6, "\"refused\":{\"code\":\"body_end\",\"path\":\".f0\",\"position\":18,"},
         {"decode --pcap - <" + file, 1, 6, "\"fault\":\"short_packet\""},
         {"decode --pcap " + file + " --message " + item, 1, 4, "\"packet\":3,"},
-        {"decode --pcap " + file + " --memory 5 --message 0x91cd149e", 2, 4, "\"error\":\"decoding takes 6 bytes"},
+        {"decode --pcap " + file + " --memory 5 --message 0x91cd149e", 2, 4,
+         "\"error\":\"decoding takes more than 5 bytes"},
         {"decode --pcap " + file + " --message ifit_mcp_mesh", 1, 1, "no such packet among 6"},
         {"decode --pcap " + file + " --packet 7", 1, 1, "no such packet among 6"},
         {"decode --pcap " + file + " --message ifit_mpc_mesh", 2, 0, "ifit_mcp_mesh"},
@@ -224,6 +304,52 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
         EXPECT_TRUE(each.lines == 0 || count_of(result.output, "\n") == each.lines) << each.arguments << "\n"
                                                                                     << result.output;
     }
+}
+
+// Packets of the same text, all as far in the future as a capture can say, or in no year at all.
+Bytes capture_of_odd_times()
+{
+    const Bytes packet = kesto::tests::packet_of(0x91cd149e, kesto::command::bytes_from_hex(hello)).bytes;
+    Bytes capture = kesto::command::bytes_from_hex(
+        "0a0d0d0a 1c000000 4d3c2b1a 0100 0000 ffffffffffffffff 1c000000"                // section
+        "01000000 20000000 9300 0000 00000400 0900 0100 00000000 00000000 20000000");   // USER0, in whole seconds
+    for (const std::uint64_t seconds : {std::uint64_t{1} << 62, std::uint64_t{1} << 40, std::uint64_t{5}}) {
+        const std::size_t padded = (packet.size() + 3) / 4 * 4;
+        for (const std::size_t word : {std::size_t{6}, 32 + padded, std::size_t{0}, std::size_t{seconds >> 32},
+                                       std::size_t{seconds & 0xffffffff}, packet.size(), packet.size()})
+            kesto::reference::append(capture, word, 4);
+        capture.insert(capture.end(), packet.begin(), packet.end());
+        capture.resize(capture.size() + padded - packet.size());
+        kesto::reference::append(capture, 32 + padded, 4);
+    }
+    return capture;
+}
+
+TEST_F(Files, packets_of_odd_times_are_shown_with_the_numbers)
+{
+    const std::string file = path("capture"), classic = path("classic");
+    kesto::tests::write_file(file, capture_of_odd_times());
+    const CommandResult decoded = kesto("decode --pcap " + file), explained = kesto("explain --pcap " + file);
+    for (const char* time : {"4611686018427387904 s and 0 us since 1970", "1099511627776 s and 0 us since 1970",
+                             "1970-01-01T00:00:05.000000Z"}) {
+        EXPECT_NE(decoded.output.find(std::string("\"time\":\"") + time + '"'), std::string::npos) << decoded.output;
+        EXPECT_NE(explained.output.find(time), std::string::npos) << explained.output;
+    }
+    EXPECT_EQ(decoded.exit_code, 0);
+    Bytes odd = capture_of_six();
+    odd[24 + 7] = 0x40;   // of the microseconds, which were 250
+    kesto::tests::write_file(classic, odd);
+    EXPECT_NE(
+        kesto("decode --pcap " + classic + " --packet 1").output.find("1700000000 s and 1073742074 us since 1970"),
+        std::string::npos);
+}
+
+TEST_F(Files, a_fault_in_showing_a_packet_names_the_packet)
+{
+    const std::string file = path("capture");
+    kesto::tests::write_file(file, capture_of_six());
+    EXPECT_EQ(kesto("decode --pcap " + file + " --packet 6 2>&1 >/dev/full | cat").output,
+              "kesto: " + file + ": packet 6: -: cannot be written: No space left on device\n");
 }
 
 #endif

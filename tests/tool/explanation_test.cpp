@@ -11,6 +11,7 @@
 #include "tests/support/services_double.h"
 #include "tools/kesto/explain.h"
 #include "tools/kesto/input.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::tests {
 
@@ -112,6 +113,7 @@ TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
                 end += range.length;
             }
             ASSERT_EQ(end, bytes.size());
+            ASSERT_LE(explanation.bytes_read, bytes.size());   // or tries of other messages would end too early
             for (const command::Note& note : explanation.notes)
                 ASSERT_STREQ(note.code, "text_not_utf8") << note.text << " in " << hex(bytes);
             // A fixed form can be as long as the compact form, but never be the same.
@@ -258,9 +260,19 @@ TEST(Notes, tell_what_passes_without_a_word)
 
 TEST(Texts, cannot_steer_a_terminal)
 {
-    const std::string text = "a\x1b[2J\x7f\"\xc2\x9b\xc3\xa9";
-    EXPECT_EQ(command::quoted(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()),
-              "\"a\\x1b[2J\\x7f\\\"\\u009b\xc3\xa9\"");
+    const struct {
+        std::string text, shown;
+    } cases[] = {
+        {"a\x1b[2J\x1f\n\x7f\"\\", R"(a\x1b[2J\x1f\x0a\x7f\"\\)"},
+        {"\xc2\x80\xc2\x9f\xc2\xa0", "\\u0080\\u009f\xc2\xa0"},
+        {"\xd8\x9b\xd8\x9c\xd8\x9d", "\xd8\x9b\\u061c\xd8\x9d"},
+        {"\xe2\x80\x8d\xe2\x80\x8e\xe2\x80\x8f\xe2\x80\x90", "\xe2\x80\x8d\\u200e\\u200f\xe2\x80\x90"},
+        {"\xe2\x80\xa9\xe2\x80\xaa\xe2\x80\xae\xe2\x80\xaf", "\xe2\x80\xa9\\u202a\\u202e\xe2\x80\xaf"},
+        {"\xe2\x81\xa5\xe2\x81\xa6\xe2\x81\xa9\xe2\x81\xaa", "\xe2\x81\xa5\\u2066\\u2069\xe2\x81\xaa"},
+        {"\xc3\xa9\xf0\x9f\x98\x80\xff\xe2\x80", "\xc3\xa9\xf0\x9f\x98\x80\\xff\\xe2\\x80"},
+    };
+    for (const auto& [text, shown] : cases)
+        EXPECT_EQ(command::quoted(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), '"' + shown + '"');
 }
 
 // X__pack counts 8 bytes for a block of length 0 behind a pointer and does not write them.

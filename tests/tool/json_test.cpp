@@ -82,6 +82,7 @@ TEST(JsonText, that_is_wrong_is_refused_with_the_place)
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"0x1"})", ".f7: "},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: \"f1\" stands twice"},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: no JSON"},
+        {"ifit_dfx_query_queryhash_item_mesh", "[[[[[[[[[[[[[[[[[[[[", "text: nested deeper"},
     };
     for (const auto& wrong : cases) {
         try {

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "tools/kesto/quoting.h"
+
 namespace kesto::command {
 
 namespace {
@@ -13,6 +15,31 @@ using reference::Piece;
 
 static_assert(static_cast<int>(Part::element_cell) == static_cast<int>(Piece::element_cell));
 
+bool is_head(const Item& item)
+{
+    return item.piece == Piece::vtable_offset || item.piece == Piece::vtable_length ||
+           item.piece == Piece::table_length;
+}
+
+// A record of its own, and not a part of the one around it.
+bool begins_record(const Item& item)
+{
+    const u32 depth = item.path->length;
+    return item.piece == Piece::vtable_offset && (depth == 0 || item.path->steps[depth - 1].element >= 0);
+}
+
+// As the reference holds it, with all that stands in it from the start.
+u64 record_size(const Message& message)
+{
+    u64 size = sizeof(Record);
+    for (const Slot& slot : message.slots) {
+        size += sizeof(reference::Field) + u64{slot.width} * slot.count;
+        if (slot.kind == Kind::table)
+            size += record_size(*slot.nested);
+    }
+    return size;
+}
+
 const Slot& slot_of(const Item& item) { return item.message->slots[item.path->steps[item.path->length - 1].slot]; }
 
 }   // namespace
@@ -20,23 +47,27 @@ const Slot& slot_of(const Item& item) { return item.message->slots[item.path->st
 bool Collector::is_inside_known_table(const Item& item)
 {
     const u32 depth = item.path->length;
-    const bool head = item.piece == Piece::vtable_length || item.piece == Piece::table_length;
-    if (depth > known_depth_ || (depth == known_depth_ && head))
+    if (depth > known_depth_ || (depth == known_depth_ && is_head(item) && item.piece != Piece::vtable_offset))
         return true;
     known_depth_ = 0xffffffffU;
     return false;
 }
 
-// The table, which may have been there before.
-Collector::Table& Collector::enter(const Item& item)
+// False for a table beyond those that are kept. One that was there before is shown up to its first word.
+bool Collector::enter(const Item& item)
 {
     const u64 key = u64{item.message->index} << 32 | item.position;
-    const auto [found, is_new] = known_.emplace(key, tables_.size());
-    if (!is_new) {
+    const auto found = known_.find(key);
+    is_left_out_ = found == known_.end() && tables_.size() >= options_.most_ranges;
+    if (is_left_out_ || found != known_.end())
         known_depth_ = item.path->length;
+    if (is_left_out_)
+        return false;
+    if (found != known_.end()) {
         ++tables_[found->second].reads;
-        return tables_[found->second];
+        return true;
     }
+    known_.emplace(key, tables_.size());
     open_[item.path->length] = tables_.size();
     Table& table = tables_.emplace_back();
     table.position = item.position;
@@ -44,27 +75,43 @@ Collector::Table& Collector::enter(const Item& item)
     table.end = item.position + 4;
     table.message = item.message;
     table.path = *item.path;
-    return table;
+    return true;
 }
 
-Collector::Table& Collector::table_of(const Item& item)
+void Collector::count(const Item& item)
 {
-    if (item.piece == Piece::vtable_offset)
-        return enter(item);
-    const bool head = item.piece == Piece::vtable_length || item.piece == Piece::table_length;
-    return tables_[open_[item.path->length - (head ? 0 : 1)]];
+    explanation_.bytes_read += item.length;
+    if (item.piece == Piece::payload)
+        explanation_.record_memory += u64{4} * item.length;   // printing them takes more than printing a field
+    if (begins_record(item)) {
+        if (sized_ != item.message)
+            size_ = record_size(*item.message);
+        sized_ = item.message;
+        explanation_.record_memory += size_;
+    }
+    if (explanation_.bytes_read > options_.most_read || explanation_.record_memory > options_.most_record)
+        throw GivenUp();
 }
 
 void Collector::read(const Item& item)
 {
-    last_ = {static_cast<Part>(item.piece), item.position, item.length, item.value, 0, item.message, *item.path};
-    if (is_inside_known_table(item))
+    const bool is_root = item.piece == Piece::root;
+    const u32 depth = item.path->length - (is_root || is_head(item) ? 0 : 1);
+    if (item.piece == Piece::vtable_offset)
+        positions_[depth] = item.position;
+    const u32 table = is_root ? 0 : positions_[depth];
+    last_ = {static_cast<Part>(item.piece), item.position, item.length, item.value, table, item.message, *item.path};
+    count(item);
+    if (is_inside_known_table(item)) {
+        explanation_.left_out += is_left_out_ ? 1 : 0;
         return;
-    if (item.piece != Piece::root) {
-        Table& table = table_of(item);
-        last_.table = table.position;
-        note_item(item, table);
     }
+    if (item.piece == Piece::vtable_offset && !enter(item)) {
+        ++explanation_.left_out;
+        return;
+    }
+    if (!is_root && item.piece != Piece::vtable_offset)
+        note_item(item, tables_[open_[depth]]);
     add(last_);
 }
 

@@ -10,6 +10,9 @@ namespace kesto::command {
 
 // A table that is read again, by another cell, is not followed again: what a few bytes ask the decoder to read a
 // million times would be listed as often.
+// Thrown where a byte string asks for more than the options allow.
+struct GivenUp {};
+
 class Collector final : public reference::Walk {
 public:
     Collector(Explanation& explanation, Notes& notes, const ExplainOptions& options)
@@ -33,23 +36,27 @@ private:
         u32 reads = 1;
     };
 
+    void count(const reference::Item& item);
     bool is_inside_known_table(const reference::Item& item);
-    Table& enter(const reference::Item& item);
+    bool enter(const reference::Item& item);
     void note_item(const reference::Item& item, Table& table);
     void note_vtable(Table& table);
     void note_text(const reference::Item& item, Table& table);
     void note_table(const Table& table);
     void add(const Range& range);
-    Table& table_of(const reference::Item& item);
     std::string path_text(const reference::Path& path) const { return command::path_text(*explanation_.message, path); }
 
     Explanation& explanation_;
     Notes& notes_;
     const ExplainOptions& options_;
     std::vector<Table> tables_;
-    std::unordered_map<u64, std::size_t> known_;   // by message and position
-    std::array<std::size_t, reference::greatest_depth + 2> open_{};
-    u32 known_depth_ = 0xffffffffU;   // of the table that is read again
+    std::unordered_map<u64, std::size_t> known_;                      // by message and position
+    std::array<std::size_t, reference::greatest_depth + 2> open_{};   // numbers of tables by depth
+    std::array<u32, reference::greatest_depth + 2> positions_{};      // of the same
+    u32 known_depth_ = 0xffffffffU;                                   // of the table that is read again, or is not kept
+    bool is_left_out_ = false;                                        // that table
+    const Message* sized_ = nullptr;
+    u64 size_ = 0;   // of its record
     Range last_;
 };
 

@@ -8,6 +8,7 @@
 
 #include "reference/encode.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -20,8 +21,8 @@ void warn_of_cut_text(const Record& record)
         const reference::Field& field = record.fields[k];
         const bool is_text = record.message->slots[k].kind == Kind::string;
         if (is_text && reference::text_length(field.octets) != field.octets.size())
-            fmt::print(stderr, "kesto: {} of {} holds a NUL; text ends there\n", field_name(*record.message, k),
-                       record.message->name);
+            complain(fmt::format("{} of {} holds a NUL; text ends there", field_name(*record.message, k),
+                                 record.message->name));
         std::for_each(field.records.begin(), field.records.end(), warn_of_cut_text);
     }
 }
@@ -34,7 +35,7 @@ const Message& message_named(const std::string& name)
         return *found;
     const std::vector<std::string> similar = suggestions(name);
     const std::string hint = similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", "));
-    throw Fault(fmt::format("no message '{}'{}\n`kesto list` shows all, `kesto list PART` those whose name holds PART",
+    throw Fault(fmt::format("no message '{}'{}; `kesto list` shows all, `kesto list PART` those whose name holds PART",
                             name, hint));
 }
 
@@ -42,7 +43,7 @@ Explanation explain_fully(const Message& message, std::span<const u8> bytes, con
 {
     Explanation explanation = explain(message, bytes, options);
     if (explanation.refused || explanation.origin == Origin::other)
-        explanation.written_for = fitting_messages(bytes).written_so;
+        explanation.written_for = fitting_messages(bytes, bytes.size()).written_so;   // no writer leaves shared bytes
     return explanation;
 }
 
@@ -54,22 +55,25 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
         write_bytes(choices.html, page.data(), page.size());
     }
     if (choices.json)
-        print(explanation_json(explanation).dump(2) + "\n");
+        print(json_text(explanation_json(explanation), 2) + "\n");
     else if (choices.html.empty())
         print(explanation_text(explanation, {colours_for(choices.colour), choices.whole}));
     return explanation.refused ? refused : accepted;
 }
 
-Explanation explain_verdict(const Message& message, std::span<const u8> bytes)
+Explanation explain_verdict(const Message& message, std::span<const u8> bytes, u64 most_memory)
 {
-    return explain(message, bytes, {.most_ranges = 0, .most_memory = 0});
+    constexpr u64 json_factor = 4;   // record, JSON and its text together, in records
+    return explain(message, bytes, {.most_ranges = 0, .most_memory = 0, .most_record = most_memory / json_factor});
 }
 
-Record record_of(const Explanation& accepted, u64 most_memory)
+std::string given_up_text(u64 most_memory)
 {
-    if (accepted.memory > most_memory)
-        throw Fault(fmt::format("decoding takes {} of memory, allowed are {}; --memory allows more",
-                                counted(accepted.memory, "byte"), most_memory));
+    return fmt::format("decoding takes more than {} of memory; --memory allows more", counted(most_memory, "byte"));
+}
+
+Record record_of(const Explanation& accepted)
+{
     reference::Outcome outcome;
     reference::decode(*accepted.message, accepted.bytes.data(), static_cast<u32>(accepted.bytes.size()), {}, outcome);
     return outcome.record;
@@ -78,12 +82,15 @@ Record record_of(const Explanation& accepted, u64 most_memory)
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
                               const std::string& where)
 {
-    const Explanation explanation = explain_verdict(message, bytes);
+    const Explanation explanation = explain_verdict(message, bytes, most_memory);
+    const std::string before = where.empty() ? "" : where + ": ";
+    if (explanation.given_up)
+        throw Fault(before + given_up_text(most_memory));
     if (explanation.refused) {
-        fmt::print(stderr, "{}{}", where.empty() ? "" : where + ": ", refused_text(explanation, {}));
+        fmt::print(stderr, "{}{}", visible(before), refused_text(explanation, {}));
         return {};
     }
-    return record_of(explanation, most_memory);
+    return record_of(explanation);
 }
 
 int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices)
@@ -91,7 +98,7 @@ int decode_bytes(const Message& message, std::span<const u8> bytes, const Decode
     const std::optional<Record> record = decoded(message, bytes, choices.most_memory, "");
     if (!record)
         return refused;
-    print(record_json(*record).dump(choices.compact_json ? -1 : 2) + "\n");
+    print(json_text(record_json(*record), choices.compact_json ? -1 : 2) + "\n");
     return accepted;
 }
 

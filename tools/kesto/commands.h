@@ -25,17 +25,21 @@ Explanation explain_fully(const Message& message, std::span<const u8> bytes, con
 // Without a message: what the bytes themselves tell.
 int explain_raw(std::span<const u8> bytes, bool json);
 
-// The messages whose writers leave just these bytes, and all that accept them. None for more than 1 MiB.
+// The messages whose writers leave just these bytes, and all that accept them.
 struct Fitting {
     std::vector<std::string> written_so;
     std::vector<std::string> accepted;
+    u32 given_up = 0;     // messages that would read more than what was left to read
+    u64 bytes_read = 0;   // by all of them
 };
 
-Fitting fitting_messages(std::span<const u8> bytes);
+// Each message may read so many bytes, those that are read again counted again. A byte string of more than 1 MiB fits
+// none.
+Fitting fitting_messages(std::span<const u8> bytes, u64 most_read_by_each);
 
 struct DecodeChoices {
-    u64 most_memory = 16 << 20;   // of a record; its JSON takes many times that
-    bool compact_json = false;    // in one line
+    u64 most_memory = 256 << 20;   // of the record and its JSON
+    bool compact_json = false;     // in one line
 };
 
 int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices);
@@ -68,15 +72,16 @@ int show_message(const Message& message, bool json);
 int show_sizes(const Message& message, bool json);
 int show_sizes(const Record& record, bool json);
 
-// What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record.
+// What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record. Throws a Fault
+// if record and JSON would take more memory.
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
                               const std::string& where);
 
-// Accepted or refused, and the memory; no ranges.
-Explanation explain_verdict(const Message& message, std::span<const u8> bytes);
+// Accepted or refused, without ranges; given up where record and JSON would take more memory.
+Explanation explain_verdict(const Message& message, std::span<const u8> bytes, u64 most_memory);
+std::string given_up_text(u64 most_memory);
 
-// Throws a Fault if it takes more memory.
-Record record_of(const Explanation& accepted, u64 most_memory);
+Record record_of(const Explanation& accepted);
 
 // The bytes that X__pack writes or that are sent. Throws a Fault if the message has no fixed form.
 Bytes encoded(const Record& record, Form form);

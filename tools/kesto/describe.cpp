@@ -9,6 +9,7 @@
 #include "reference/encode.h"
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -125,7 +126,7 @@ std::string show_json(const Message& message)
                                  {"type", slot_type(message, k)},
                                  {"record_32", layout_json(message, k, 4)},
                                  {"record_64", layout_json(message, k, 8)}});
-    return json.dump(2) + "\n";
+    return json_text(json, 2) + "\n";
 }
 
 std::string fields_table(const Message& message)
@@ -162,7 +163,7 @@ int list_messages(const std::string& pattern, const ListChoices& choices)
                            lengths_text(message));
     }
     const bool any = !out.empty() || !json.empty();
-    print(choices.json ? json.dump(2) + "\n" : out);
+    print(choices.json ? json_text(json, 2) + "\n" : out);
     return any ? accepted : refused;
 }
 
@@ -200,7 +201,7 @@ int show_message(const Message& message, bool json)
 
 int show_sizes(const Message& message, bool json)
 {
-    print(json ? message_json(message).dump(2) + "\n" : message.name + ": " + lengths_text(message) + "\n");
+    print(json ? json_text(message_json(message), 2) + "\n" : message.name + ": " + lengths_text(message) + "\n");
     return accepted;
 }
 
@@ -209,11 +210,10 @@ int show_sizes(const Record& record, bool json)
     const u32 fixed = record.message->fixed_length;
     const u64 compact = reference::exact_size(record);
     if (json) {
-        print(ordered_json{{"message", record.message->name},
-                           {"compact", compact},
-                           {"fixed", fixed == 0 ? ordered_json(nullptr) : ordered_json(fixed)}}
-                  .dump(2) +
-              "\n");
+        const ordered_json sizes = {{"message", record.message->name},
+                                    {"compact", compact},
+                                    {"fixed", fixed == 0 ? ordered_json(nullptr) : ordered_json(fixed)}};
+        print(json_text(sizes, 2) + "\n");
         return accepted;
     }
     print(fmt::format("compact form: {}\n{}\n", counted(compact, "byte"),

@@ -4,6 +4,7 @@
 
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -48,13 +49,13 @@ int compare(const Record& left, const Record& right, const DiffChoices& choices)
         ordered_json all = ordered_json::array();
         for (const Difference& each : found)
             all.push_back({{"path", each.path}, {"a", each.left}, {"b", each.right}});
-        out = all.dump(2) + "\n";
+        out = json_text(all, 2) + "\n";
     }
     const Colours colours = colours_for(choices.colour);
     for (const Difference& each : found)
         if (!choices.json)
-            out += fmt::format("{}: {}  {}\n", colours.name(each.path), colours.bad(each.left.dump()),
-                               colours.good(each.right.dump()));
+            out += fmt::format("{}: {}  {}\n", colours.name(each.path), colours.bad(json_text(each.left, -1)),
+                               colours.good(json_text(each.right, -1)));
     print(out);
     return found.empty() ? accepted : refused;
 }

@@ -129,6 +129,14 @@ private:
 
 // ---- which writer ----
 
+// Memory of the greatest record that a writer puts into so many bytes: each field has two bytes in a vtable of its own,
+// each table eight besides.
+u64 most_of_written(std::size_t length)
+{
+    static_assert(sizeof(reference::Field) / 2 + sizeof(Record) / 8 <= 64);
+    return u64{64} * length;
+}
+
 bool holds_block(const Message& message)
 {
     return std::any_of(message.slots.begin(), message.slots.end(), [](const Slot& slot) {
@@ -177,21 +185,26 @@ Explanation explain(const Message& message, std::span<const u8> bytes, const Exp
     decoding.walk = &collector;
     reference::Outcome outcome;
     static constexpr u8 nothing = 0;   // an empty byte string is too short, not a null pointer
-    reference::decode(message, bytes.empty() ? &nothing : bytes.data(), static_cast<u32>(bytes.size()), decoding,
-                      outcome);
-
+    try {
+        reference::decode(message, bytes.empty() ? &nothing : bytes.data(), static_cast<u32>(bytes.size()), decoding,
+                          outcome);
+    } catch (const GivenUp&) {
+        explanation.given_up = true;
+        return explanation;
+    }
     explanation.refused = refused_with_log(outcome.failure, outcome.trace);
     explanation.ignored = refused_with_log(outcome.ignored, outcome.trace);
     explanation.allocations = outcome.allocations;
-    for (const reference::Event& event : outcome.trace)
-        explanation.memory += event.act == reference::Act::allocate ? event.size : 0;
+    explanation.memory = outcome.memory;
     collector.finish();
     merge_equal(explanation.ranges);
     note_sharing(explanation, notes);
     Gaps(explanation, notes).fill();
     if (explanation.refused)
         note_packet_head(explanation, notes);
-    if (!explanation.refused && explanation.memory <= options.most_memory)
+    if (!explanation.refused && explanation.record_memory > most_of_written(bytes.size()))
+        explanation.origin = Origin::other;
+    else if (!explanation.refused && explanation.record_memory <= options.most_memory)
         explanation.origin = origin_of(message, bytes);
     explanation.notes = notes.all();
     return explanation;

@@ -1,6 +1,7 @@
 // What a decoder makes of a byte string, as data: every byte's meaning, the verdict, and what passes without a word.
 #pragma once
 
+#include <limits>
 #include <optional>
 #include <span>
 
@@ -71,14 +72,21 @@ struct Explanation {
     std::vector<Note> notes;
     u64 memory = 0;   // what the decoder asks for, in all
     u32 allocations = 0;
+    u64 bytes_read = 0;      // those that are read again counted again
+    u64 record_memory = 0;   // what the reference's record takes here; texts and blocks counted four times
+    bool given_up = false;   // for the limits of the options; there is no verdict then
     Origin origin = Origin::unknown;
     std::vector<std::string> written_for;   // other messages whose writers leave just these bytes, if somebody looked
 };
 
 struct ExplainOptions {
     u32 pointer_width = reference::host_pointer_width;
-    std::size_t most_ranges = 100000;
-    u64 most_memory = 16 << 20;   // for the comparison with what the writers write
+    std::size_t most_ranges = 50000;   // and as many tables
+    u64 most_memory = 64 << 20;        // of a record that is compared with what the writers write
+    u64 most_read = unlimited;         // bytes, those that are read again counted again
+    u64 most_record = unlimited;       // memory of a record, compared or not
+
+    static constexpr u64 unlimited = std::numeric_limits<u64>::max();
 };
 
 // `bytes` has to outlive the explanation.
@@ -97,9 +105,5 @@ std::string place_text(const Note& note);   // " at 18, .f0", or empty
 
 // "1 byte", "2 bytes".
 std::string counted(u64 count, const char* thing);
-
-// As in C source: quoted, with escapes for what a terminal would not show.
-std::string quoted(const u8* text, std::size_t length);
-bool is_utf8(const u8* text, std::size_t length);
 
 }   // namespace kesto::command

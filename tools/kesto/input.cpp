@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::size_t most_bytes = 256 << 20;
 constexpr std::string_view separators = " \t\r\n,;:(){}[]";
+constexpr std::string_view word_ends = " \t\r\n,;:(){}[]\\";
 
 struct Close {
     void operator()(std::FILE* file) const { std::fclose(file); }
@@ -56,8 +57,8 @@ Bytes bytes_from_hex(std::string_view text)
         if (start == std::string_view::npos)
             return bytes;
         text.remove_prefix(start);
-        // "\x04\x00" is two words.
-        const std::size_t end = std::min({text.find_first_of(separators), text.find('\\', 1), text.size()});
+        // "\x04\x00" is two words. Nothing behind a word's end may be looked at for it: there may be millions of words.
+        const std::size_t end = std::min(text.find_first_of(word_ends, 1), text.size());
         append_word(bytes, text.substr(0, end));
         text.remove_prefix(end);
     }

@@ -8,6 +8,7 @@
 #include <set>
 
 #include "tools/kesto/explanation.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -15,6 +16,8 @@ namespace {
 
 using nlohmann::ordered_json;
 using reference::Field;
+
+constexpr int most_depth = 2 * reference::greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
 
 // ---- to JSON ----
 
@@ -71,7 +74,7 @@ u64 number_from(const ordered_json& json, u32 width, const std::string& path)
             refuse(path, fmt::format("\"{}\" is no number from 0 to {}", digits, most));
     } else {
         refuse(path, fmt::format("{} stands where a number from 0 to {} is needed",
-                                 json.is_structured() ? json.type_name() : json.dump(), most));
+                                 json.is_structured() ? json.type_name() : json_text(json, -1), most));
     }
     if (number > most)
         refuse(path, fmt::format("{} does not fit u{}, which ends at {}", number, 8 * width, most));
@@ -188,7 +191,9 @@ Record record_from_json(const Message& message, const ordered_json& json)
 ordered_json parse_json(const std::string& text, const std::string& where)
 {
     std::vector<std::set<std::string>> names;
-    const auto watch = [&](int, ordered_json::parse_event_t event, ordered_json& parsed) {
+    const auto watch = [&](int depth, ordered_json::parse_event_t event, ordered_json& parsed) {
+        if (depth > most_depth)
+            throw Fault(fmt::format("{}: nested deeper than any record", where));
         if (event == ordered_json::parse_event_t::object_start)
             names.emplace_back();
         else if (event == ordered_json::parse_event_t::object_end)

@@ -1,7 +1,5 @@
 // kesto: explains, decodes, encodes and compares byte strings of the catalogue's messages.
 
-#include <fmt/format.h>
-
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <nlohmann/json.hpp>
@@ -9,6 +7,7 @@
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
 #include "tools/kesto/packets.h"
+#include "tools/kesto/quoting.h"
 
 namespace {
 
@@ -46,7 +45,7 @@ void add_format(CLI::App& app, InputFormat& format)
 
 void add_memory(CLI::App& app, u64& most)
 {
-    app.add_option("--memory", most, "do not decode what takes more bytes of memory (16 MiB)")->type_name("BYTES");
+    app.add_option("--memory", most, "do not decode what takes kesto more memory (256 MiB)")->type_name("BYTES");
 }
 
 // What `explain` and `decode` read: one byte string, or the packets of a capture.
@@ -271,7 +270,6 @@ int run(int argc, char** argv)
     CLI::App app("Explains, decodes, encodes and compares KESTO byte strings.", "kesto");
     app.require_subcommand(1);
     app.set_version_flag("--version", KESTO_VERSION);
-    app.failure_message(CLI::FailureMessage::simple);
     Explain explain(app);
     Decode decode(app);
     Encode encode(app);
@@ -282,7 +280,10 @@ int run(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? 0 : unusable;
+        if (error.get_exit_code() == 0)
+            return app.exit(error);   // help and version
+        complain(error.what() + std::string("; --help tells more"));
+        return unusable;
     }
     const std::string& chosen = app.get_subcommands().front()->get_name();
     if (chosen == "explain")
@@ -306,10 +307,8 @@ int main(int argc, char** argv)
 {
     try {
         return run(argc, argv);
-    } catch (const Fault& fault) {
-        fmt::print(stderr, "kesto: {}\n", fault.what());
     } catch (const std::exception& error) {
-        fmt::print(stderr, "kesto: {}\n", error.what());
+        complain(error.what());
     }
     return unusable;
 }

@@ -9,6 +9,7 @@
 
 #include "tools/kesto/capture.h"
 #include "tools/kesto/json_record.h"
+#include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
 
 namespace kesto::command {
@@ -26,10 +27,15 @@ struct Reading {
 
 // ---- what a packet is ----
 
+// As numbers where they are no time of the years 0 to 9999.
 std::string time_text(const CapturedPacket& packet)
 {
-    return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:06}Z", fmt::gmtime(static_cast<std::time_t>(packet.seconds)),
-                       packet.microseconds);
+    const std::time_t seconds = packet.seconds;
+    std::tm time{};
+    if (packet.microseconds > 999999 || gmtime_r(&seconds, &time) == nullptr || time.tm_year < -1900 ||
+        time.tm_year > 9999 - 1900)
+        return fmt::format("{} s and {} us since 1970", packet.seconds, packet.microseconds);
+    return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:06}Z", time, packet.microseconds);
 }
 
 std::string head_text(const CapturedPacket& packet)
@@ -79,7 +85,7 @@ std::string fault_line(const Reading& reading, const Colours& colours)
                        counted(reading.packet.bytes.size(), "byte"));
 }
 
-void print_line(const ordered_json& json) { print(json.dump() + "\n"); }
+void print_line(const ordered_json& json) { print(json_text(json, -1) + "\n"); }
 
 // ---- one after the other ----
 
@@ -105,6 +111,17 @@ bool is_wanted(const PacketChoices& which, const CapturedPacket& packet)
            (which.message == nullptr || packet.id == which.message->id);
 }
 
+// A fault in showing a packet names it.
+template <class Show>
+int show_named(const PacketChoices& which, Show show, const Reading& reading)
+{
+    try {
+        return show(reading);
+    } catch (const std::exception& error) {
+        throw Fault(fmt::format("{}: packet {}: {}", which.file, reading.packet.number, error.what()));
+    }
+}
+
 // show(reading) gives its result; the worst of them is that of all.
 template <class Show>
 int for_each_packet(const PacketChoices& which, Show show)
@@ -121,7 +138,7 @@ int for_each_packet(const PacketChoices& which, Show show)
     CapturedPacket packet;
     while (reader.next(packet, error)) {
         if (is_wanted(which, packet)) {
-            worst = std::max(worst, show(Reading{packet, catalogue().find(packet.id)}));
+            worst = std::max(worst, show_named(which, show, Reading{packet, catalogue().find(packet.id)}));
             ++shown;
         }
         if (packet.number == which.number)
@@ -131,7 +148,7 @@ int for_each_packet(const PacketChoices& which, Show show)
         throw Fault(error);
     if (shown != 0 || (which.number == 0 && which.message == nullptr))
         return worst;
-    fmt::print(stderr, "kesto: {}: no such packet among {}\n", which.file, packet.number);
+    complain(fmt::format("{}: no such packet among {}", which.file, packet.number));
     return refused;
 }
 
@@ -139,17 +156,15 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
 {
     ordered_json json = head_json(reading);
     int result = accepted;
-    const Explanation verdict = explain_verdict(*reading.message, reading.packet.bytes);
-    if (verdict.refused) {
+    const Explanation verdict = explain_verdict(*reading.message, reading.packet.bytes, choices.most_memory);
+    if (verdict.given_up) {
+        json["error"] = given_up_text(choices.most_memory);   // the packets behind it are read all the same
+        result = unusable;
+    } else if (verdict.refused) {
         json["refused"] = refused_json(verdict, *verdict.refused);
         result = refused;
     } else {
-        try {
-            json["record"] = record_json(record_of(verdict, choices.most_memory));
-        } catch (const Fault& fault) {
-            json["error"] = fault.what();   // the packets behind it are read all the same
-            result = unusable;
-        }
+        json["record"] = record_json(record_of(verdict));
     }
     print_line(json);
     return result;

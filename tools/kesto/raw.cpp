@@ -7,6 +7,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
 
 namespace kesto::command {
@@ -19,6 +20,8 @@ constexpr u32 most_elements = 4;   // of a vector that are shown; more are looke
 constexpr u32 most_elements_tested = 16;
 constexpr u32 most_slots = 256;
 constexpr std::size_t most_bytes_tried = 1 << 20;
+constexpr u64 most_read_by_all = 96 << 20;
+constexpr u32 most_text_tested = 1024;
 
 struct Table {
     u32 position = 0;
@@ -105,8 +108,13 @@ bool Guesser::may_be_text(u64 body) const
 {
     const u32 length = number(static_cast<u32>(body), 4);
     const u8* const text = bytes_.data() + body + 4;
-    return length != 0 && fits(body + 4, u64{length} + 1) && text[length] == 0 && is_utf8(text, length) &&
-           std::none_of(text, text + length, [](u8 byte) { return byte < ' ' && byte != '\n' && byte != '\t'; });
+    if (length == 0 || !fits(body + 4, u64{length} + 1) || text[length] != 0)
+        return false;
+    u32 tested = std::min(length, most_text_tested);   // many slots may lead to one long text
+    while (tested < length && tested != 0 && text[tested] >> 6 == 2)
+        --tested;   // not into the middle of a character
+    return is_utf8(text, tested) &&
+           std::none_of(text, text + tested, [](u8 byte) { return byte < ' ' && byte != '\n' && byte != '\t'; });
 }
 
 bool Guesser::may_be_target(u64 target) const
@@ -206,24 +214,35 @@ bool Guesser::root()
 std::string fitting_text(const Fitting& fitting)
 {
     constexpr std::size_t most = 10;
+    const std::string given_up =
+        fitting.given_up == 0
+            ? ""
+            : fmt::format("{} not tried to the end: too much is read again\n", counted(fitting.given_up, "message"));
     if (!fitting.written_so.empty())
-        return fmt::format("written just so for: {}\n", fmt::join(fitting.written_so, ", "));
+        return fmt::format("written just so for: {}\n{}", fmt::join(fitting.written_so, ", "), given_up);
     if (fitting.accepted.empty())
-        return "no message accepts it\n";
+        return fitting.given_up == 0 ? "no message accepts it\n" : given_up;
     const auto end = fitting.accepted.begin() + static_cast<std::ptrdiff_t>(std::min(fitting.accepted.size(), most));
-    return fmt::format("written just so for no message; {} accept it: {}{}\n", fitting.accepted.size(),
-                       fmt::join(fitting.accepted.begin(), end, ", "), end == fitting.accepted.end() ? "" : ", ...");
+    return fmt::format("written just so for no message; {} accept it: {}{}\n{}", fitting.accepted.size(),
+                       fmt::join(fitting.accepted.begin(), end, ", "), end == fitting.accepted.end() ? "" : ", ...",
+                       given_up);
 }
 
 }   // namespace
 
-Fitting fitting_messages(std::span<const u8> bytes)
+Fitting fitting_messages(std::span<const u8> bytes, u64 most_read_by_each)
 {
     Fitting fitting;
     for (const Message& message : catalogue().messages) {
         if (bytes.size() > most_bytes_tried)
             break;
-        const Explanation explanation = explain(message, bytes, {.most_ranges = 0});
+        const u64 most_read = std::min(most_read_by_each, most_read_by_all - fitting.bytes_read);
+        const Explanation explanation = explain(message, bytes, {.most_ranges = 0, .most_read = most_read});
+        fitting.bytes_read += std::min(explanation.bytes_read, most_read);
+        if (explanation.given_up) {
+            ++fitting.given_up;
+            continue;
+        }
         const Origin origin = explanation.origin;
         if (origin == Origin::compact || origin == Origin::fixed)
             fitting.written_so.push_back(message.name);
@@ -239,7 +258,7 @@ RawView look_at(std::span<const u8> bytes)
     view.length = bytes.size();
     view.has_root_table = Guesser(bytes, view.lines).root();
     if (bytes.size() <= most_bytes_tried)
-        view.fitting = fitting_messages(bytes);
+        view.fitting = fitting_messages(bytes, most_read_by_all);
     return view;
 }
 
@@ -265,6 +284,7 @@ nlohmann::ordered_json raw_json(const RawView& view)
     if (view.fitting) {
         json["written_for"] = view.fitting->written_so;
         json["accepted_by"] = view.fitting->accepted;
+        json["given_up"] = view.fitting->given_up;
     }
     return json;
 }
@@ -272,7 +292,7 @@ nlohmann::ordered_json raw_json(const RawView& view)
 int explain_raw(std::span<const u8> bytes, bool json)
 {
     const RawView view = look_at(bytes);
-    print(json ? raw_json(view).dump(2) + "\n" : raw_text(view));
+    print(json ? json_text(raw_json(view), 2) + "\n" : raw_text(view));
     return view.has_root_table ? accepted : refused;
 }
 

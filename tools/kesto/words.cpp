@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include "tools/kesto/explanation.h"
+#include "tools/kesto/quoting.h"
 
 namespace kesto::command {
 
@@ -105,45 +106,6 @@ std::string payload_text(const Explanation& explanation, const Range& range)
 std::string counted(u64 count, const char* thing)
 {
     return fmt::format("{} {}{}", count, thing, count == 1 ? "" : "s");
-}
-
-std::string quoted(const u8* text, std::size_t length)
-{
-    const bool is_text = is_utf8(text, length);
-    std::string out = "\"";
-    for (std::size_t i = 0; i < length; ++i) {
-        const char character = static_cast<char>(text[i]);
-        if (character == '"' || character == '\\')
-            out += fmt::format("\\{}", character);
-        else if (text[i] < ' ' || text[i] == 0x7f || (text[i] >= 0x80 && !is_text))
-            out += fmt::format("\\x{:02x}", text[i]);
-        else if (text[i] == 0xc2 && text[i + 1] < 0xa0)   // control characters of two bytes
-            out += fmt::format("\\u{:04x}", text[++i]);
-        else
-            out += character;
-    }
-    return out + "\"";
-}
-
-// Well-formed: no overlong form, no surrogate, nothing above U+10FFFF.
-bool is_utf8(const u8* text, std::size_t length)
-{
-    for (std::size_t i = 0; i < length;) {
-        const u8 lead = text[i++];
-        if (lead < 0x80)
-            continue;
-        const std::size_t more = lead >= 0xf0 ? 3 : lead >= 0xe0 ? 2 : 1;
-        if (lead < 0xc2 || lead > 0xf4 || more > length - i)
-            return false;
-        const u8 lowest = lead == 0xe0 ? 0xa0 : lead == 0xf0 ? 0x90 : 0x80;
-        const u8 highest = lead == 0xed ? 0x9f : lead == 0xf4 ? 0x8f : 0xbf;
-        if (text[i] < lowest || text[i] > highest)
-            return false;
-        for (const std::size_t end = i + more; i < end; ++i)
-            if (text[i] < 0x80 || text[i] > 0xbf)
-                return false;
-    }
-    return true;
 }
 
 std::string path_text(const Explanation& explanation, const Range& range)

@@ -1,0 +1,162 @@
+// What kesto takes itself for byte strings that ask for much, by the bytes that it holds at a time.
+
+#include <gtest/gtest.h>
+#include <malloc.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+#include <nlohmann/json.hpp>
+
+#include "reference/encode.h"
+#include "tools/kesto/commands.h"
+
+namespace {
+
+std::atomic<std::size_t> held{0}, most_held{0};
+
+void* take(std::size_t size)
+{
+    void* const block = std::malloc(size);
+    if (block == nullptr)
+        throw std::bad_alloc();
+    const std::size_t now = held += malloc_usable_size(block);
+    if (now > most_held)
+        most_held = now;
+    return block;
+}
+
+void give_back(void* block)
+{
+    held -= malloc_usable_size(block);
+    std::free(block);
+}
+
+}   // namespace
+
+void* operator new(std::size_t size) { return take(size); }
+void* operator new[](std::size_t size) { return take(size); }
+void operator delete(void* block) noexcept { give_back(block); }
+void operator delete[](void* block) noexcept { give_back(block); }
+void operator delete(void* block, std::size_t) noexcept { give_back(block); }
+void operator delete[](void* block, std::size_t) noexcept { give_back(block); }
+
+namespace kesto::tests {
+
+namespace {
+
+using command::find_message;
+using reference::append;
+using reference::Bytes;
+using reference::Record;
+
+constexpr std::size_t packet_length = 64 << 10;
+
+// Of a message with a u16 and a vector: cells to tables without slots, `step` apart. As many of both as the packet
+// holds.
+Bytes many_elements(std::size_t step)
+{
+    Bytes bytes = command::bytes_from_hex("0c000000 08000800 0000 0400 08000000 04000000");
+    const std::size_t count = (packet_length - 28) / (4 + step);
+    append(bytes, count, 4);
+    const std::size_t tables = bytes.size() + 4 * count;
+    for (std::size_t i = 0; i < count; ++i)
+        append(bytes, tables + i * step - bytes.size(), 4);
+    bytes.resize(tables + count * step + 4);   // zeros: a table whose vtable is itself, of length 0
+    return bytes;
+}
+
+Bytes one_text(std::uint8_t octet)
+{
+    Record record = reference::zero_record(*find_message("ifit_dfx_query_glbdata_item_mesh"));
+    record.fields[0].present = true;
+    record.fields[0].octets.assign(1 << 20, octet);
+    return reference::compact_form(record);
+}
+
+Bytes full_elements()
+{
+    const reference::Message& message = *find_message("ifit_flow_base_mesh_update");
+    Record record = reference::zero_record(message);
+    record.fields[1].present = true;
+    record.fields[1].number = 5000;
+    record.fields[1].records.assign(5000, reference::zero_record(*message.slots[1].nested));
+    for (Record& element : record.fields[1].records)
+        for (reference::Field& field : element.fields)
+            field.number = 0xff;
+    return reference::compact_form(record);
+}
+
+// The most that is held at a time beyond what was held before; what is printed goes to a file.
+template <class Work>
+std::size_t memory_of(Work work)
+{
+    testing::internal::CaptureStdout();
+    const std::size_t before = held;
+    most_held = before;
+    work();
+    const std::size_t most = most_held - before;
+    testing::internal::GetCapturedStdout();
+    return most;
+}
+
+TEST(Memory, of_a_decode_stays_below_what_is_allowed)
+{
+    const struct {
+        const char* message;
+        Bytes bytes;
+    } cases[] = {
+        {"ifit_flow_base_mesh_update", many_elements(0)},
+        {"ifit_flow_base_mesh_update", many_elements(1)},
+        {"ifit_request_app_pid_smooth_mesh", many_elements(0)},
+        {"ifit_flow_base_mesh_update", full_elements()},
+        {"ifit_dfx_query_glbdata_item_mesh", one_text('a')},
+        {"ifit_dfx_query_glbdata_item_mesh", one_text(1)},      // six letters in JSON
+        {"ifit_dfx_query_glbdata_item_mesh", one_text(0xff)},   // hex
+    };
+    constexpr std::size_t beside = 64 << 10;   // tables and the like, whatever the bytes
+    for (const auto& each : cases) {
+        const reference::Message& message = *find_message(each.message);
+        bool refused = false, accepted = false;
+        for (std::size_t most = 1000; !accepted; most = most * 5 / 4) {
+            ASSERT_LT(most, 1000000000u);
+            const std::size_t taken = memory_of([&] {
+                try {
+                    accepted = command::decode_bytes(message, each.bytes, {.most_memory = most}) == command::accepted;
+                } catch (const command::Fault& fault) {
+                    refused = true;
+                }
+            });
+            ASSERT_LE(taken, most + beside) << each.message << ", " << each.bytes.size() << " bytes";
+        }
+        EXPECT_TRUE(refused) << each.message;
+    }
+}
+
+TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
+{
+    const reference::Message& message = *find_message("ifit_flow_base_mesh_update");
+    command::ExplainChoices as_json;
+    as_json.json = true;
+    for (const unsigned step : {0u, 1u}) {
+        const Bytes bytes = many_elements(step);
+        EXPECT_LT(memory_of([&] { command::explain_bytes(message, bytes, {}); }), 48u << 20) << step;
+        EXPECT_LT(memory_of([&] { command::explain_bytes(message, bytes, as_json); }), 96u << 20) << step;
+        EXPECT_LT(memory_of([&] { command::explain_raw(bytes, true); }), 32u << 20) << step;
+    }
+}
+
+// A message whose writer left the bytes reads none twice.
+TEST(Tries, end_where_bytes_are_read_again)
+{
+    const Bytes bytes = many_elements(0);
+    const command::Fitting fitting = command::fitting_messages(bytes, bytes.size());
+    EXPECT_GT(fitting.given_up, 0u);
+    EXPECT_LE(fitting.bytes_read, (fitting.given_up + fitting.accepted.size()) * bytes.size() + (64u << 10));
+    EXPECT_EQ(command::fitting_messages(full_elements(), full_elements().size()).written_so,
+              std::vector<std::string>{"ifit_flow_base_mesh_update"});
+}
+
+}   // namespace
+
+}   // namespace kesto::tests

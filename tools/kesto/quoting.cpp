@@ -1,0 +1,109 @@
+#include "tools/kesto/quoting.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+namespace kesto::command {
+
+namespace {
+
+struct Character {
+    u32 code;
+    std::size_t length;   // 0: not UTF-8
+};
+
+// Well-formed: no overlong form, no surrogate, nothing above U+10FFFF. `text` is not empty.
+Character character_at(std::string_view text)
+{
+    const u32 lead = static_cast<u8>(text[0]);
+    if (lead < 0x80)
+        return {lead, 1};
+    const std::size_t length = lead >= 0xf0 ? 4 : lead >= 0xe0 ? 3 : 2;
+    if (lead < 0xc2 || lead > 0xf4 || length > text.size())
+        return {lead, 0};
+    u32 code = lead & (0x7fU >> length);
+    for (std::size_t i = 1; i < length; ++i) {
+        const u32 more = static_cast<u8>(text[i]);
+        if (more >> 6 != 2)
+            return {lead, 0};
+        code = code << 6 | (more & 0x3f);
+    }
+    const u32 least = length == 4 ? 0x10000 : length == 3 ? 0x800 : 0x80;
+    const bool is_surrogate = code >= 0xd800 && code <= 0xdfff;
+    return {code, code < least || code > 0x10ffff || is_surrogate ? 0 : length};
+}
+
+bool is_steering(u32 code)
+{
+    const bool is_control = code < 0x20 || (code >= 0x7f && code < 0xa0);
+    const bool turns_direction = code == 0x061c || code == 0x200e || code == 0x200f ||
+                                 (code >= 0x202a && code <= 0x202e) || (code >= 0x2066 && code <= 0x2069);
+    return is_control || turns_direction;
+}
+
+std::string escaped(std::string_view text, std::string_view also)
+{
+    std::string out;
+    const auto into = std::back_inserter(out);
+    while (!text.empty()) {
+        const auto [code, length] = character_at(text);
+        const std::size_t taken = std::max<std::size_t>(length, 1);
+        if (length == 0 || (length == 1 && is_steering(code)))
+            fmt::format_to(into, "\\x{:02x}", code);
+        else if (is_steering(code))
+            fmt::format_to(into, "\\u{:04x}", code);
+        else if (also.find(text[0]) != std::string_view::npos)
+            fmt::format_to(into, "\\{}", text[0]);
+        else
+            out += text.substr(0, taken);
+        text.remove_prefix(taken);
+    }
+    return out;
+}
+
+}   // namespace
+
+std::string visible(std::string_view text) { return escaped(text, ""); }
+
+std::string quoted(const u8* text, std::size_t length)
+{
+    return '"' + escaped({reinterpret_cast<const char*>(text), length}, "\"\\") + '"';
+}
+
+std::string json_text(const nlohmann::ordered_json& json, int indent)
+{
+    std::string text = json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
+    // Below 0x7f the dump has only the newlines of its indent. What is above stands in strings.
+    const auto is_plain = [](char character) { return static_cast<u8>(character) < 0x7f; };
+    if (std::all_of(text.begin(), text.end(), is_plain))
+        return text;
+    std::string out;
+    for (std::string_view rest = text; !rest.empty();) {
+        const auto [code, length] = character_at(rest);
+        if (code >= 0x7f && is_steering(code))
+            fmt::format_to(std::back_inserter(out), "\\u{:04x}", code);
+        else
+            out += rest.substr(0, length);
+        rest.remove_prefix(length);
+    }
+    return out;
+}
+
+bool is_utf8(const u8* text, std::size_t length)
+{
+    for (std::string_view rest(reinterpret_cast<const char*>(text), length); !rest.empty();) {
+        const Character character = character_at(rest);
+        if (character.length == 0)
+            return false;
+        rest.remove_prefix(character.length);
+    }
+    return true;
+}
+
+void complain(std::string_view text) { fmt::print(stderr, "kesto: {}\n", visible(text)); }
+
+}   // namespace kesto::command
