@@ -15,14 +15,22 @@ namespace {
 
 std::atomic<std::size_t> held{0}, most_held{0};
 
-void* take(std::size_t size)
+void* take_or_fail(std::size_t size) noexcept
 {
     void* const block = std::malloc(size);
     if (block == nullptr)
-        throw std::bad_alloc();
+        return nullptr;
     const std::size_t now = held += malloc_usable_size(block);
     if (now > most_held)
         most_held = now;
+    return block;
+}
+
+void* take(std::size_t size)
+{
+    void* const block = take_or_fail(size);
+    if (block == nullptr)
+        throw std::bad_alloc();
     return block;
 }
 
@@ -36,6 +44,7 @@ void give_back(void* block)
 
 void* operator new(std::size_t size) { return take(size); }
 void* operator new[](std::size_t size) { return take(size); }
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return take_or_fail(size); }
 void operator delete(void* block) noexcept { give_back(block); }
 void operator delete[](void* block) noexcept { give_back(block); }
 void operator delete(void* block, std::size_t) noexcept { give_back(block); }
