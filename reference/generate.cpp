@@ -95,7 +95,38 @@ void fill_heap_part(const Slot& slot, Density density, Field& field, Random& ran
         field.number = field.octets.size();
 }
 
+// `part` belongs to `whole`.
+void without_each_heap_part(Record& whole, Record& part, std::vector<Record>& made)
+{
+    for (std::size_t k = 0; k < part.fields.size(); ++k) {
+        const Kind kind = part.message->slots[k].kind;
+        Field& field = part.fields[k];
+        if (kind == Kind::string || kind == Kind::bytes || kind == Kind::vector) {
+            const Field kept = std::move(field);
+            field = {};
+            made.push_back(whole);
+            field.present = true;
+            made.push_back(whole);
+            if (kind == Kind::bytes) {   // a length beside null
+                field.present = false;
+                field.number = 5;
+                made.push_back(whole);
+            }
+            field = kept;
+        }
+        for (Record& inner : field.records)
+            without_each_heap_part(whole, inner, made);
+    }
+}
+
 }   // namespace
+
+std::vector<Record> without_each_heap_part(Record record)
+{
+    std::vector<Record> made;
+    without_each_heap_part(record, record, made);
+    return made;
+}
 
 Record random_record(const Message& message, Density density, Random& random)
 {

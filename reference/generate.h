@@ -36,4 +36,7 @@ inline constexpr Density densities[] = {Density::zero, Density::sparse, Density:
 // Sparse and edge records may hold pointers beside 0 and bytes lengths beside null; every one can be encoded.
 Record random_record(const Message& message, Density density, Random& random);
 
+// The record with one string, bytes or vector absent or empty, for each one in it, those of tables and elements too.
+std::vector<Record> without_each_heap_part(Record record);
+
 }   // namespace kesto::reference

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 #include "reference/generate.h"
 #include "reference/strange.h"
 #include "tests/support/every_message.h"
@@ -42,6 +44,13 @@ protected:
         check_.expected = nullptr;
     }
 
+    void expect_both_ways(const Record& record)
+    {
+        ASSERT_EQ(check_encoders(record), "") << to_text(record);
+        for (const ByteString& bytes : both_forms(record))
+            ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, bytes)) << to_text(record);
+    }
+
     DecodeCheck check_;
 };
 
@@ -51,12 +60,16 @@ TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
 {
     Random chance = random(1);
     for (int round = 0; round < 12; ++round)
-        for (const Density density : reference::densities) {
-            const Record record = reference::random_record(message(), density, chance);
-            ASSERT_EQ(check_encoders(record), "") << to_text(record);
-            for (const ByteString& bytes : both_forms(record))
-                ASSERT_NO_FATAL_FAILURE(expect_decodes_to(record, bytes)) << to_text(record);
-        }
+        for (const Density density : reference::densities)
+            ASSERT_NO_FATAL_FAILURE(expect_both_ways(reference::random_record(message(), density, chance)));
+}
+
+// Nothing but one text, block or vector keeps such a record from the fast paths.
+TEST_P(EveryMessage, without_one_heap_part_is_no_dense_record)
+{
+    Random chance = random(7);
+    for (const Record& record : reference::without_each_heap_part(random_record(message(), Density::full, chance)))
+        ASSERT_NO_FATAL_FAILURE(expect_both_ways(record));
 }
 
 // Elements of every density in every order: each may take another way than the one before it.
@@ -145,6 +158,35 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
                 bytes[at + i] = static_cast<std::uint8_t>(value >> (8 * i));
         }
         ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes));
+    }
+}
+
+// One scalar far from its table's start, around the last place that fits: in the least room there can be, and in as
+// much as 15 and 16 bits tell apart.
+TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
+{
+    const auto slots = static_cast<std::uint32_t>(message().slots.size());
+    const std::uint32_t vtable_bytes = 4 + 2 * slots, table = 4 + vtable_bytes;
+    for (const std::uint32_t room : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8001U, 0x8007U, 0xFFFDU, 0xFFFEU,
+                                     0xFFFFU, 0x10000U, 0x10001U, 0x10006U, 0x10007U}) {
+        std::uint8_t* const bytes = check_.buffer().place(table + room);
+        std::memset(bytes, 0, table);
+        std::memset(bytes + table, 0x5A, room);
+        reference::put(bytes, table, 4);
+        reference::put(bytes + 4, vtable_bytes, 2);
+        reference::put(bytes + table, vtable_bytes, 4);
+        for (std::uint32_t k = 0; k < slots; ++k) {
+            const reference::Slot& slot = message().slots[k];
+            if (slot.kind != reference::Kind::scalar)
+                continue;
+            std::uint8_t* const cell = bytes + 8 + 2 * k;
+            for (const std::uint32_t offset :
+                 {room - slot.width, room - slot.width + 1, room - 1, room, 0x7FFFU, 0x8000U, 0xFFFFU}) {
+                reference::put(cell, offset & 0xFFFF, 2);
+                ASSERT_EQ(check_.check(message(), bytes, table + room), "") << room << " " << k << " " << offset;
+            }
+            reference::put(cell, 0, 2);
+        }
     }
 }
 

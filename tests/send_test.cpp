@@ -149,8 +149,15 @@ TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
         EXPECT_EQ(malloc_watch.frees, malloc_watch.mallocs);
     }
     const RecordMemory memory(records(1));
-    EXPECT_EQ(library().sendmsg(1, memory.data(), 0xFFFFFFFF), -1);
-    EXPECT_EQ(library().sendbatch(1, memory.data(), 0xFFFFFFFF, 2), -1);
+    const std::uint32_t wraps = static_cast<std::uint32_t>((std::uint64_t{1} << 32) / sizeof(MeshSendItem)) + 1;
+    for (const std::uint32_t count : {0xFFFFFFFFU, wraps}) {
+        {
+            const WatchMalloc watch(0, true);   // what it asked for would be too small
+            EXPECT_EQ(library().sendmsg(1, memory.data(), count), -1);
+            EXPECT_EQ(library().sendbatch(1, memory.data(), count, 2), -1);
+        }
+        EXPECT_EQ(malloc_watch.mallocs, 0u) << count;
+    }
     EXPECT_TRUE(mesh().sends.empty());
 }
 
@@ -189,7 +196,7 @@ TEST_P(EverySend, an_empty_batch_reaches_mesh)
     EXPECT_TRUE(mesh().sends[0].sent.empty());
 }
 
-// Two records that fill the 64 KiB to the byte, and one byte more.
+// Two records that fill the 64 KiB to the byte, and one byte more. The first has an odd size, which leaves no gap.
 TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
 {
     const std::uint32_t overhead = 18 + 8;   // of a frame with zero numbers around its block
@@ -197,11 +204,8 @@ TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
     ifit_dfx_query_comm_param_mesh frames[2] = {};
     for (const std::uint32_t more : {0u, 1u}) {
         mesh().reset();
-        for (auto& frame : frames) {
-            frame.f2.data = block.data();
-            frame.f2.length = pool / 2 - overhead;
-        }
-        frames[1].f2.length += more;
+        frames[0].f2 = {pool / 2 - overhead - 1, block.data()};
+        frames[1].f2 = {pool / 2 - overhead + 1 + more, block.data()};
         const int result = ifit_dfx_query_comm_param_mesh__sendmsg(1, frames, 2);
         EXPECT_EQ(result, more == 0 ? 0 : -1);
         EXPECT_EQ(mesh().sends.size(), more == 0 ? 1u : 0u);
@@ -209,10 +213,10 @@ TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
     EXPECT_EQ(mesh().sends.size(), 0u);   // nothing of the second batch, not even the record that fitted
 
     mesh().reset();
-    ifit_dfx_query_comm_param_mesh three[3] = {frames[0], frames[0], {}};
-    EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);   // the pool is full before the third
+    ifit_dfx_query_comm_param_mesh three[3] = {frames[0], frames[1], {}};   // the third would fit in the second's place
+    EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);
 
-    three[1].f2.length += 1;   // the second is too much, and the third would fit in its place
+    three[1].f2.length -= 1;   // the pool is full before the third
     EXPECT_EQ(ifit_dfx_query_comm_param_mesh__sendmsg(1, three, 3), -1);
     EXPECT_TRUE(mesh().sends.empty());
 

@@ -6,11 +6,13 @@
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
+#include <unistd.h>
 
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <fstream>
 #include <functional>
 #include <string>
 #include <thread>
@@ -81,6 +83,49 @@ std::uint32_t service_log(const OsalLogDescriptor*, std::uint32_t, std::uint32_t
     ++logged;
     return 1;
 }
+
+// A thread that begins when another one has come to a look-up, which does not end before the newcomer has, or waits.
+struct Newcomer {
+    const char* service = "";   // the look-up; none once it has been met
+    std::atomic<int> thread = 0;
+    std::atomic<bool> may_start = false, finished = false;
+
+    void reset(const char* at)
+    {
+        service = at;
+        thread = 0;
+        may_start = finished = false;
+    }
+
+    void start()
+    {
+        thread = gettid();
+        while (!may_start)
+            std::this_thread::yield();
+    }
+
+    void meet(const char* name)
+    {
+        if (std::strcmp(name, service) != 0)
+            return;
+        service = "";
+        may_start = true;
+        while (!finished && !is_asleep())
+            std::this_thread::yield();
+    }
+
+private:
+    bool is_asleep() const
+    {
+        std::ifstream file("/proc/self/task/" + std::to_string(thread) + "/stat");
+        std::string stat;
+        std::getline(file, stat);
+        const std::size_t state = stat.rfind(") ");
+        return state != std::string::npos && stat[state + 2] == 'S';
+    }
+};
+
+Newcomer newcomer;
 
 // In the child of a case: prints what is not as expected and ends the process.
 class Verdict {
@@ -178,48 +223,45 @@ TEST(Services, are_not_looked_up_without_need)
     });
 }
 
-// In whichever form it comes.
-TEST(Services, are_looked_up_before_the_first_byte_of_a_record_is_written)
+// Each message as the first that its process decodes, in every form, by the fast paths and by others.
+TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
 {
     namespace reference = kesto::reference;
     reference::Catalogue catalogue;
     std::string error;
     ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
-    const reference::Message& message = *catalogue.find("ifit_color_intf_mesh");
-    reference::Random chance(1);
-    const reference::Record full = reference::random_record(message, reference::Density::full, chance);
-    const reference::Record sparse = reference::random_record(message, reference::Density::sparse, chance);
-    for (const reference::Bytes& bytes :
-         {reference::fixed_form(full), reference::compact_form(full), reference::compact_form(sparse)})
-        expect_in_child([&](Verdict& verdict) {
-            offer = &offers[8];
-            ifit_color_intf_mesh record, before;
-            std::memset(&record, 0xEE, sizeof record);
-            std::memcpy(&before, &record, sizeof record);
-            at_lookup = [&] { verdict.expect("record", std::memcmp(&record, &before, sizeof record), 0); };
-            ifit_color_intf_mesh__unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &record);
-            verdict.expect("look-ups of the flag", lookups_of_flag, 1);
-        });
+    for (const reference::Message& message : catalogue.messages) {
+        reference::Random chance(message.id);
+        const reference::Record full = reference::random_record(message, reference::Density::full, chance);
+        const reference::Record sparse = reference::random_record(message, reference::Density::sparse, chance);
+        std::vector<reference::Bytes> forms = {reference::compact_form(full), reference::compact_form(sparse)};
+        if (message.fixed_length != 0)
+            forms.push_back(reference::fixed_form(full));
+        for (const reference::Bytes& bytes : forms)
+            expect_in_child([&](Verdict& verdict) {
+                offer = &offers[8];
+                const kesto::tools::Operations& library = kesto::tools::operations(message.name);
+                const auto length = static_cast<std::uint32_t>(bytes.size());
+                reference::Outcome expected;
+                reference::decode(message, bytes.data(), length, {}, expected);
+                const std::vector<std::uint64_t> before(library.record_size / 8 + 1, 0xEEEEEEEEEEEEEEEE);
+                std::vector<std::uint64_t> record = before;
+                at_lookup = [&] { verdict.expect((message.name + ", untouched").c_str(), record == before, true); };
+                library.unpack(bytes.data(), length, record.data());
+                verdict.expect((message.name + ", look-ups of the flag").c_str(), lookups_of_flag, 1);
+                verdict.expect((message.name + ", allocated by the service").c_str(), allocated,
+                               static_cast<int>(expected.allocations));
+            });
+    }
 }
 
-TEST(Services, are_looked_up_by_whichever_way_of_decoding_or_releasing_comes_first)
+TEST(Services, are_looked_up_by_the_general_path_and_by_a_release_too)
 {
     void (*const ways[])() = {
-        [] { uses[0].receive(); },
-        [] {   // one slot is missing: not for the fast way
+        [] {   // one slot is missing: not for a fast path
             const std::uint8_t bytes[] = {10, 0, 0, 0, 4, 0, 4, 0, 0, 0, 6, 0, 0, 0};
             ifit_dfx_query_comm_param_mesh record{};
             ifit_dfx_query_comm_param_mesh__unpack(bytes, sizeof bytes, &record);
-        },
-        [] {
-            std::uint8_t bytes[40] = {};
-            ifit_color_intf_mesh record{};
-            std::uint32_t length = sizeof bytes;
-            offer = &offers[0];   // the send unit finds nothing
-            ifit_color_intf_mesh__pack(&record, bytes, &length);
-            offer = &offers[8];
-            lookups_of_flag = 0;
-            ifit_color_intf_mesh__unpack(bytes, length, &record);
         },
         [] {
             ifit_dfx_query_comm_param_mesh record{};
@@ -261,24 +303,29 @@ TEST(Services, are_looked_up_by_whichever_way_of_encoding_comes_first)
         });
 }
 
-TEST(Services, are_looked_up_once_by_threads_that_come_together)
+// While one thread is in a look-up, another one uses the same unit: it has to wait, and then finds everything.
+TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
 {
-    for (int round = 0; round < 20; ++round)
+    for (const char* const service :
+         {"RVL_OsalMemUseFlagGet", "RVL_OsalMemCacheAlloc", "RVL_OsalMemFree", "RVL_OsalLogWrite"})
         expect_in_child([&](Verdict& verdict) {
             offer = &offers[8];
-            std::atomic<int> waiting = 8;
-            std::vector<std::thread> threads;
-            for (int i = 0; i < 8; ++i)
-                threads.emplace_back([&] {
-                    --waiting;
-                    while (waiting != 0) {}
-                    use_every_unit();
-                });
-            for (std::thread& thread : threads)
-                thread.join();
+            for (const Use& use : uses)
+                for (void (*const operation)() : {use.receive, use.send}) {
+                    newcomer.reset(service);
+                    std::thread second([&] {
+                        newcomer.start();
+                        operation();
+                        newcomer.finished = true;
+                    });
+                    operation();
+                    newcomer.may_start = true;   // also where nothing was looked up
+                    second.join();
+                }
             expect_one_lookup_for_each_unit(verdict);
-            verdict.expect("allocated by the service", allocated, 32);
-            verdict.expect("released by the service", released, 32);
+            verdict.expect("allocated by the service", allocated, 8);
+            verdict.expect("released by the service", released, 8);
+            verdict.expect("log lines", logged, 16);
         });
 }
 
@@ -347,6 +394,7 @@ void* dlsym(void* handle, const char* name) noexcept
     };
     if (handle != RTLD_DEFAULT)
         return nullptr;
+    newcomer.meet(name);
     if (std::strcmp(name, "RVL_OsalMemUseFlagGet") == 0) {
         ++lookups_of_flag;
         return found(offer->use_flag >= 0, use_flag);

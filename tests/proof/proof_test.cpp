@@ -232,9 +232,12 @@ INSTANTIATE_TEST_SUITE_P(WeakReader, EveryFault,
 
 // ---- many fields at once ----
 
+// What a lane of a word tells apart, and a wide one. Not the names in wire.h: those are what is looked at here.
+constexpr unsigned word_room = 0x7FFF, wide_room = 0xFFFE;
+
 // No lane is said to be beyond if and only if every field is inside.
 template <class Lanes>
-bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = largest_lane)
+bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = word_room)
 {
     constexpr unsigned widest = 8;
     z3::context& context = solver_context();
@@ -247,7 +250,7 @@ bool lanes_are_proved(unsigned bits, Lanes lanes, unsigned greatest_room = large
         const auto number = [&](unsigned value) { return context.bv_val(value, 32); };
         solver.add(z3::ule(lane(widths), number(widest)));
         solver.add(z3::uge(lane(rooms), lane(widths)) && z3::ule(lane(rooms), number(greatest_room)));
-        said = said && z3::ule(lane(beyond), number(largest_lane));
+        said = said && z3::ule(lane(beyond), number(word_room));
         true_of_all = true_of_all && z3::ule(lane(offsets) + lane(widths), lane(rooms));
     }
     solver.add(said != true_of_all);
@@ -259,7 +262,7 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
     using Word = z3::expr;
     for (const unsigned bits : {32U, 64U}) {
         EXPECT_TRUE(lanes_are_proved(bits, lanes_beyond<Word>));
-        EXPECT_FALSE(lanes_are_proved(bits, lanes_beyond<Word>, largest_lane + 9));
+        EXPECT_FALSE(lanes_are_proved(bits, lanes_beyond<Word>, word_room + 1));
         EXPECT_FALSE(lanes_are_proved(bits, [](const Word& room, const Word& widths, const Word& offsets) {
             return room - widths - offsets;   // an offset that goes round
         }));
@@ -269,15 +272,19 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
     }
 }
 
+template <std::size_t N>
+constexpr u32 greatest_room = N < 4   ? 0xFFFFFFFF
+                              : N < 8 ? word_room
+                                      : wide_room;
+
 // The words that scalars_fit makes of a vtable: it says what a test of each field says.
 template <std::size_t N>
 void expect_fits_like_one_by_one(std::mt19937& chance)
 {
-    constexpr u32 greatest_room = N < lanes ? 0xFFFFFFFF : largest_room(N);
     std::array<u8, 4 + 2 * N> bytes{};
     const auto below = [&](u32 bound) { return static_cast<u32>(chance() % bound); };
     for (int round = 0; round < 3000; ++round) {
-        const u32 rooms[] = {below(40), below(0x9000), greatest_room - 0x10 + below(0x20)};
+        const u32 rooms[] = {below(40), below(0x9000), greatest_room<N> - 0x10 + below(0x20)};
         const u32 room = rooms[round % 3];
         Widths<N> widths{};
         for (u8& width : widths.of) {
@@ -288,18 +295,49 @@ void expect_fits_like_one_by_one(std::mt19937& chance)
         bool all = room >= widths.widest;
         for (u32 k = 0; k < N; ++k) {
             // Mostly close to the last place that fits, or absent.
-            const u32 limit = std::min(room, greatest_room) - std::min<u32>(room, widths.of[k]);
-            const u32 far[] = {below(0x10000), largest_lane - below(8)};   // the latter go round in a small room
+            const u32 limit = std::min(room, greatest_room<N>) - std::min<u32>(room, widths.of[k]);
+            const u32 far[] = {below(0x10000), word_room - below(8)};   // the latter go round in a small room
             const u32 offset = below(2 * N) == 0 ? far[below(2)] : limit - below(std::min(limit, 3U) + 1);
             store(bytes.data() + 4 + 2 * k, static_cast<u16>(below(2) == 0 ? 0 : offset));
             const u32 written = load<u16>(bytes.data() + 4 + 2 * k);
-            const bool matters = N >= lanes || widths.of[k] != 0;   // in lanes all offsets are looked at
-            all = all && (!matters || written + widths.of[k] <= std::min(room, greatest_room));
+            const bool matters = N >= 4 || widths.of[k] != 0;   // in lanes all offsets are looked at
+            all = all && (!matters || written + widths.of[k] <= std::min(room, greatest_room<N>));
         }
         const Input in{bytes.data(), static_cast<u32>(bytes.size())};
         const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};
         ASSERT_EQ(scalars_fit(in, view, widths), all) << N << " slots, room " << room;
     }
+}
+
+// The same for every offset of one field.
+template <std::size_t N>
+void expect_every_offset_to_be_bounded()
+{
+    std::array<u8, 4 + 2 * N> bytes{};
+    const Input in{bytes.data(), static_cast<u32>(bytes.size())};
+    for (const u32 k : {u32{0}, u32{N - 1}})
+        for (const u8 width : {u8{1}, u8{2}, u8{4}, u8{8}}) {
+            Widths<N> widths{{}, width};
+            widths.of[k] = width;
+            for (const u32 room : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8007U, 0xFFFDU, 0xFFFEU, 0xFFFFU,
+                                   0x10000U, 0x10006U, 0x10007U})
+                for (u32 offset = 0; offset <= 0xFFFF; ++offset) {
+                    store(bytes.data() + 4 + 2 * k, static_cast<u16>(offset));
+                    const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};
+                    const bool fits = room >= width && offset + width <= std::min(room, greatest_room<N>);
+                    ASSERT_EQ(scalars_fit(in, view, widths), fits) << N << " slots, room " << room << ", " << offset;
+                }
+            store(bytes.data() + 4 + 2 * k, u16{0});
+        }
+}
+
+TEST(Lanes, bound_every_offset)
+{
+    expect_every_offset_to_be_bounded<3>();
+    expect_every_offset_to_be_bounded<4>();
+    expect_every_offset_to_be_bounded<7>();
+    expect_every_offset_to_be_bounded<8>();
+    expect_every_offset_to_be_bounded<13>();
 }
 
 TEST(Lanes, say_of_a_vtable_what_each_of_its_slots_says)

@@ -1,7 +1,6 @@
 #include "tests/support/against_reference.h"
 
 #include <sys/mman.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
@@ -116,16 +115,16 @@ std::string hex(const ByteString& bytes)
 
 GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 {
-    const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    mapped_ = (most + page - 1) / page * page + page;
+    constexpr std::size_t guard = 0x20000;   // whole pages, and more than an offset of 16 bits leads over
+    mapped_ = (most + guard - 1) / guard * guard + guard;
     void* const memory =
         mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
-    if (memory == MAP_FAILED || mprotect(static_cast<std::uint8_t*>(memory) + mapped_ - page, page, PROT_NONE) != 0) {
+    if (memory == MAP_FAILED || mprotect(static_cast<std::uint8_t*>(memory) + mapped_ - guard, guard, PROT_NONE) != 0) {
         std::perror("guarded buffer");
         std::exit(1);
     }
     start_ = static_cast<std::uint8_t*>(memory);
-    end_ = start_ + mapped_ - page;
+    end_ = start_ + mapped_ - guard;
 }
 
 GuardedBuffer::~GuardedBuffer() { munmap(start_, mapped_); }

@@ -38,6 +38,7 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
                        caller,
                        nullptr,
                        0,
+                       0,
                        {},
                        size,
                        static_cast<std::int32_t>(number),
@@ -51,6 +52,7 @@ void ServicesDouble::release(void* pointer, std::uint32_t module, const char* ca
     Happened event{reference::Act::release,
                    caller,
                    nullptr,
+                   0,
                    0,
                    {},
                    0,
@@ -71,9 +73,9 @@ void ServicesDouble::release(void* pointer, std::uint32_t module, const char* ca
 }
 
 void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file,
-                         const char* function, const char* format, std::va_list arguments)
+                         std::uint32_t line, const char* function, const char* format, std::va_list arguments)
 {
-    Happened event{reference::Act::log, function, format, code, {}, 0, -1, false, nullptr};
+    Happened event{reference::Act::log, function, format, code, line, {}, 0, -1, false, nullptr};
     if (lines != nullptr) {
         std::va_list copy;
         va_copy(copy, arguments);
@@ -112,6 +114,9 @@ std::string ServicesDouble::difference(std::size_t i, const reference::Event& ex
         if (std::strcmp(event.format, reference::text_of(expected.format)) != 0 ||
             event.code != reference::code_of(expected.format))
             return "format or code";
+        // What stands for a line is the format's number for good: places are told apart by it, from release to release.
+        if (event.line != 1 + static_cast<std::uint32_t>(expected.format))
+            return "line " + std::to_string(event.line);
         for (std::uint32_t a = 0; a < reference::argument_count(expected.format); ++a)
             if (event.arguments[a] != expected.arguments[a])
                 return "argument " + std::to_string(a) + " is " + std::to_string(event.arguments[a]);
@@ -155,11 +160,11 @@ void RVL_OsalMemFree(void* pointer, std::uint32_t module, const char* caller)
 }
 
 std::uint32_t RVL_OsalLogWrite(const OsalLogDescriptor* descriptor, std::uint32_t level, std::uint32_t code,
-                               const char* file, std::uint32_t, const char* function, const char* format, ...)
+                               const char* file, std::uint32_t line, const char* function, const char* format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);
-    services().log(descriptor, level, code, file, function, format, arguments);
+    services().log(descriptor, level, code, file, line, function, format, arguments);
     va_end(arguments);
     return 0;
 }

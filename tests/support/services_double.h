@@ -29,8 +29,8 @@ public:
 
     void* allocate(std::uint32_t size, std::uint32_t module, const char* caller);
     void release(void* pointer, std::uint32_t module, const char* caller);
-    void log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file, const char* function,
-             const char* format, std::va_list arguments);
+    void log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file, std::uint32_t line,
+             const char* function, const char* format, std::va_list arguments);
 
 private:
     struct Happened {
@@ -38,6 +38,7 @@ private:
         const char* routine;
         const char* format;   // of a log
         std::uint32_t code;
+        std::uint32_t line;
         std::uint32_t arguments[3];
         std::uint32_t size;
         std::int32_t block;   // -1 for null
