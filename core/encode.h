@@ -177,8 +177,8 @@ struct SlotLanes {
 
     [[gnu::always_inline]] u64 value() const
     {
-        using Halves = u64 [[gnu::vector_size(16)]];
-        return Halves(lanes)[0];
+        using Halves = u64 __attribute__((vector_size(16)));
+        return Halves(lanes)[0];   // no intrinsic for it on 32-bit x86
     }
 };
 using BranchlessWord = SlotLanes;
