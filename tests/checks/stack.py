@@ -82,7 +82,7 @@ for name in filter(operation, frames):
     found[operation(name)] = max(found.get(operation(name), 0), deepest(name, nesting()))
 
 table = [[cell.strip() for cell in line.split("|")[1:-1]] for line in open("docs/integrating.md") if line.startswith("|")]
-place = next((row.index(column) for row in table if column in row), None)
+place = next((row.index(column, 1) for row in table if column in row[1:]), None)
 stated = {name: int(row[place].replace(",", "")) for row in table for name in re.findall(OPERATION, row[0])
           if place is not None and len(row) > place and re.fullmatch(r"[\d,]+", row[place])}
 wrong = [f"{column}, {name}: {found[name]} bytes, stated {stated.get(name)}" for name in sorted(found)
