@@ -1,21 +1,26 @@
 #!/usr/bin/env python3
 """Changes one thing in core/ at a time and looks whether the tests notice.
 
-    run_mutants.py --tests BUILD [--count N] [--share K/N] [--only FILE]
+    run_mutants.py --tests BUILD [--i686] [--count N] [--share K/N] [--only FILE] [--list FILE]
 
 BUILD is a build folder whose test programs stand; they are run against a library built from a changed copy of the
-sources. A mutant is one changed comparison, connective, sign, constant or dropped statement. The sample is the same every
+sources. What they all miss meets a part of the small faults and, in the reader, the proof. A mutant is one changed comparison, connective, sign, constant or dropped statement. The sample is the same every
 time. Mutants that no test can notice are listed in equivalent.txt beside this script, each with its reason. Ends with 0
 when at least 95 % of the others were noticed, and none of those.
+
+With --list every mutant meets every program, and FILE gets a line for each: the programs that noticed it, and the mutant.
+With --i686, BUILD is a build for it, and the mutants are those of lines that only hosts with narrow registers run.
 """
 import argparse
 import concurrent.futures
 import glob
+import json
 import os
 import queue
 import random
 import re
 import resource
+import shlex
 import shutil
 import signal
 import subprocess
@@ -29,8 +34,7 @@ sys.path.append(os.path.join(ROOT, "tests"))
 import exceptions   # noqa: E402, the one beside this folder
 FILES = ["wire.h", "decode.h", "decode.cpp", "layout_decoder.h", "encode.h", "picture.h", "forms.h", "run.h", "layout.h", "send.h",
          "send.cpp", "unit.h", "unit.cpp", "registration.cpp", "receive_unit.h", "send_unit.h"]
-TESTS = [["codec_test", "--gtest_brief=1", "--gtest_fail_fast"], ["services_test", "--gtest_brief=1"],
-         ["large_test", "--gtest_brief=1"]]
+TESTS = ["codec_test", "services_test", "large_test", "first_use_test", "unwinding_test"]
 
 LARGEST_MODULE = "ifit_sync"
 MOST_MEMORY = 2 << 30   # of a compiler
@@ -50,29 +54,35 @@ LEFT_OUT = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|
 
 
 def runs_here(lines):
-    """(number, line) of those that are not for other hosts alone, which no test here runs: hosts of the other byte order and
-    hosts with narrow registers."""
+    """(number, line, narrow) of those that are not for hosts of the other byte order alone, which no test here runs. What
+    only hosts with narrow registers run is narrow."""
     choice = other = None   # indents: of the choice between two hosts, and of the branch that is not taken here
+    narrow = False          # whether that branch is for narrow registers
     for number, line in enumerate(lines):
         indent = len(line) - len(line.lstrip())
         if other is not None and line.strip() and indent <= other:
             other = None
-        if re.match(r"\s*if (constexpr )?\((!host_has_wire_order|piece\.bytes >= long_piece)", line):
-            other = indent
-        elif re.match(r"\s*if constexpr \(host_has_wire_order", line):
+        if match := re.match(r"\s*if (constexpr )?\((!host_has_wire_order|piece\.bytes >= long_piece)", line):
+            other, narrow = indent, match[2].startswith("piece")
+            continue
+        if re.match(r"\s*if constexpr \(host_has_wire_order", line):
             choice = indent
         elif choice == indent and re.match(r"\s*else$", line):
-            other, choice = indent, None
-        elif other is None and not re.search(r"_long\(|copy_turned\(", line):
-            yield number, line
+            other, choice, narrow = indent, None, False
+        elif "copy_turned(" in line:
+            continue
+        elif other is None or narrow:
+            yield number, line, other is not None or "_long(" in line
 
 
-def mutants_of(path):
-    """All (line number, old, new) of one file."""
+def mutants_of(path, narrow=False):
+    """All (line number, old, new) of one file; of narrow lines, or of all others."""
     found = []
     with open(path) as file:
         lines = file.read().split("\n")
-    for number, line in runs_here(lines):
+    for number, line, is_narrow in runs_here(lines):
+        if is_narrow != narrow:
+            continue
         code = line.split("//")[0].rstrip()
         if not code or LEFT_OUT.search(code):
             continue
@@ -85,9 +95,9 @@ def mutants_of(path):
     return found
 
 
-def sample(count, only):
+def sample(count, only, narrow):
     """As many from each file as its share of all mutants, but at least four."""
-    by_file = {name: mutants_of(os.path.join(ROOT, "core", name)) for name in FILES if only in (None, name)}
+    by_file = {name: mutants_of(os.path.join(ROOT, "core", name), narrow) for name in FILES if only in (None, name)}
     total = sum(len(mutants) for mutants in by_file.values())
     chosen = []
     for name, mutants in by_file.items():
@@ -127,14 +137,14 @@ def run(command, **kwargs):
             return False
 
 
-def build_largest_module(folder):
+def build_largest_module(folder, compiler):
     """An archive of the module that takes as long to compile as all others: without a mutant, and in a namespace of its own,
     so that it shares nothing with theirs."""
     archive = os.path.join(folder, "largest_module.a")
     sources = glob.glob(os.path.join(ROOT, "core", "*.cpp"))
     sources += glob.glob(os.path.join(ROOT, "messages", LARGEST_MODULE, "*.cpp"))
     for number, source in enumerate(sources):
-        subprocess.run(["c++", "-std=c++20", "-O1", "-w", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fvisibility=hidden",
+        subprocess.run([compiler, "-std=c++20", "-O1", "-w", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fvisibility=hidden",
                         "-Dkesto=kesto_without_mutant", "-I" + ROOT, "-I" + os.path.join(ROOT, "include"), "-c", source,
                         "-o", os.path.join(folder, f"{number}.o")], check=True)
     subprocess.run(["ar", "rcs", archive] + glob.glob(os.path.join(folder, "*.o")), check=True)
@@ -144,7 +154,8 @@ def build_largest_module(folder):
 class Tree:
     """A copy of the sources and a build of its library."""
 
-    def __init__(self, folder, tests, archive):
+    def __init__(self, folder, tests, archive, toolchain, thorough):
+        self.thorough = thorough   # every program, whatever the others say
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
         self.tests = tests
@@ -153,23 +164,50 @@ class Tree:
         with open(os.path.join(ROOT, "CMakeLists.txt")) as whole, open(os.path.join(self.root, "CMakeLists.txt"), "w") as part:
             part.write(whole.read().replace(LARGEST_MODULE + " ", ""))
         configured = run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
-                          "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w",
+                          "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w", *toolchain,
                           f"-DCMAKE_SHARED_LINKER_FLAGS=-Wl,--whole-archive {archive} -Wl,--no-whole-archive"])
         if not configured:
             sys.exit("configure failed")
 
-    def verdict(self):
-        """'not built', 'noticed' or 'survived'."""
+    def notices(self, test, **environment):
+        # The tests find the library by the path that they were linked with, unless this one comes first.
+        return not run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], cwd=self.root,
+                       preexec_fn=limit_dumps, env=dict(os.environ, LD_LIBRARY_PATH=self.build, **environment))
+
+    def proof_notices(self):
+        """Builds the proof from this reader, as the build folder's own commands do, and runs it."""
+        with open(os.path.join(self.tests, "compile_commands.json")) as file:
+            commands = [shlex.split(each["command"]) + [each["file"]] for each in json.load(file)
+                        if "proof_test.dir" in each["command"]]
+        if not commands:   # the proof is for this machine alone
+            return False
+        objects = []
+        for command in commands:
+            source = command[-1]
+            objects.append(os.path.join(self.build, os.path.basename(source) + ".o"))
+            options = [word for word in command if word.startswith(("-D", "-I", "-std"))]
+            system = [word for at, word in enumerate(command) if "-isystem" in command[max(at - 1, 0):at + 1]]
+            if not run(["c++", "-O1", "-w", "-I" + self.root, *options, *system, "-c", source, "-o", objects[-1]]):
+                return True
+        program = os.path.join(self.build, "proof_test")
+        libraries = glob.glob(os.path.join(self.tests, "lib", "libgtest*.a"))
+        return not run(["c++", *objects, *sorted(libraries, reverse=True), "-lz3", "-pthread", "-o", program]) or \
+            not run([program, "--gtest_brief=1", "--gtest_fail_fast"], preexec_fn=limit_dumps)
+
+    def verdict(self, name=""):
+        """('not built', 'noticed' or 'survived', and by what)."""
         # A constant that is off can make the compiler take all there is.
         if not run(["ninja", "-j1", "-C", self.build, "ifit_codec"], preexec_fn=limit_memory):
-            return "not built"
-        # The tests find the library by the path that they were linked with, unless this one comes first.
-        environment = dict(os.environ, LD_LIBRARY_PATH=self.build)
+            return "not built", ["compiler"]
+        by = []
         for test in TESTS:
-            if not run([os.path.join(self.tests, "tests", test[0])] + test[1:], env=environment, cwd=self.root,
-                       preexec_fn=limit_dumps):
-                return "noticed"
-        return "survived"
+            if (self.thorough or not by) and self.notices(test):
+                by.append(test)
+        if not by and self.notices("exhaustive_test", KESTO_SHARE="1/25"):
+            by.append("exhaustive_test")
+        if not by and name == "wire.h" and self.proof_notices():
+            by.append("proof_test")
+        return "noticed" if by else "survived", by
 
     def verdict_with(self, name, line, new):
         path = os.path.join(self.root, "core", name)
@@ -180,7 +218,7 @@ class Tree:
         with open(path, "w") as file:
             file.write("\n".join(lines))
         try:
-            return self.verdict()
+            return self.verdict(name)
         finally:
             with open(path, "w") as file:
                 file.write(original)
@@ -192,19 +230,24 @@ def main():
     arguments.add_argument("--count", type=int, default=110)
     arguments.add_argument("--share", default="1/1", help="every N-th mutant, from the K-th on")
     arguments.add_argument("--only", help="one file of core/")
+    arguments.add_argument("--i686", action="store_true")
+    arguments.add_argument("--list")
     options = arguments.parse_args()
 
     first, step = (int(part) for part in options.share.split("/"))
-    chosen = sample(options.count, options.only)[first - 1::step]
+    chosen = sample(options.count, options.only, options.i686)[first - 1::step]
     known = equivalents()
     tests = os.path.abspath(options.tests)
     counts = {"not built": 0, "noticed": 0, "equivalent": 0, "survived": 0, "wrongly listed": 0}
     jobs = os.cpu_count() or 1
     with tempfile.TemporaryDirectory(prefix="kesto_mutants_") as folder:
-        archive = build_largest_module(folder)
-        trees = [Tree(os.path.join(folder, str(job)), tests, archive) for job in range(jobs)]
-        if trees[0].verdict() != "survived":
-            sys.exit("the tests fail without a mutant")
+        compiler = "i686-linux-gnu-g++" if options.i686 else "c++"
+        toolchain = ["-DCMAKE_TOOLCHAIN_FILE=" + os.path.join(ROOT, "cmake", "i686.cmake")] if options.i686 else []
+        archive = build_largest_module(folder, compiler)
+        trees = [Tree(os.path.join(folder, str(job)), tests, archive, toolchain, options.list) for job in range(jobs)]
+        result, by = trees[0].verdict("wire.h")
+        if result != "survived":
+            sys.exit("without a mutant: %s by %s" % (result, by))
         free = queue.SimpleQueue()
         for tree in trees:
             free.put(tree)
@@ -218,11 +261,15 @@ def main():
                 free.put(tree)
 
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
-            for number, ((name, line, old, new), result) in enumerate(pool.map(judge, chosen), 1):
+            for number, ((name, line, old, new), (result, by)) in enumerate(pool.map(judge, chosen), 1):
                 if (name, line, exceptions.bare(new)) in known:
                     result = "equivalent" if result == "survived" else "wrongly listed"
                 counts[result] += 1
-                print(f"{number}/{len(chosen)} {result:10} {name}:{line + 1}: {old.strip()}  ->  {new.strip()}", flush=True)
+                text = f"{name}: {old.strip()}  ->  {exceptions.bare(new)}"
+                print(f"{number}/{len(chosen)} {result:10} {','.join(by)} {text}", flush=True)
+                if options.list:
+                    with open(options.list, "a") as file:
+                        file.write(f"{','.join(by) or result}\t{text}\n")
     judged = counts["noticed"] + counts["not built"] + counts["survived"]
     share = 100 * (judged - counts["survived"]) / judged
     print(f"{sum(counts.values())} mutants: {counts['noticed']} noticed by the tests, {counts['not built']} by the compiler, "
