@@ -11,6 +11,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -38,6 +39,8 @@ bool fails(const char* operation)
     return true;
 }
 
+std::atomic<int> frames_before_admission_fails{-1};
+
 }   // namespace
 
 // In front of ZeroMQ's own, for the transport.
@@ -51,6 +54,15 @@ extern "C" int zmq_msg_send(void* message, void* socket, int flags)
 {
     static const auto real = reinterpret_cast<int (*)(void*, void*, int)>(dlsym(RTLD_NEXT, "zmq_msg_send"));
     return fails("send") ? -1 : real(message, socket, flags);
+}
+
+extern "C" int zmq_recv(void* socket, void* buffer, size_t length, int flags)
+{
+    static const auto real = reinterpret_cast<int (*)(void*, void*, size_t, int)>(dlsym(RTLD_NEXT, "zmq_recv"));
+    if (frames_before_admission_fails < 0 || frames_before_admission_fails-- != 0)
+        return real(socket, buffer, length, flags);
+    errno = ENOMEM;
+    return -1;
 }
 
 extern "C" int zmq_curve_keypair(char* public_key, char* secret_key);
@@ -246,6 +258,26 @@ TEST_F(ZeroMq, many_threads_send_without_mixing_their_batches)
         sender.join();
     for (std::size_t i = 0; i + 1 < seen.size(); i += 2)
         EXPECT_EQ(seen[i].substr(seen[i].find("of")), seen[i + 1].substr(seen[i + 1].find("of"))) << i;
+}
+
+// The last test, as nobody is admitted after it.
+TEST_F(ZeroMq, nobody_is_admitted_once_admission_has_failed)
+{
+    if (!KESTO_WITH_KEYS)
+        GTEST_SKIP() << "everybody is admitted";
+    const std::string x = "x";
+    const MeshSendItem two[] = {item(7, x), item(7, x)};
+    const auto begin_a_new_connection = [&] {
+        planned = {"send", 1};
+        EXPECT_EQ(MESH_SendMsg(1, two, 2), MESH_STANDIN_NO_MEMORY);
+    };
+    frames_before_admission_fails = 6;   // the seven of one question; it waits for the first one already
+    begin_a_new_connection();
+    expect_nothing_under_way();
+    while (frames_before_admission_fails >= 0)
+        std::this_thread::yield();
+    begin_a_new_connection();
+    EXPECT_EQ(MESH_SendMsg(1, two, 1), MESH_STANDIN_TIMEOUT) << "nobody has answered in five seconds";
 }
 
 }   // namespace

@@ -85,7 +85,7 @@ constexpr size_t file_head = 24;
 }
 
 // Refuses a file of another user, one that holds anything but a capture, and one that another process is writing, which
-// has locked it. An older capture may have been readable by all, and this one must not be.
+// has locked it. An older capture may have been readable by all; nobody else can open this one.
 [[nodiscard]] bool open_file(const char* path)
 {
     capture.file = open(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600);

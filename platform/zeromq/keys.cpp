@@ -20,6 +20,8 @@ constexpr const char* no_key = "no key, or not one of 40 characters";
 const char* read_secret(const char* word, Keys& keys)
 {
     uint8_t key[KEY_BYTES];
+    if (keys.secret_key[0] != '\0')
+        return "a second secret key";
     if (!read_key(word, key))
         return no_key;
     memcpy(keys.secret_key, word, KEY_ROOM);
@@ -41,6 +43,8 @@ const char* read_receiver(const char* address, const char* word, Keys& keys)
     uint8_t key[KEY_BYTES];
     if (keys.receiver_count == MOST_ENDPOINTS || address == nullptr || strlen(address) >= ENDPOINT_ROOM)
         return "too many receivers, or no address, or too long a one";
+    if (receiver_key(keys, address) != nullptr)
+        return "a second key for this receiver";
     if (!read_key(word, key))
         return no_key;
     Receiver& receiver = keys.receivers[keys.receiver_count++];
@@ -83,7 +87,8 @@ struct Admission {
 
 constinit Admission admission{};
 
-// False at the end of the context. Frames that no question has are read over, and `count` tells.
+// False at the end of the context, and when ZeroMQ has failed. Frames that no question has are read over, and `count`
+// tells.
 [[nodiscard]] bool read_question(Frame (&frames)[QUESTION_FRAMES + 1], int& count)
 {
     int more = 1;
@@ -123,7 +128,8 @@ void* admit(void*)
         for (int rest = 0; rest < 3; ++rest)   // a text, the user's name and properties
             zmq_send(admission.socket, "", 0, rest < 2 ? ZMQ_SNDMORE : 0);
     }
-    zmq_close(admission.socket);
+    // The socket stays until all others are closed: with nobody to ask, ZeroMQ would admit everyone who knows the
+    // receiver's key.
     return nullptr;
 }
 
@@ -177,6 +183,8 @@ bool start_admission(void* zeromq, const Keys& keys)
 
 void end_admission()
 {
-    if (admission.socket != nullptr)
-        pthread_join(admission.thread, nullptr);
+    if (admission.socket == nullptr)
+        return;
+    pthread_join(admission.thread, nullptr);
+    zmq_close(admission.socket);
 }

@@ -35,7 +35,7 @@ const char* receiver_key(const Keys& keys, const char* address);
 // context ends.
 [[nodiscard]] bool start_admission(void* zeromq, const Keys& keys);
 
-// Call after the context has ended. Waits for that thread, if there is one.
+// Call once the context has been shut down, and before it is terminated. Waits for that thread, if there is one.
 void end_admission();
 
 #endif

@@ -144,9 +144,11 @@ void open_all()
     for (uint32_t i = 0; i < place_count; ++i)
         if (places[i].socket != nullptr)
             zmq_close(places[i].socket);
-    if (zeromq != nullptr)
-        zmq_ctx_term(zeromq);
+    if (zeromq == nullptr)
+        return;
+    zmq_ctx_shutdown(zeromq);
     end_admission();
+    zmq_ctx_term(zeromq);
 }
 
 bool carries(uint32_t channel)
