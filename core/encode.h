@@ -57,8 +57,8 @@ template <class L>
 }
 
 // The size of one table and all beneath it, without a root; too_large for a vector with a count and no pointer. A bound
-// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's end
-// for the size there.
+// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's
+// end for the size there.
 template <class L, Measure how>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {

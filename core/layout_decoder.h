@@ -406,8 +406,8 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// False, and nothing is done that decode_message does not do anew, when there is no fast way. The services must have been
-// looked up: fast paths allocate through the unit's hooks as they find them.
+// False, and nothing is done that decode_message does not do anew, when there is no fast way. The services must have
+// been looked up: fast paths allocate through the unit's hooks as they find them.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool read_message(Input in, u8* record, const Decoder& decoder)
 {
@@ -431,7 +431,8 @@ template <class L>
 template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    // The first decode takes the general path, which looks the services up between the root's tests and the first store.
+    // The first decode takes the general path, which looks the services up between the root's tests and the first
+    // store.
     const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
                       read_message<L>({bytes, length}, record, decoder);
     if (!done) [[unlikely]]

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <numeric>
 
 #include "reference/generate.h"
 #include "tests/support/every_message.h"
@@ -141,10 +142,12 @@ TEST_F(WrappedBlock, is_never_overrun_and_is_released)
 {
     std::uint32_t tried = 0, too_small = 0, no_room = 0;
     for (const VectorMessage& vector : vector_messages()) {
-        // One element below the wrap, where the block is too large for any memory; the wrap; some elements above it.
+        // One element below the wrap, where the block is too large for any memory; the wrap; some elements above it; and
+        // where nothing at all is left.
         const std::uint64_t size = vector.record_size();
-        for (const std::uint32_t count : {vector.count(0) - 1, vector.count(0), vector.count(size),
-                                          vector.count(3 * size), vector.count(1 << 16)}) {
+        for (const std::uint32_t count :
+             {vector.count(0) - 1, vector.count(0), vector.count(size), vector.count(3 * size), vector.count(1 << 16),
+              static_cast<std::uint32_t>(wrap / std::gcd(wrap, size))}) {
             const std::uint64_t bytes = std::uint64_t{4} * count + 4096;
             if (bytes > most_bytes) {
                 ++too_small;   // its block cannot wrap: it would take a longer byte string than is accepted

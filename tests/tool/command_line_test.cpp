@@ -337,10 +337,11 @@ TEST_F(Files, packets_of_odd_times_are_shown_with_the_numbers)
     }
     EXPECT_EQ(decoded.exit_code, 0);
     Bytes odd = capture_of_six();
+    odd[24 + 3] = 0x80;   // of the seconds, now above 2^31
     odd[24 + 7] = 0x40;   // of the microseconds, which were 250
     kesto::tests::write_file(classic, odd);
     EXPECT_NE(
-        kesto("decode --pcap " + classic + " --packet 1").output.find("1700000000 s and 1073742074 us since 1970"),
+        kesto("decode --pcap " + classic + " --packet 1").output.find("2152984832 s and 1073742074 us since 1970"),
         std::string::npos);
 }
 

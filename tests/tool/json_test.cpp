@@ -61,6 +61,9 @@ TEST(JsonText, leaves_what_is_missing_zero)
 
 TEST(JsonText, that_is_wrong_is_refused_with_the_place)
 {
+    std::string crowded = R"({"f0":0)";
+    for (int k = 1; k < 1000; ++k)
+        crowded += ",\"f" + std::to_string(k) + "\":0";
     const struct {
         const char* message;
         const char* text;
@@ -83,6 +86,8 @@ TEST(JsonText, that_is_wrong_is_refused_with_the_place)
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: \"f1\" stands twice"},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: no JSON"},
         {"ifit_dfx_query_queryhash_item_mesh", "[[[[[[[[[[[[[[[[[[[[", "text: nested deeper"},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1e400})", "text: a number is out of range"},
+        {"ifit_dfx_query_queryhash_item_mesh", crowded.c_str(), "text: an object has more names"},
     };
     for (const auto& wrong : cases) {
         try {

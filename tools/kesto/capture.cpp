@@ -102,7 +102,11 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
         return false;
     }
     packet.number = ++number_;
+    // The seconds of a classic capture are unsigned 32-bit numbers, which libpcap reads as signed ones; those of
+    // pcapng, whose version is 1, have 64 bits.
     packet.seconds = head->ts.tv_sec;
+    if (pcap_major_version(handle_.get()) != 1)
+        packet.seconds = static_cast<std::uint32_t>(packet.seconds);
     packet.microseconds = static_cast<std::uint32_t>(head->ts.tv_usec);
     packet.fault = fault_of(*head, bytes);
     packet.id = head->caplen < 4 ? 0 : reference::get32(bytes);

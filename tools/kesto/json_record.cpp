@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 #include <nlohmann/json.hpp>
@@ -190,22 +191,33 @@ Record record_from_json(const Message& message, const ordered_json& json)
 
 ordered_json parse_json(const std::string& text, const std::string& where)
 {
-    std::vector<std::set<std::string>> names;
-    const auto watch = [&](int depth, ordered_json::parse_event_t event, ordered_json& parsed) {
+    const auto slot_count = [](const Message& message) { return message.slots.size(); };
+    static const std::size_t most_names = slot_count(*std::ranges::max_element(catalogue().messages, {}, slot_count));
+    std::set<std::string> names[most_depth + 1];   // of the object that is open at each depth
+    const auto watch = [&](int depth, ordered_json::parse_event_t event, const ordered_json& parsed) {
         if (depth > most_depth)
             throw Fault(fmt::format("{}: nested deeper than any record", where));
         if (event == ordered_json::parse_event_t::object_start)
-            names.emplace_back();
-        else if (event == ordered_json::parse_event_t::object_end)
-            names.pop_back();
-        else if (event == ordered_json::parse_event_t::key && !names.back().insert(parsed.get<std::string>()).second)
+            names[depth].clear();
+        if (event != ordered_json::parse_event_t::key)
+            return false;
+        std::set<std::string>& known = names[depth - 1];
+        if (!known.insert(parsed.get<std::string>()).second)
             throw Fault(fmt::format("{}: \"{}\" stands twice in an object", where, parsed.get<std::string>()));
-        return true;
+        if (known.size() > most_names)
+            throw Fault(fmt::format("{}: an object has more names than any message has fields", where));
+        return false;
     };
     try {
-        return ordered_json::parse(text, watch);
+        // Two passes: a parser with a callback scans the parent at each end of an object that it keeps, so this one
+        // keeps nothing. The second finds names one by one, which is fast enough for as few as the first lets pass.
+        ordered_json parsed = ordered_json::parse(text, watch);
+        parsed = ordered_json::parse(text);
+        return parsed;
     } catch (const ordered_json::parse_error& error) {
         throw Fault(fmt::format("{}: no JSON, at byte {}", where, error.byte));
+    } catch (const ordered_json::out_of_range&) {
+        throw Fault(fmt::format("{}: a number is out of range", where));
     }
 }
 
