@@ -265,7 +265,7 @@ def main():
                 if (name, line, exceptions.bare(new)) in known:
                     result = "equivalent" if result == "survived" else "wrongly listed"
                 counts[result] += 1
-                text = f"{name}: {old.strip()}  ->  {exceptions.bare(new)}"
+                text = f"{name}:{line + 1}: {old.strip()}  ->  {exceptions.bare(new)}"
                 print(f"{number}/{len(chosen)} {result:10} {','.join(by)} {text}", flush=True)
                 if options.list:
                     with open(options.list, "a") as file:
