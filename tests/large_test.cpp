@@ -142,8 +142,8 @@ TEST_F(WrappedBlock, is_never_overrun_and_is_released)
 {
     std::uint32_t tried = 0, too_small = 0, no_room = 0;
     for (const VectorMessage& vector : vector_messages()) {
-        // One element below the wrap, where the block is too large for any memory; the wrap; some elements above it; and
-        // where nothing at all is left.
+        // One element below the wrap, where the block is too large for any memory; the wrap; some elements above it;
+        // and where nothing at all is left.
         const std::uint64_t size = vector.record_size();
         for (const std::uint32_t count :
              {vector.count(0) - 1, vector.count(0), vector.count(size), vector.count(3 * size), vector.count(1 << 16),
