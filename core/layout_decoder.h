@@ -406,7 +406,7 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// False, and nothing is done that decode_message does not do anew, when there is no fast way. The services must have
+// False, and nothing is done that decode_message does not do again, if no fast path applies. The services must have
 // been looked up: fast paths allocate through the unit's hooks as they find them.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool read_message(Input in, u8* record, const Decoder& decoder)

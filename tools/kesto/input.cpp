@@ -57,7 +57,7 @@ Bytes bytes_from_hex(std::string_view text)
         if (start == std::string_view::npos)
             return bytes;
         text.remove_prefix(start);
-        // "\x04\x00" is two words. Nothing behind a word's end may be looked at for it: there may be millions of words.
+        // "\x04\x00" is two words. Nothing after a word's end may be looked at for it: there may be millions of words.
         const std::size_t end = std::min(text.find_first_of(word_ends, 1), text.size());
         append_word(bytes, text.substr(0, end));
         text.remove_prefix(end);

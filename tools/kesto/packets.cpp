@@ -158,7 +158,7 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
     int result = accepted;
     const Explanation verdict = explain_verdict(*reading.message, reading.packet.bytes, choices.most_memory);
     if (verdict.given_up) {
-        json["error"] = given_up_text(choices.most_memory);   // the packets behind it are read all the same
+        json["error"] = given_up_text(choices.most_memory);   // the packets after it are still read
         result = unusable;
     } else if (verdict.refused) {
         json["refused"] = refused_json(verdict, *verdict.refused);
