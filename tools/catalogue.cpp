@@ -87,30 +87,17 @@ private:
 #define KESTO_QUOTED(text) KESTO_QUOTED_EXPANDED(text)
 #define KESTO_QUOTED_EXPANDED(text) #text
 
-#define KESTO_MODULE ifit_dfx
-#define KESTO_CATALOGUE "messages/ifit_dfx/ifit_dfx.def"
-#include "tools/catalogue_module.inc"
-
-#define KESTO_MODULE ifit
-#define KESTO_CATALOGUE "messages/ifit/ifit.def"
-#include "tools/catalogue_module.inc"
-
-#define KESTO_MODULE ifit_sync
-#define KESTO_CATALOGUE "messages/ifit_sync/ifit_sync.def"
-#include "tools/catalogue_module.inc"
-
-#define KESTO_MODULE ntvifit
-#define KESTO_CATALOGUE "messages/ntvifit/ntvifit.def"
-#include "tools/catalogue_module.inc"
+#define KESTO_EACH_MODULE "tools/catalogue_module.inc"
+#include "messages/modules.inc"
+#undef KESTO_EACH_MODULE
 
 const Builder& whole_catalogue()
 {
     static const Builder built = [] {
         Builder builder;
-        ifit_dfx::add(builder);
-        ifit::add(builder);
-        ifit_sync::add(builder);
-        ntvifit::add(builder);
+#define KESTO_EACH_MODULE "tools/add_module.inc"
+#include "messages/modules.inc"
+#undef KESTO_EACH_MODULE
         return builder;
     }();
     return built;

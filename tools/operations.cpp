@@ -4,10 +4,9 @@
 #include <cstdlib>
 #include <iterator>
 
-#include "ifit.h"
-#include "ifit_dfx.h"
-#include "ifit_sync.h"
-#include "ntvifit.h"
+#define KESTO_EACH_MODULE "tools/module_header.inc"
+#include "messages/modules.inc"
+#undef KESTO_EACH_MODULE
 
 namespace kesto::tools {
 
@@ -35,36 +34,34 @@ To as(From from)
      as<decltype(Operations::sendtomsg)>(message##__sendtomsg)},
 #define NAMED_FIELDS(...)
 
-const Operations ifit_dfx_messages[] = {
-#include "messages/ifit_dfx/ifit_dfx.def"
-};
-const Operations ifit_messages[] = {
-#include "messages/ifit/ifit.def"
-};
-const Operations ifit_sync_messages[] = {
-#include "messages/ifit_sync/ifit_sync.def"
-};
-const Operations ntvifit_messages[] = {
-#include "messages/ntvifit/ntvifit.def"
-};
+#define KESTO_QUOTED(text) KESTO_QUOTED_EXPANDED(text)
+#define KESTO_QUOTED_EXPANDED(text) #text
+#define KESTO_JOIN(a, b) KESTO_JOIN_EXPANDED(a, b)
+#define KESTO_JOIN_EXPANDED(a, b) a##b
 
 const ModuleOperations all[] = {
-    {"ifit_dfx", ifit_dfx_messages, ifit_dfx_recv_init, ifit_dfx_send_init, ifit_dfx__send_resource_clean},
-    {"ifit", ifit_messages, ifit_recv_init, ifit_send_init, ifit__send_resource_clean},
-    {"ifit_sync", ifit_sync_messages, ifit_sync_recv_init, ifit_sync_send_init, ifit_sync__send_resource_clean},
-    {"ntvifit", ntvifit_messages, ntvifit_recv_init, ntvifit_send_init, ntvifit__send_resource_clean},
+#define KESTO_EACH_MODULE "tools/operations_module.inc"
+#include "messages/modules.inc"
+#undef KESTO_EACH_MODULE
 };
 
 }   // namespace
 
 std::span<const ModuleOperations> module_operations() { return all; }
 
-const Operations& operations(std::string_view name)
+const Operations* find_operations(std::string_view name)
 {
     for (const ModuleOperations& module : all)
         for (const Operations& message : module.messages)
             if (name == message.name)
-                return message;
+                return &message;
+    return nullptr;
+}
+
+const Operations& operations(std::string_view name)
+{
+    if (const Operations* const found = find_operations(name))
+        return *found;
     std::fprintf(stderr, "no message %.*s\n", static_cast<int>(name.size()), name.data());
     std::abort();
 }

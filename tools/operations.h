@@ -28,9 +28,11 @@ struct ModuleOperations {
     void (*send_resource_clean)();
 };
 
+// Those of the modules that are built.
 std::span<const ModuleOperations> module_operations();
 
-// Ends the process for a name that no message has.
+// Null for a name that no message of these has; the second ends the process then.
+const Operations* find_operations(std::string_view name);
 const Operations& operations(std::string_view name);
 
 }   // namespace kesto::tools

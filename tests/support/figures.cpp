@@ -394,7 +394,16 @@ std::string read_file(const std::string& path)
 
 bool load_catalogue(Catalogue& catalogue, std::string& error)
 {
-    return catalogue.add(read_file(KESTO_TEST_DATA "/messages.txt"), error);
+    const std::string lists = read_file(KESTO_TEST_DATA "/messages.txt") + read_file(KESTO_TEST_DATA "/../module/messages.txt");
+    const std::string built = " " KESTO_MODULES " ", begin = "module ";
+    for (std::size_t at = lists.find(begin); at != std::string::npos;) {
+        const std::size_t next = lists.find("\n" + begin, at);
+        const std::string name = lists.substr(at + begin.size(), lists.find('\n', at) - at - begin.size());
+        if (built.find(" " + name + " ") != std::string::npos && !catalogue.add(lists.substr(at, next - at), error))
+            return false;
+        at = next == std::string::npos ? next : next + 1;
+    }
+    return true;
 }
 
 bool load_figures(const Catalogue& catalogue, std::vector<Figure>& figures, std::string& error)
