@@ -3,7 +3,8 @@
   instructions.py TARGET PROGRAM            fails where a case got dearer by more than 3 %
   instructions.py TARGET PROGRAM --write    renews the file
 
-Valgrind counts what it can run; for ARM, --plugin names the emulator's plugin that does.
+Valgrind counts what runs on any x86-64 machine; for other targets, --emulator says what runs the program and --plugin
+names the emulator's plugin that counts.
 
 The counts take in what the library calls in libc, and so depend on compiler and libc; they do not depend on what else
 the machine is doing.
@@ -32,9 +33,9 @@ def under_callgrind(program, folder):
     return said, [int(total[1]) for total in totals]
 
 
-def under_emulator(program, folder, plugin, root):
+def under_emulator(program, folder, emulator, plugin):
     log = pathlib.Path(folder) / "log"
-    said = subprocess.run(["qemu-arm", "-L", root, "-plugin", plugin, "-d", "plugin", "-D", log, program], check=True,
+    said = subprocess.run([*emulator.split(), "-plugin", plugin, "-d", "plugin", "-D", log, program], check=True,
                           capture_output=True, text=True).stdout
     return said, [int(line) for line in log.read_text(encoding="utf-8").split()]
 
@@ -42,8 +43,8 @@ def under_emulator(program, folder, plugin, root):
 def count(options):
     """Instructions per operation, by case."""
     with tempfile.TemporaryDirectory() as folder:
-        said, totals = (under_emulator(options.program, folder, options.plugin, "/usr/arm-linux-gnueabihf")
-                        if options.plugin else under_callgrind(options.program, folder))
+        said, totals = (under_emulator(options.program, folder, options.emulator, options.plugin)
+                        if options.emulator else under_callgrind(options.program, folder))
     cases = [line.split() for line in said.splitlines()]
     if len(cases) != len(totals):   # callgrind dumps once more at the end of the program
         sys.exit(f"{len(cases)} cases and {len(totals)} counts")
@@ -59,6 +60,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("target")
     parser.add_argument("program")
+    parser.add_argument("--emulator")
     parser.add_argument("--plugin")
     parser.add_argument("--compiler", default="c++")
     parser.add_argument("--write", action="store_true")
