@@ -8,7 +8,12 @@
 #include <stddef.h>
 #include <string.h>
 
-static inline int memset_s(void *destination, size_t limit, int value, size_t count)
+/* Empty where platform/standin/bounded_memory.cpp makes a library of them. */
+#ifndef KESTO_BOUNDED_MEMORY_LINKAGE
+#define KESTO_BOUNDED_MEMORY_LINKAGE static inline
+#endif
+
+KESTO_BOUNDED_MEMORY_LINKAGE int memset_s(void *destination, size_t limit, int value, size_t count)
 {
     if (count > limit)
         return ERANGE;
@@ -16,7 +21,7 @@ static inline int memset_s(void *destination, size_t limit, int value, size_t co
     return 0;
 }
 
-static inline int memcpy_s(void *destination, size_t limit, const void *source, size_t count)
+KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_s(void *destination, size_t limit, const void *source, size_t count)
 {
     if (count > limit)
         return ERANGE;
@@ -25,7 +30,7 @@ static inline int memcpy_s(void *destination, size_t limit, const void *source, 
 }
 
 /* The closed library's copy for small counts known at compile time; plain memcpy is exactly that here. */
-static inline int memcpy_sOptAsm(void *destination, size_t limit, const void *source, size_t count)
+KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_sOptAsm(void *destination, size_t limit, const void *source, size_t count)
 {
     return memcpy_s(destination, limit, source, count);
 }

@@ -5,13 +5,13 @@
 #ifndef KESTO_PLATFORM_STANDIN_CAPTURE_H
 #define KESTO_PLATFORM_STANDIN_CAPTURE_H
 
-#include <sys/uio.h>
+#include <stdint.h>
 
 // Ends the capture there is and begins another one, unless `path` is null. On a failure errno says more, and a line on
 // stderr says it to the user.
 [[nodiscard]] bool capture_to(const char* path);
 
-// One packet of at most two pieces. Costs next to nothing without a capture.
-void capture_packet(const iovec* pieces, int count);
+// A packet of two pieces, either of which may be empty. Costs next to nothing without a capture.
+void capture_packet(const uint8_t* head, uint32_t head_length, const uint8_t* rest, uint32_t rest_length);
 
 #endif

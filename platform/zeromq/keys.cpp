@@ -1,15 +1,16 @@
 #include "platform/zeromq/keys.h"
 
+#include <algorithm>
 #include <errno.h>
 #include <pthread.h>
 #include <signal.h>
-#include <stdlib.h>
 #include <string.h>
 #include <zmq.h>
 
+#include "platform/zeromq/lines.h"
+
 namespace {
 
-constexpr const char* blanks = " \t\r\n";
 constexpr const char* no_key = "no key, or not one of 40 characters";
 
 [[nodiscard]] bool read_key(const char* word, uint8_t (&key)[KEY_BYTES])
@@ -53,19 +54,15 @@ const char* read_receiver(const char* address, const char* word, Keys& keys)
     return nullptr;
 }
 
-// secret KEY, sender KEY, or receiver ADDRESS KEY. Null when `line` says so.
-const char* read_line(char* line, Keys& keys)
+// secret KEY, sender KEY, or receiver ADDRESS KEY. Null when `words` say so.
+const char* read_key_line(const Words& words, Keys& keys)
 {
-    char* rest = nullptr;
-    const char* const word = strtok_r(line, blanks, &rest);
-    const char* const second = strtok_r(nullptr, blanks, &rest);
-    const char* const third = strtok_r(nullptr, blanks, &rest);
-    if (strcmp(word, "receiver") == 0 && strtok_r(nullptr, blanks, &rest) == nullptr)
-        return read_receiver(second, third, keys);
-    if (strcmp(word, "secret") == 0 && third == nullptr)
-        return read_secret(second, keys);
-    if (strcmp(word, "sender") == 0 && third == nullptr)
-        return read_sender(second, keys);
+    if (strcmp(words[0], "receiver") == 0 && words[3] == nullptr)
+        return read_receiver(words[1], words[2], keys);
+    if (strcmp(words[0], "secret") == 0 && words[2] == nullptr)
+        return read_secret(words[1], keys);
+    if (strcmp(words[0], "sender") == 0 && words[2] == nullptr)
+        return read_sender(words[1], keys);
     return "neither secret KEY, sender KEY nor receiver ADDRESS KEY";
 }
 
@@ -100,7 +97,7 @@ constinit Admission admission{};
         while (got < 0 && errno == EINTR);
         if (got < 0)
             return false;
-        frame.length = static_cast<size_t>(got) < sizeof frame.bytes ? static_cast<size_t>(got) : sizeof frame.bytes;
+        frame.length = std::min(static_cast<size_t>(got), sizeof frame.bytes);
         size_t size = sizeof more;
         zmq_getsockopt(admission.socket, ZMQ_RCVMORE, &more, &size);
     }
@@ -111,10 +108,9 @@ constinit Admission admission{};
 {
     if (mechanism.length != 5 || memcmp(mechanism.bytes, "CURVE", 5) != 0 || key.length != KEY_BYTES)
         return false;
-    for (uint32_t i = 0; i < admission.keys->sender_count; ++i)
-        if (memcmp(admission.keys->senders[i], key.bytes, KEY_BYTES) == 0)
-            return true;
-    return false;
+    const auto& senders = admission.keys->senders;
+    return std::any_of(senders, senders + admission.keys->sender_count,
+                       [&](const auto& sender) { return memcmp(sender, key.bytes, KEY_BYTES) == 0; });
 }
 
 void* admit(void*)
@@ -137,18 +133,8 @@ void* admit(void*)
 
 bool read_keys(FILE* file, const char* name, Keys& keys)
 {
-    bool good = true;
-    char* line = nullptr;
-    size_t room = 0;
-    for (int number = 1; getline(&line, &room, file) >= 0; ++number) {
-        if (line[0] == '#' || line[strspn(line, blanks)] == '\0')   // elsewhere # may belong to a key
-            continue;
-        const char* const fault = read_line(line, keys);
-        if (fault != nullptr)
-            fprintf(stderr, "%s:%d: %s\n", name, number, fault);
-        good = good && fault == nullptr;
-    }
-    free(line);
+    // Only whole lines are comments, as # may belong to a key.
+    const bool good = read_lines(file, name, false, "", [&](const Words& words) { return read_key_line(words, keys); });
     if (good && keys.secret_key[0] == '\0')
         fprintf(stderr, "%s: no secret key\n", name);
     return good && keys.secret_key[0] != '\0';

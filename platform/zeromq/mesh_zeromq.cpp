@@ -3,54 +3,38 @@
 // which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS a socket talks only to peers whose keys it
 // knows.
 
+#include <algorithm>
 #include <errno.h>
-#include <pthread.h>
 #include <stdio.h>
-#include <stdlib.h>
-#include <string.h>
 #include <unistd.h>
 #include <zmq.h>
 
-#include "platform/mesh.h"
-#include "platform/standin/mesh_standin.h"
 #include "platform/standin/mesh_transport.h"
 #include "platform/zeromq/endpoints.h"
 #include "platform/zeromq/keys.h"
 
 namespace {
 
-constexpr uint32_t packet_head = 8;
 constexpr uint32_t sealing = 64;   // more than encryption adds to a part
-constexpr int patience_ms = 5000; // for a receiver to appear or to make room, and at the end for what is still to leave
+constexpr int patience_ms =
+    5000;   // for a receiver to appear or to make room, and at the end for what is still to leave
 
 // A place with its socket, which one thread uses at a time.
 struct Place {
     Endpoint endpoint;
-    void *socket; // null when it could not be opened
+    void* socket;   // null when it could not be opened
     pthread_mutex_t mutex;
 };
 
 constinit pthread_once_t opened = PTHREAD_ONCE_INIT;
-constinit void *zeromq{};
+constinit void* zeromq{};
 constinit bool with_keys{};
 constinit Keys keys{};
 constinit pid_t opener{};
 constinit Place places[MOST_ENDPOINTS]{};
 constinit uint32_t place_count{};
 
-struct Hold {
-    explicit Hold(Place &place) : mutex(place.mutex) { pthread_mutex_lock(&mutex); }
-    ~Hold() { pthread_mutex_unlock(&mutex); }
-    Hold(const Hold &) = delete;
-    Hold &operator=(const Hold &) = delete;
-
-    pthread_mutex_t &mutex;
-};
-
-void set(void *socket, int option, int value)
-{
-    zmq_setsockopt(socket, option, &value, sizeof value);
-}
+void set(void* socket, int option, int value) { zmq_setsockopt(socket, option, &value, sizeof value); }
 
 [[nodiscard]] bool set_key(void* socket, int option, const char* key)
 {
@@ -80,9 +64,9 @@ void set(void *socket, int option, int value)
     return (endpoint.receives ? zmq_bind : zmq_connect)(socket, endpoint.address) == 0;
 }
 
-void *open_socket(const Endpoint &endpoint)
+void* open_socket(const Endpoint& endpoint)
 {
-    void *const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
+    void* const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
     if (socket == nullptr)
         return nullptr;
     // The limit is per part, and a longer one ends the connection. ZeroMQ has none for a message of many parts.
@@ -90,7 +74,7 @@ void *open_socket(const Endpoint &endpoint)
     zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest);
     set(socket, ZMQ_LINGER, patience_ms);
     set(socket, ZMQ_SNDTIMEO, patience_ms);
-    set(socket, ZMQ_IMMEDIATE, 1); // a receiver that has not appeared yet keeps the sender waiting; nothing is queued
+    set(socket, ZMQ_IMMEDIATE, 1);   // a receiver that has not appeared yet keeps the sender waiting; nothing is queued
     if (connect_socket(socket, endpoint))
         return socket;
     fprintf(stderr, "MESH over ZeroMQ: %s: %s\n", endpoint.address, zmq_strerror(errno));
@@ -117,8 +101,8 @@ void *open_socket(const Endpoint &endpoint)
 void open_all()
 {
     static Endpoint endpoints[MOST_ENDPOINTS];
-    const char *const name = getenv("MESH_ZEROMQ_MAP");
-    FILE *const file = name == nullptr ? nullptr : fopen(name, "re");
+    const char* const name = getenv("MESH_ZEROMQ_MAP");
+    FILE* const file = name == nullptr ? nullptr : fopen(name, "re");
     if (file == nullptr) {
         fprintf(stderr, "MESH over ZeroMQ: MESH_ZEROMQ_MAP names no readable file; all channels are loopbacks\n");
         return;
@@ -154,20 +138,16 @@ void open_all()
 bool carries(uint32_t channel)
 {
     pthread_once(&opened, open_all);
-    for (uint32_t i = 0; i < place_count; ++i)
-        if (places[i].endpoint.channel == channel)
-            return true;
-    return false;
+    return std::any_of(places, places + place_count,
+                       [=](const Place& place) { return place.endpoint.channel == channel; });
 }
 
-Place *find_place(uint32_t channel, bool receives, uint32_t destination)
+Place* find_place(uint32_t channel, bool receives, uint32_t destination)
 {
-    for (uint32_t i = 0; i < place_count; ++i) {
-        const Endpoint &endpoint = places[i].endpoint;
-        if (endpoint.channel == channel && endpoint.receives == receives && endpoint.destination == destination)
-            return &places[i];
-    }
-    return nullptr;
+    Place* const end = places + place_count;
+    Place* const found = std::find_if(
+        places, end, [=](const Place& place) { return is_place(place.endpoint, channel, receives, destination); });
+    return found == end ? nullptr : found;
 }
 
 int result_of_errno()
@@ -205,8 +185,7 @@ struct Parts {
         if (zmq_msg_init_size(part, packet_head + item.length) != 0)
             return false;
         uint8_t* const packet = static_cast<uint8_t*>(zmq_msg_data(part));
-        store_u32(packet, item.id);
-        store_u32(packet + 4, item.length);
+        store_head(packet, item);
         if (item.length > 0)
             memcpy(packet + packet_head, item.data, item.length);
     }
@@ -222,15 +201,15 @@ int send_parts(void* socket, Parts& parts)
     return MESH_STANDIN_OK;
 }
 
-int send(uint32_t channel, const MeshSendItem *items, uint32_t count, uint32_t destination)
+int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
 {
-    Place *const place = find_place(channel, false, destination);
+    Place* const place = find_place(channel, false, destination);
     if (place == nullptr)
         return MESH_STANDIN_NO_PEER;
     Parts parts(count);
     if (!make_parts(items, count, parts))
         return MESH_STANDIN_NO_MEMORY;
-    const Hold hold(*place);
+    const Lock hold(place->mutex);
     if (place->socket == nullptr)
         return MESH_STANDIN_BAD_PATH;
     const int result = send_parts(place->socket, parts);
@@ -239,34 +218,38 @@ int send(uint32_t channel, const MeshSendItem *items, uint32_t count, uint32_t d
         zmq_close(place->socket);
         place->socket = open_socket(place->endpoint);
     }
+    if (result == MESH_STANDIN_OK)
+        std::for_each(items, items + count, mesh_sent);
     return result;
 }
 
 // Waits for the socket's turn as well as for the packet.
-int receive(uint32_t channel, uint32_t timeout_ms, uint8_t *packet, uint32_t capacity, uint32_t &length)
+int receive(uint32_t channel, uint64_t deadline, uint8_t* packet, uint32_t capacity, uint32_t& length)
 {
-    Place *const place = find_place(channel, true, 0);
+    Place* const place = find_place(channel, true, 0);
     if (place == nullptr)
         return MESH_STANDIN_NOT_BOUND;
     if (place->socket == nullptr)
         return MESH_STANDIN_BAD_PATH;
-    const Hold hold(*place);
-    zmq_pollitem_t entry{place->socket, 0, ZMQ_POLLIN, 0};
-    const int ready = zmq_poll(&entry, 1, timeout_ms > INT32_MAX ? INT32_MAX : static_cast<long>(timeout_ms));
-    if (ready == 0 || (ready < 0 && errno == EINTR))
-        return MESH_STANDIN_TIMEOUT;
-    const int got = ready < 0 ? -1 : zmq_recv(place->socket, packet, capacity, ZMQ_DONTWAIT);
-    if (got < 0)
-        return result_of_errno();
-    length = static_cast<uint32_t>(got) < capacity ? static_cast<uint32_t>(got) : capacity;
-    return MESH_STANDIN_OK;
+    const Lock hold(place->mutex);
+    for (;;) {
+        const int left = ms_until(deadline);
+        zmq_pollitem_t entry{place->socket, 0, ZMQ_POLLIN, 0};
+        const int ready = zmq_poll(&entry, 1, left);
+        const int got = ready > 0 ? zmq_recv(place->socket, packet, capacity, ZMQ_DONTWAIT) : -1;
+        if (got >= 0) {
+            length = std::min(static_cast<uint32_t>(got), capacity);
+            return MESH_STANDIN_OK;
+        }
+        if (ready != 0 && errno != EINTR && errno != EAGAIN)
+            return result_of_errno();
+        if (ready == 0 && left == 0)
+            return MESH_STANDIN_TIMEOUT;
+    }
 }
 
 constexpr MeshTransport transport{carries, send, receive};
 
-} // namespace
+}   // namespace
 
-const MeshTransport *mesh_transport()
-{
-    return &transport;
-}
+const MeshTransport* mesh_transport() { return &transport; }
