@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <tuple>
 
 #include "reference/generate.h"
 #include "reference/strange.h"
@@ -175,12 +176,7 @@ TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
 // to.
 TEST_P(EveryMessage, refused_parameters_touch_nothing)
 {
-    const struct {
-        bool bytes;
-        std::uint32_t length;
-        bool record;
-        const char* logged;
-    } cases[] = {
+    const std::tuple<bool, std::uint32_t, bool, const char*> cases[] = {
         {false, 40, true, "null, 40, nonNull"},          {false, 3, false, "null, 3, null"},
         {true, 40, false, "nonNull, 40, null"},          {true, 0, true, "nonNull, 0, nonNull"},
         {true, 3, true, "nonNull, 3, nonNull"},          {true, 0x80000000, true, "nonNull, -2147483648, nonNull"},
@@ -188,17 +184,17 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
     const ByteString bytes = reference::compact_form(reference::zero_record(message()));
     std::vector<std::uint8_t> record(library().record_size, 0xC3);
     reference::Outcome outcome;
-    for (const auto& each : cases) {
-        const std::uint8_t* const buffer = each.bytes ? bytes.data() : nullptr;
+    for (const auto& [has_bytes, length, has_record, logged] : cases) {
+        const std::uint8_t* const buffer = has_bytes ? bytes.data() : nullptr;
         reference::DecodeOptions options;
-        options.record_null = !each.record;
-        reference::decode(message(), buffer, each.length, options, outcome);
+        options.record_null = !has_record;
+        reference::decode(message(), buffer, length, options, outcome);
         ASSERT_TRUE(outcome.untouched);
         services().start();
-        EXPECT_EQ(library().unpack(buffer, each.length, each.record ? record.data() : nullptr), record.size());
+        EXPECT_EQ(library().unpack(buffer, length, has_record ? record.data() : nullptr), record.size());
         EXPECT_EQ(services().difference(outcome.trace), "");
         EXPECT_EQ(to_text(outcome.trace.at(0)),
-                  message().name + "_unpack logs 22 [KESTO]:Param invalid(" + each.logged + ")");
+                  message().name + "_unpack logs 22 [KESTO]:Param invalid(" + logged + ")");
         EXPECT_EQ(record, std::vector<std::uint8_t>(record.size(), 0xC3));
     }
 

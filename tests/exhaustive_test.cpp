@@ -46,32 +46,26 @@ DecodeCheck& check()
     return instance;
 }
 
-// A byte string in place in front of the guarded page, to be changed and decoded there.
-class Sample {
-public:
-    Sample(const reference::Message& message, const ByteString& bytes)
-        : message_(message), length_(static_cast<std::uint32_t>(bytes.size())),
-          at_(check().buffer().place(bytes.size()))
-    {
-        std::copy(bytes.begin(), bytes.end(), at_);
-    }
+// A byte string in place before the guarded page, to be changed and decoded there.
+struct Sample {
+    const reference::Message& message;
+    const ByteString& whole;
+    const std::uint32_t length = static_cast<std::uint32_t>(whole.size());
+    std::uint8_t* const bytes = std::copy(whole.begin(), whole.end(), check().buffer().place(length)) - length;
 
-    std::uint8_t* bytes() { return at_; }
-    std::uint32_t length() const { return length_; }
+    void restore(std::uint32_t position, std::uint32_t width)
+    {
+        std::copy_n(&whole[position], width, bytes + position);
+    }
 
     // False, after a report, where library and reference differ.
     [[nodiscard]] bool decodes_alike()
     {
-        const std::string fault = check().check(message_, at_, length_);
+        const std::string fault = check().check(message, bytes, length);
         if (!fault.empty())
-            ADD_FAILURE() << fault << "\n  bytes " << hex({at_, at_ + length_});
+            ADD_FAILURE() << fault << "\n  bytes " << hex({bytes, bytes + length});
         return fault.empty();
     }
-
-private:
-    const reference::Message& message_;
-    std::uint32_t length_;
-    std::uint8_t* at_;
 };
 
 std::vector<ByteString> full_samples(const reference::Message& message)
@@ -158,16 +152,16 @@ KESTO_FOR_EVERY_MESSAGE(EveryFault);
 TEST_P(EveryFault, any_other_value_of_any_byte)
 {
     for (const ByteString& whole : full_samples(message())) {
-        Sample sample(message(), whole);
-        for (std::uint32_t at = 0; at < sample.length(); ++at) {
+        Sample sample{message(), whole};
+        for (std::uint32_t at = 0; at < sample.length; ++at) {
             const std::uint32_t right = whole[at];
             for (std::uint32_t change = 1; change < 256; ++change) {
                 if (!share.takes(at + change))
                     continue;
-                sample.bytes()[at] = static_cast<std::uint8_t>(right ^ change);
+                sample.bytes[at] = static_cast<std::uint8_t>(right ^ change);
                 ASSERT_TRUE(sample.decodes_alike()) << "byte " << at << ", was " << right;
             }
-            sample.bytes()[at] = static_cast<std::uint8_t>(right);
+            sample.restore(at, 1);
         }
     }
 }
@@ -175,16 +169,16 @@ TEST_P(EveryFault, any_other_value_of_any_byte)
 TEST_P(EveryFault, border_values_of_any_word)
 {
     for (const ByteString& whole : full_samples(message())) {
-        Sample sample(message(), whole);
+        Sample sample{message(), whole};
         std::uint64_t number = 0;
         for (const Word& word : words_of(message(), whole)) {
-            for (const std::uint64_t value : border_values(word, all_borders(sample.length()), sample.length())) {
+            for (const std::uint64_t value : border_values(word, all_borders(sample.length), sample.length)) {
                 if (!share.takes(number++))
                     continue;
-                put(sample.bytes() + word.position, value, word.width);
+                put(sample.bytes + word.position, value, word.width);
                 ASSERT_TRUE(sample.decodes_alike()) << "word at " << word.position;
             }
-            std::copy_n(&whole[word.position], word.width, sample.bytes() + word.position);
+            sample.restore(word.position, word.width);
         }
     }
 }
@@ -211,12 +205,12 @@ TEST_P(EveryShape, border_values_of_any_two_words)
 {
     const reference::Message& message = *transcribed().find(GetParam());
     for (const ByteString& whole : full_samples(message)) {
-        Sample sample(message, whole);
+        Sample sample{message, whole};
         std::vector<Word> words = words_of(message, whole);
         std::erase_if(words, [](const Word& word) { return word.repeated; });   // the first element stands for all
         std::vector<std::vector<std::uint64_t>> values;                         // by word
         for (const Word& word : words)
-            values.push_back(border_values(word, few_borders(sample.length()), sample.length()));
+            values.push_back(border_values(word, few_borders(sample.length), sample.length));
         std::uint64_t number = 0;
         for (std::size_t i = 0; i < words.size(); ++i)
             for (std::size_t j = 0; j < i; ++j) {
@@ -224,26 +218,16 @@ TEST_P(EveryShape, border_values_of_any_two_words)
                     for (const std::uint64_t other : values[j]) {
                         if (!share.takes(number++))
                             continue;
-                        put(sample.bytes() + words[i].position, one, words[i].width);
-                        put(sample.bytes() + words[j].position, other, words[j].width);
+                        put(sample.bytes + words[i].position, one, words[i].width);
+                        put(sample.bytes + words[j].position, other, words[j].width);
                         ASSERT_TRUE(sample.decodes_alike())
                             << "words at " << words[i].position << ", " << words[j].position;
                     }
                 for (const std::size_t k : {i, j})
-                    std::copy_n(&whole[words[k].position], words[k].width, sample.bytes() + words[k].position);
+                    sample.restore(words[k].position, words[k].width);
             }
     }
 }
-
-struct Summary : testing::Environment {
-    void TearDown() override
-    {
-        std::printf("%llu decodes, part %u of %u\n", static_cast<unsigned long long>(check().decodes()), share.number,
-                    share.of);
-    }
-};
-
-const testing::Environment* const summary = testing::AddGlobalTestEnvironment(new Summary);
 
 }   // namespace
 

@@ -12,18 +12,13 @@ namespace {
 
 using namespace reference;
 
-class WrittenOut : public testing::Test {
-protected:
-    static Record record_of(const Message& message, std::string_view text)
-    {
-        Record record;
-        std::string error;
-        EXPECT_TRUE(parse_record(message, text, record, error)) << error;
-        return record;
-    }
-
-    DecodeCheck check_;
-};
+Record record_of(const Message& message, std::string_view text)
+{
+    Record record;
+    std::string error;
+    EXPECT_TRUE(parse_record(message, text, record, error)) << error;
+    return record;
+}
 
 struct TraceCase {
     const char* what;
@@ -127,16 +122,17 @@ constexpr TraceCase trace_cases[] = {
      "ifit_smooth_mesh_unpack_non_root logs 22 [KESTO]:Vtable Len(21) is out of range(0 - 20)\n", "{5 {0 0}}"},
 };
 
-TEST_F(WrittenOut, traces_are_met)
+TEST(WrittenOut, traces_are_met)
 {
+    DecodeCheck check;
     for (const TraceCase& each : trace_cases) {
         SCOPED_TRACE(each.what);
         const Message& message = *transcribed().find(each.message);
         Bytes bytes = compact_form(record_of(message, each.record));
         each.spoil(bytes);
-        check_.faults.at = each.failing_allocation;
-        EXPECT_EQ(check_.check(message, bytes), "");
-        const Outcome& outcome = check_.outcome();
+        check.faults.at = each.failing_allocation;
+        EXPECT_EQ(check.check(message, bytes), "");
+        const Outcome& outcome = check.outcome();
         EXPECT_STREQ(name_of(outcome.failure.refusal), each.refusal);
         EXPECT_EQ(outcome.untouched, each.left == nullptr);
         if (each.left != nullptr) {
@@ -217,8 +213,9 @@ constexpr EdgeCase edge_cases[] = {
     {"ifit_sync_ifit_rule_update", "0c000000 0800 0000 0000 0400 08000000 000000", "cell_end", "zero"},
 };
 
-TEST_F(WrittenOut, edges_of_every_test_are_on_the_right_side)
+TEST(WrittenOut, edges_of_every_test_are_on_the_right_side)
 {
+    DecodeCheck check;
     for (const EdgeCase& edge : edge_cases) {
         SCOPED_TRACE(edge.message + std::string(" ") + edge.hex);
         const Message& message = *transcribed().find(edge.message);
@@ -226,9 +223,9 @@ TEST_F(WrittenOut, edges_of_every_test_are_on_the_right_side)
         ASSERT_TRUE(parse_hex(edge.hex, bytes));
         const bool succeeds = edge.refusal == std::string("none");
         const Record left = record_of(message, edge.left != nullptr ? edge.left : "zero");
-        check_.expected = succeeds ? &left : nullptr;
-        EXPECT_EQ(check_.check(message, bytes), "");
-        const Outcome& outcome = check_.outcome();
+        check.expected = succeeds ? &left : nullptr;
+        EXPECT_EQ(check.check(message, bytes), "");
+        const Outcome& outcome = check.outcome();
         EXPECT_STREQ(name_of(outcome.failure.refusal), edge.refusal);
         EXPECT_EQ(outcome.untouched, edge.left == nullptr);
         if (!succeeds && !outcome.untouched) {

@@ -156,7 +156,6 @@ std::string DecodeCheck::check(const reference::Message& message, const ByteStri
 
 std::string DecodeCheck::check(const reference::Message& message, const std::uint8_t* bytes, std::uint32_t length)
 {
-    ++decodes_;
     const Operations& library = operations_of(message);
     reference::DecodeOptions options;
     options.faults = faults;

@@ -57,7 +57,6 @@ public:
 
     // What the reference made of the last one.
     const reference::Outcome& outcome() const { return outcome_; }
-    std::uint64_t decodes() const { return decodes_; }
 
     const GuardedBuffer& buffer() const { return buffer_; }
 
@@ -69,7 +68,6 @@ private:
     GuardedBuffer packed_;
     GuardedBuffer storage_;
     reference::Outcome outcome_;
-    std::uint64_t decodes_ = 0;
 };
 
 // Packs and sends a record with the library and compares all bytes with the reference's. Empty where nothing differs.
