@@ -1,6 +1,5 @@
 #include "fuzz/inputs.h"
 
-#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -101,73 +100,11 @@ void read_record(Source& source, Record& record)
         read_field(source, record.message->slots[k], record.fields[k]);
 }
 
-void write_record(const Record& record, Bytes& out);
-
-void write_field(const Slot& slot, const Field& field, Bytes& out)
-{
-    const auto lead = [&](std::size_t value) { out.push_back(static_cast<std::uint8_t>(value)); };
-    switch (slot.kind) {
-    case Kind::scalar:
-        lead(field.number == 0 ? 0 : 2);
-        if (field.number != 0)
-            reference::append(out, field.number, slot.width);
-        break;
-    case Kind::array:
-        lead(1);
-        out.insert(out.end(), field.octets.begin(), field.octets.end());
-        for (const std::uint32_t word : field.words)
-            reference::append(out, word, 4);
-        break;
-    case Kind::string:
-    case Kind::bytes: {
-        const std::size_t none = slot.kind == Kind::string ? 1 : 2;
-        const std::size_t length = std::min<std::size_t>(field.octets.size(), 255 - none);
-        lead(field.present ? none + length : 0);
-        out.insert(out.end(), field.octets.begin(), field.octets.begin() + static_cast<std::ptrdiff_t>(length));
-        break;
-    }
-    case Kind::table: write_record(field.records[0], out); break;
-    case Kind::vector: {
-        const std::size_t count = std::min<std::size_t>(field.records.size(), 6);
-        lead(field.present ? 1 + count : 0);
-        for (std::size_t i = 0; i < count; ++i)
-            write_record(field.records[i], out);
-        break;
-    }
-    }
-}
-
-void write_record(const Record& record, Bytes& out)
-{
-    for (std::size_t k = 0; k < record.fields.size(); ++k)
-        write_field(record.message->slots[k], record.fields[k], out);
-}
-
 }   // namespace
-
-Bytes decode_input(const Message& message, const Bytes& bytes)
-{
-    Bytes input;
-    reference::append(input, message.id, id_bytes);
-    input.push_back(0);
-    input.insert(input.end(), bytes.begin(), bytes.end());
-    return input;
-}
-
-Bytes record_input(const Record& record)
-{
-    Bytes input;
-    reference::append(input, record.message->id, id_bytes);
-    write_record(record, input);
-    return input;
-}
 
 const Message* message_of(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size)
 {
-    for (const Message& message : catalogue.messages)
-        if (size >= id_bytes && message.id == reference::get32(input))
-            return &message;
-    return nullptr;
+    return size < id_bytes ? nullptr : catalogue.find(reference::get32(input));
 }
 
 Record record_from(const Message& message, const std::uint8_t* input, std::size_t size)

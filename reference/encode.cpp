@@ -47,8 +47,7 @@ u64 size_of_table(const View& view)
     return size;
 }
 
-template <typename View>
-bool is_written(const View& view, std::size_t k)
+bool is_written(const TreeView& view, std::size_t k)
 {
     switch (view.message().slots[k].kind) {
     case Kind::scalar: return view.scalar(k) != 0;
@@ -67,8 +66,7 @@ void fill_cell(Bytes& out, u32 cell, u32 target)
     put(&out[cell], target - cell, 4);
 }
 
-template <typename View>
-void append_array(Bytes& out, const View& view, std::size_t k)
+void append_array(Bytes& out, const TreeView& view, std::size_t k)
 {
     const Slot& slot = view.message().slots[k];
     append(out, slot.count, 4);
@@ -76,16 +74,14 @@ void append_array(Bytes& out, const View& view, std::size_t k)
         append(out, slot.width == 1 ? view.octets(k)[i] : view.word(k, i), slot.width);
 }
 
-template <typename View>
-void append_octets(Bytes& out, const View& view, std::size_t k, u32 length)
+void append_octets(Bytes& out, const TreeView& view, std::size_t k, u32 length)
 {
     append(out, length, 4);
     out.insert(out.end(), view.octets(k), view.octets(k) + length);
 }
 
 // The count and what follows it within the table; of a vector, room for its element cells.
-template <typename View>
-void append_body(Bytes& out, const View& view, std::size_t k)
+void append_body(Bytes& out, const TreeView& view, std::size_t k)
 {
     switch (view.message().slots[k].kind) {
     case Kind::string:
@@ -109,11 +105,9 @@ u32 slot_position(const Bytes& out, const Message& message, u32 table, std::size
     return table + get16(&out[table - message.vtable_length + 4 + 2 * k]);
 }
 
-template <typename View>
-u32 write_table(Bytes& out, const View& view);
+u32 write_table(Bytes& out, const TreeView& view);
 
-template <typename View>
-void write_beneath(Bytes& out, const View& view, u32 table)
+void write_beneath(Bytes& out, const TreeView& view, u32 table)
 {
     const Message& message = view.message();
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
@@ -132,8 +126,7 @@ void write_beneath(Bytes& out, const View& view, u32 table)
     }
 }
 
-template <typename View>
-u32 write_table(Bytes& out, const View& view)
+u32 write_table(Bytes& out, const TreeView& view)
 {
     const Message& message = view.message();
     const u32 vtable = position_of_end(out);
@@ -167,8 +160,7 @@ u32 write_table(Bytes& out, const View& view)
     return table;
 }
 
-template <typename View>
-Bytes write_compact(const View& view)
+Bytes write_compact(const TreeView& view)
 {
     Bytes out;
     out.reserve(512);
@@ -178,8 +170,7 @@ Bytes write_compact(const View& view)
 }
 
 // A nested form stands whole in its parent, and its root word serves as the cell.
-template <typename View>
-void write_fixed(Bytes& out, const View& view)
+void write_fixed(Bytes& out, const TreeView& view)
 {
     const Message& message = view.message();
     const std::size_t start = out.size();
@@ -205,15 +196,6 @@ void write_fixed(Bytes& out, const View& view)
     out.resize(start + message.fixed_length);
 }
 
-template <typename View>
-Bytes fixed_form_of(const View& view)
-{
-    Bytes out;
-    out.reserve(view.message().fixed_length);
-    write_fixed(out, view);
-    return out;
-}
-
 }   // namespace
 
 u64 exact_size(const Record& record)
@@ -229,18 +211,13 @@ Bytes compact_form(const Record& record)
 {
     return write_compact(TreeView(record));
 }
-Bytes compact_form(const Message& message, const void* memory)
-{
-    return write_compact(MemoryView(message, memory));
-}
 
 Bytes fixed_form(const Record& record)
 {
-    return fixed_form_of(TreeView(record));
-}
-Bytes fixed_form(const Message& message, const void* memory)
-{
-    return fixed_form_of(MemoryView(message, memory));
+    Bytes out;
+    out.reserve(record.message->fixed_length);
+    write_fixed(out, TreeView(record));
+    return out;
 }
 
 }   // namespace kesto::reference

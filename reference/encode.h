@@ -1,5 +1,5 @@
 #pragma once
-// Both forms of a record, from its tree or from its C structure.
+// Both forms of a record, from its tree.
 
 #include "reference/record.h"
 
@@ -19,10 +19,8 @@ inline u32 reported_size(u64 exact)
 
 // The bytes that the compact writer writes; the reported size may be greater. The record must be encodable.
 Bytes compact_form(const Record& record);
-Bytes compact_form(const Message& message, const void* memory);
 
 // The bytes of the fixed form, gaps zero. The message must have one.
 Bytes fixed_form(const Record& record);
-Bytes fixed_form(const Message& message, const void* memory);
 
 }   // namespace kesto::reference

@@ -22,19 +22,7 @@ using reference::Kind;
 using reference::Message;
 using reference::Slot;
 
-const reference::Catalogue& catalogue()
-{
-    static const reference::Catalogue read = [] {
-        reference::Catalogue wanted;
-        std::string error;
-        if (!load_catalogue(wanted, error))
-            std::abort();
-        return wanted;
-    }();
-    return read;
-}
-
-const Message& message_of(const char* name) { return *catalogue().find(name); }
+const Message& message_of(const char* name) { return *transcribed().find(name); }
 
 std::size_t first_slot(const Message& message, Kind kind)
 {
@@ -230,7 +218,7 @@ TEST(Document, states_the_record_size_of_every_vector)
     std::vector<std::string> lines;
     for (std::string line; std::getline(document, line);)
         lines.push_back(line);
-    for (const Message& message : catalogue().messages) {
+    for (const Message& message : transcribed().messages) {
         if (first_slot(message, Kind::vector) == message.slots.size()) {
             EXPECT_LE(own_blocks(message), 3U) << message.name;
             continue;

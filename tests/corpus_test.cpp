@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "fuzz/inputs.h"
-#include "fuzz/one_input.h"
-#include "reference/generate.h"
 #include "tests/support/against_reference.h"
 
 namespace kesto::tests {
@@ -27,17 +25,6 @@ void expect_agreement(const char* file, std::string (*run)(const std::uint8_t* i
 TEST(Corpus, of_byte_strings_decodes_alike) { expect_agreement("decode.inputs", fuzz::run_decode_input); }
 
 TEST(Corpus, of_records_encodes_alike) { expect_agreement("record.inputs", fuzz::run_record_input); }
-
-// A record_input says all of a record whose lists, texts and blocks are short enough: else the seeds would be poor.
-TEST(Corpus, inputs_made_from_records_stand_for_them)
-{
-    for (const reference::Message& message : transcribed().messages) {
-        reference::Random random(message.id);
-        const reference::Record record = reference::random_record(message, reference::Density::full, random);
-        const ByteString input = fuzz::record_input(record);
-        ASSERT_EQ(difference(fuzz::record_from(message, input.data(), input.size()), record), "") << message.name;
-    }
-}
 
 }   // namespace
 

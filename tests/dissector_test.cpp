@@ -30,18 +30,6 @@ namespace {
 
 using namespace reference;
 
-const Catalogue& transcribed()
-{
-    static const Catalogue catalogue = [] {
-        Catalogue loaded;
-        std::string error;
-        if (!load_catalogue(loaded, error))
-            ADD_FAILURE() << error;
-        return loaded;
-    }();
-    return catalogue;
-}
-
 // ---- what the reference makes of a byte string, one line a field ----
 
 std::string line_of(const std::string& field, std::uint64_t position, std::uint64_t size, const std::string& value)

@@ -227,10 +227,7 @@ TEST(Services, are_not_looked_up_without_need)
 TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
 {
     namespace reference = kesto::reference;
-    reference::Catalogue catalogue;
-    std::string error;
-    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
-    for (const reference::Message& message : catalogue.messages) {
+    for (const reference::Message& message : kesto::tests::transcribed().messages) {
         reference::Random chance(message.id);
         const reference::Record full = reference::random_record(message, reference::Density::full, chance);
         const reference::Record sparse = reference::random_record(message, reference::Density::sparse, chance);
@@ -334,13 +331,10 @@ TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
 TEST(Services, plain_allocation_may_fail_anywhere)
 {
     namespace reference = kesto::reference;
-    reference::Catalogue catalogue;
-    std::string error;
-    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
     expect_in_child([&](Verdict& verdict) {
         offer = &offers[1];
         int failures = 0;
-        for (const reference::Message& message : catalogue.messages) {
+        for (const reference::Message& message : kesto::tests::transcribed().messages) {
             const kesto::tools::Operations& library = kesto::tools::operations(message.name);
             reference::Random chance(message.id);
             const reference::Bytes bytes =

@@ -43,10 +43,7 @@ _Unwind_Reason_Code visit_frame(_Unwind_Context* context, void* found)
 
 TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
 {
-    reference::Catalogue catalogue;
-    std::string error;
-    ASSERT_TRUE(kesto::tests::load_catalogue(catalogue, error)) << error;
-    for (const reference::Message& message : catalogue.messages) {
+    for (const reference::Message& message : kesto::tests::transcribed().messages) {
         const kesto::tools::Operations& library = kesto::tools::operations(message.name);
         reference::Random random(message.id);
         const std::vector<reference::Record> records(

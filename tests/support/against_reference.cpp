@@ -9,7 +9,6 @@
 
 #include "reference/memory.h"
 #include "reference/view.h"
-#include "tests/support/figures.h"
 #include "tests/support/mesh_double.h"
 #include "tests/support/services_double.h"
 
@@ -24,11 +23,7 @@ std::string first_difference(const ByteString& is, const ByteString& expected)
 {
     if (is == expected)
         return {};
-    const std::size_t at = static_cast<std::size_t>(
-        std::mismatch(is.begin(), is.begin() + static_cast<std::ptrdiff_t>(std::min(is.size(), expected.size())),
-                      expected.begin())
-            .first -
-        is.begin());
+    const auto at = std::mismatch(is.begin(), is.end(), expected.begin(), expected.end()).first - is.begin();
     return "first difference at position " + std::to_string(at) + "\n  is       " + hex(is) + "\n  expected " +
            hex(expected);
 }
@@ -38,40 +33,26 @@ bool gaps_are_zero(const reference::Message& message, const std::uint8_t* record
 {
     const reference::MemoryView view(message, record);
     const reference::RecordLayout& layout = message.layout(reference::host_pointer_width);
-    std::uint32_t at = 0;
-    const auto zero_up_to = [&](std::uint32_t end) {
-        return std::all_of(record + at, record + end, [](std::uint8_t byte) { return byte == 0; });
+    const auto zero = [&](std::uint32_t from, std::uint32_t to) {
+        return std::all_of(record + from, record + to, [](std::uint8_t byte) { return byte == 0; });
     };
+    std::uint32_t end = 0;
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
         const reference::Slot& slot = message.slots[k];
-        if (!zero_up_to(layout.offsets[k]))
+        const std::uint32_t at = layout.offsets[k];
+        const bool counted = slot.kind == reference::Kind::bytes || slot.kind == reference::Kind::vector;
+        if (!zero(end, at) || (counted && !zero(at + 4, at + sizeof(void*))))
             return false;
-        at = layout.offsets[k];
-        switch (slot.kind) {
-        case reference::Kind::scalar: at += slot.width; break;
-        case reference::Kind::array: at += slot.width * slot.count; break;
-        case reference::Kind::string: at += sizeof(void*); break;
-        case reference::Kind::table:
-            if (!gaps_are_zero(*slot.nested, record + at))
+        end = at + member_size(slot, reference::host_pointer_width);
+        if (slot.kind == reference::Kind::table && !gaps_are_zero(*slot.nested, record + at))
+            return false;
+        const bool elements = slot.kind == reference::Kind::vector && view.present(k);
+        for (std::uint32_t i = 0; elements && i < view.count(k); ++i)
+            if (!gaps_are_zero(*slot.nested,
+                               view.pointer(k) + std::size_t{slot.nested->layout(sizeof(void*)).size} * i))
                 return false;
-            at += slot.nested->layout(reference::host_pointer_width).size;
-            break;
-        case reference::Kind::vector:
-            for (std::uint32_t i = 0; view.present(k) && i < view.count(k); ++i)
-                if (!gaps_are_zero(*slot.nested,
-                                   view.pointer(k) +
-                                       std::size_t{slot.nested->layout(reference::host_pointer_width).size} * i))
-                    return false;
-            [[fallthrough]];
-        case reference::Kind::bytes:
-            at += 4;
-            if (!zero_up_to(layout.offsets[k] + sizeof(void*)))
-                return false;
-            at = layout.offsets[k] + 2 * sizeof(void*);
-            break;
-        }
     }
-    return zero_up_to(layout.size);
+    return zero(end, layout.size);
 }
 
 // Without a search by name, which would take longer than a decode.
@@ -86,21 +67,48 @@ const Operations& operations_of(const reference::Message& message)
     return *by_number[message.index];
 }
 
-}   // namespace
-
-const reference::Catalogue& transcribed()
+std::string fault_of_encoders(const Operations& library, const reference::Record& record)
 {
-    static const reference::Catalogue catalogue = [] {
-        reference::Catalogue read;
-        std::string error;
-        if (!load_catalogue(read, error)) {
-            std::fprintf(stderr, "%s\n", error.c_str());
-            std::exit(1);
-        }
-        return read;
-    }();
-    return catalogue;
+    const reference::Message& message = *record.message;
+    const reference::RecordMemory memory(record);
+    ByteString expected = reference::compact_form(record);
+    const std::uint32_t size = reference::reported_size(reference::exact_size(record));
+    services().start();
+
+    // Packed into a buffer of just the size, and with room for more, where the packer need not measure first. What the
+    // size counts and the packer does not write is left alone, and so is what comes after it.
+    static const GuardedBuffer buffer(1 << 20);
+    for (const std::uint32_t room : {size, static_cast<std::uint32_t>(buffer.most())}) {
+        std::uint8_t* const packed = buffer.place(room);
+        expected.resize(std::min(room, size + 64), untouched);
+        std::memset(packed, untouched, expected.size());
+        std::uint32_t length = room;
+        if (library.pack(memory.data(), packed, &length) != 0 || length != size)
+            return "packed " + std::to_string(length) + " bytes, expected " + std::to_string(size);
+        const std::string fault = first_difference({packed, packed + expected.size()}, expected);
+        if (!fault.empty())
+            return "packed into " + std::to_string(room) + " bytes: " + fault;
+    }
+    std::uint32_t length = size - 1;
+    if (library.pack(memory.data(), buffer.place(length), &length) != -1 || length != size - 1)
+        return "packed with a byte too few";
+
+    // Sent: in fixed form where there is one, else compact with zeros for those bytes.
+    expected = both_forms(record).back();
+    if (message.fixed_length == 0)
+        expected.resize(size, 0);
+    mesh().reset();
+    mesh().send_result = 7;
+    if (library.sendsingle(3, memory.data(), 0, 0) != 7 || mesh().sends.size() != 1 || mesh().sends[0].sent.size() != 1)
+        return "not sent once";
+    const SendCall& call = mesh().sends[0];
+    if (call.to_destination || call.channel != 3 || call.sent[0].id != message.id)
+        return "sent with other arguments";
+    const std::string fault = first_difference(call.sent[0].bytes, expected);
+    return fault.empty() ? services().difference({}) : "sent: " + fault;
 }
+
+}   // namespace
 
 std::string hex(const ByteString& bytes)
 {
@@ -111,6 +119,14 @@ std::string hex(const ByteString& bytes)
         text += two;
     }
     return text;
+}
+
+std::vector<ByteString> both_forms(const reference::Record& record)
+{
+    std::vector<ByteString> forms{reference::compact_form(record)};
+    if (record.message->fixed_length != 0)
+        forms.push_back(reference::fixed_form(record));
+    return forms;
 }
 
 GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
@@ -140,7 +156,6 @@ std::string DecodeCheck::check(const reference::Message& message, const ByteStri
 
 std::string DecodeCheck::check(const reference::Message& message, const std::uint8_t* bytes, std::uint32_t length)
 {
-    ++decodes_;
     const Operations& library = operations_of(message);
     reference::DecodeOptions options;
     options.faults = faults;
@@ -219,63 +234,8 @@ std::string DecodeCheck::pack_again(const Operations& library, const std::uint8_
 
 std::string check_encoders(const reference::Record& record)
 {
-    const reference::Message& message = *record.message;
-    const Operations& library = operations_of(message);
-    const reference::RecordMemory memory(record);
-    const ByteString compact = reference::compact_form(record);
-    const std::uint32_t size = reference::reported_size(reference::exact_size(record));
-    services().start();
-
-    // Packed into a buffer of just the size: what the size counts and the packer does not write is left alone.
-    static const GuardedBuffer buffer(1 << 20);
-    std::uint8_t* const packed = buffer.place(size);
-    std::memset(packed, untouched, size);
-    std::uint32_t length = size;
-    if (library.pack(memory.data(), packed, &length) != 0 || length != size)
-        return message.name + ": packed " + std::to_string(length) + " bytes, expected " + std::to_string(size);
-    ByteString expected = compact;
-    expected.resize(size, untouched);
-    std::string fault = first_difference({packed, packed + size}, expected);
-    if (!fault.empty())
-        return message.name + ", packed: " + fault;
-
-    // With room for more, where the packer need not measure first: the same, and nothing behind it.
-    const std::uint32_t margin = 64;
-    std::uint8_t* const roomy = buffer.place(static_cast<std::uint32_t>(buffer.most()));
-    std::memset(roomy, untouched, size + margin);
-    length = static_cast<std::uint32_t>(buffer.most());
-    if (library.pack(memory.data(), roomy, &length) != 0 || length != size)
-        return message.name + ": packed " + std::to_string(length) + " bytes with room for more, expected " +
-               std::to_string(size);
-    ByteString behind = expected;
-    behind.resize(size + margin, untouched);
-    fault = first_difference({roomy, roomy + size + margin}, behind);
-    if (!fault.empty())
-        return message.name + ", packed with room for more: " + fault;
-
-    length = size - 1;
-    if (library.pack(memory.data(), packed, &length) != -1 || length != size - 1)
-        return message.name + ": packed with a byte too few";
-
-    // Sent: in fixed form where there is one, else compact with zeros for those bytes.
-    if (message.fixed_length != 0) {
-        expected = reference::fixed_form(record);
-    } else {
-        expected = compact;
-        expected.resize(size, 0);
-    }
-    mesh().reset();
-    mesh().send_result = 7;
-    if (library.sendsingle(3, memory.data(), 0, 0) != 7 || mesh().sends.size() != 1 || mesh().sends[0].sent.size() != 1)
-        return message.name + ": not sent once";
-    const SendCall& call = mesh().sends[0];
-    if (call.to_destination || call.channel != 3 || call.sent[0].id != message.id)
-        return message.name + ": sent with other arguments";
-    fault = first_difference(call.sent[0].bytes, expected);
-    if (!fault.empty())
-        return message.name + ", sent: " + fault;
-    fault = services().difference({});
-    return fault.empty() ? "" : message.name + ", encoding: " + fault;
+    const std::string fault = fault_of_encoders(operations_of(*record.message), record);
+    return fault.empty() ? "" : record.message->name + ", " + fault;
 }
 
 }   // namespace kesto::tests

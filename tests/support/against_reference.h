@@ -7,6 +7,7 @@
 
 #include "reference/decode.h"
 #include "reference/encode.h"
+#include "tests/support/figures.h"
 #include "tools/operations.h"
 
 namespace kesto::tests {
@@ -16,10 +17,10 @@ using tools::Operations;
 
 using ByteString = std::vector<std::uint8_t>;
 
-// The list of messages that was transcribed on its own, tests/data/messages.txt.
-const reference::Catalogue& transcribed();
-
 std::string hex(const ByteString& bytes);
+
+// The compact form, and the fixed one where there is one.
+std::vector<ByteString> both_forms(const reference::Record& record);
 
 // A buffer that ends where memory does, so that a read behind it ends the process.
 class GuardedBuffer {
@@ -56,7 +57,6 @@ public:
 
     // What the reference made of the last one.
     const reference::Outcome& outcome() const { return outcome_; }
-    std::uint64_t decodes() const { return decodes_; }
 
     const GuardedBuffer& buffer() const { return buffer_; }
 
@@ -68,7 +68,6 @@ private:
     GuardedBuffer packed_;
     GuardedBuffer storage_;
     reference::Outcome outcome_;
-    std::uint64_t decodes_ = 0;
 };
 
 // Packs and sends a record with the library and compares all bytes with the reference's. Empty where nothing differs.
