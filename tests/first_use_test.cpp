@@ -4,16 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <thread>
 #include <vector>
 
-#include "platform/osal.h"
+#include "tests/support/counting_services.h"
 #include "tests/support/unit_uses.h"
 
+namespace kesto::tests {
 namespace {
-
-std::atomic<int> flag_reads, allocated, released, logged;
 
 TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
 {
@@ -22,10 +20,9 @@ TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
     for (int i = 0; i < 8; ++i)
         threads.emplace_back([&] {
             --waiting;
-            while (waiting != 0) {
-            }
+            while (waiting != 0) {}
             for (int round = 0; round < 100; ++round)
-                kesto::tests::use_every_unit();
+                use_every_unit();
         });
     for (std::thread& thread : threads)
         thread.join();
@@ -36,32 +33,4 @@ TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
 }
 
 }   // namespace
-
-extern "C" {
-
-std::uint32_t RVL_OsalMemUseFlagGet(std::uint32_t)
-{
-    ++flag_reads;
-    return 1;
-}
-
-void* RVL_OsalMemCacheAlloc(std::uint32_t size, std::uint32_t, const char*)
-{
-    ++allocated;
-    return std::malloc(size);
-}
-
-void RVL_OsalMemFree(void* pointer, std::uint32_t, const char*)
-{
-    ++released;
-    std::free(pointer);
-}
-
-std::uint32_t RVL_OsalLogWrite(const OsalLogDescriptor*, std::uint32_t, std::uint32_t, const char*, std::uint32_t, const char*,
-                               const char*, ...)
-{
-    ++logged;
-    return 0;
-}
-
-}   // extern "C"
+}   // namespace kesto::tests
