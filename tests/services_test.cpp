@@ -33,7 +33,7 @@ namespace {
 struct Service {
     const char* name;
     void* function;
-    std::atomic<int> lookups = 0;
+    std::atomic<std::uint32_t> lookups = 0;
 };
 
 enum ServiceNumber { flag, allocate, release, log_write, service_count };
@@ -113,11 +113,10 @@ Newcomer newcomer;
 // In the child of a case: prints what is not as expected and ends the process.
 class Verdict {
 public:
-    void expect(const std::string& what, std::uint64_t is, std::uint64_t expected)
+    void expect(const std::string& what, std::uint32_t is, std::uint32_t expected)
     {
         if (is != expected) {
-            std::fprintf(stderr, "%s: %d, expected %d\n", what.c_str(), static_cast<int>(is),
-                         static_cast<int>(expected));
+            std::fprintf(stderr, "%s: %u, expected %u\n", what.c_str(), is, expected);
             failed_ = true;
         }
     }
@@ -164,7 +163,7 @@ TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
         use_flag = offer->use_flag;
         for (const Use& use : uses) {
             const WatchMalloc watch;
-            const int before = allocated;
+            const std::uint32_t before = allocated;
             use.receive();
             verdict.expect("allocations", malloc_watch.mallocs, 1);
             verdict.expect("frees", malloc_watch.frees, 1);

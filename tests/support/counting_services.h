@@ -11,7 +11,7 @@
 
 namespace kesto::tests {
 
-inline std::atomic<int> flag_reads, allocated, released, logged;
+inline std::atomic<std::uint32_t> flag_reads, allocated, released, logged;
 inline std::uint32_t use_flag = 1;   // what RVL_OsalMemUseFlagGet answers
 inline std::function<void()> at_flag_read = [] {}, at_memory_call = [] {};
 
