@@ -4,16 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <thread>
 #include <vector>
 
-#include "platform/osal.h"
+#include "tests/support/counting_services.h"
 #include "tests/support/unit_uses.h"
 
+namespace kesto::tests {
 namespace {
-
-std::atomic<int> flag_reads, allocated, released, logged;
 
 TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
 {
@@ -22,46 +20,17 @@ TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
     for (int i = 0; i < 8; ++i)
         threads.emplace_back([&] {
             --waiting;
-            while (waiting != 0) {
-            }
+            while (waiting != 0) {}
             for (int round = 0; round < 100; ++round)
-                kesto::tests::use_every_unit();
+                use_every_unit();
         });
     for (std::thread& thread : threads)
         thread.join();
-    EXPECT_EQ(flag_reads, 8);
-    EXPECT_EQ(allocated, 8 * 100 * 4);
-    EXPECT_EQ(released, 8 * 100 * 4);
-    EXPECT_EQ(logged, 8 * 100 * 8);
+    EXPECT_EQ(flag_reads, 8u);
+    EXPECT_EQ(allocated, 8u * 100 * 4);
+    EXPECT_EQ(released, 8u * 100 * 4);
+    EXPECT_EQ(logged, 8u * 100 * 8);
 }
 
 }   // namespace
-
-extern "C" {
-
-std::uint32_t RVL_OsalMemUseFlagGet(std::uint32_t)
-{
-    ++flag_reads;
-    return 1;
-}
-
-void* RVL_OsalMemCacheAlloc(std::uint32_t size, std::uint32_t, const char*)
-{
-    ++allocated;
-    return std::malloc(size);
-}
-
-void RVL_OsalMemFree(void* pointer, std::uint32_t, const char*)
-{
-    ++released;
-    std::free(pointer);
-}
-
-std::uint32_t RVL_OsalLogWrite(const OsalLogDescriptor*, std::uint32_t, std::uint32_t, const char*, std::uint32_t, const char*,
-                               const char*, ...)
-{
-    ++logged;
-    return 0;
-}
-
-}   // extern "C"
+}   // namespace kesto::tests

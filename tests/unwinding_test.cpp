@@ -1,25 +1,23 @@
-// Whoever looks at a process that stands in MESH or in a memory service sees who called: the stack can be unwound
-// through every operation of the library.
+// A debugger that stops in MESH or in a memory service sees who called: the stack can be unwound through every
+// operation of the library.
 
 #include <gtest/gtest.h>
 
 #include <dlfcn.h>
 #include <unwind.h>
 
-#include <cstdlib>
 #include <cstring>
 
-#include "platform/mesh.h"
-#include "platform/osal.h"
 #include "reference/encode.h"
 #include "reference/generate.h"
 #include "reference/memory.h"
+#include "tests/support/counting_services.h"
 #include "tests/support/figures.h"
+#include "tests/support/mesh_double.h"
 #include "tools/operations.h"
 
+namespace kesto::tests {
 namespace {
-
-namespace reference = kesto::reference;
 
 int calls = 0, calls_from_main = 0;
 
@@ -43,8 +41,10 @@ _Unwind_Reason_Code visit_frame(_Unwind_Context* context, void* found)
 
 TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
 {
-    for (const reference::Message& message : kesto::tests::transcribed().messages) {
-        const kesto::tools::Operations& library = kesto::tools::operations(message.name);
+    mesh().at_send = look_for_main;
+    at_memory_call = look_for_main;
+    for (const reference::Message& message : transcribed().messages) {
+        const tools::Operations& library = tools::operations(message.name);
         reference::Random random(message.id);
         const std::vector<reference::Record> records(
             2, reference::random_record(message, reference::Density::full, random));
@@ -65,37 +65,4 @@ TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
 }
 
 }   // namespace
-
-extern "C" {
-
-int MESH_SendMsg(std::uint32_t, const MeshSendItem*, std::uint32_t)
-{
-    look_for_main();
-    return 0;
-}
-
-int MESH_SendToMsg(std::uint32_t, const MeshSendItem*, std::uint32_t, std::uint32_t)
-{
-    look_for_main();
-    return 0;
-}
-
-int MESH_RegIDLFuncHook(std::uint32_t, MeshUnpack, MeshFree) { return 0; }
-
-int MESH_RegIDLResorceCleanFuncHook(MeshClean) { return 0; }
-
-std::uint32_t RVL_OsalMemUseFlagGet(std::uint32_t) { return 1; }
-
-void* RVL_OsalMemCacheAlloc(std::uint32_t size, std::uint32_t, const char*)
-{
-    look_for_main();
-    return std::malloc(size);
-}
-
-void RVL_OsalMemFree(void* pointer, std::uint32_t, const char*)
-{
-    look_for_main();
-    std::free(pointer);
-}
-
-}   // extern "C"
+}   // namespace kesto::tests

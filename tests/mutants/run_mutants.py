@@ -1,22 +1,26 @@
 #!/usr/bin/env python3
 """Changes one thing in core/ at a time and looks whether the tests notice.
 
-    run_mutants.py --tests BUILD [--i686] [--count N] [--share K/N] [--only FILE] [--list FILE]
+    run_mutants.py --tests BUILD [--i686] [--count N | --mutants FILE] [--share K/N] [--only FILE] [--list FILE]
 
-BUILD is a build folder whose test programs stand; they are run against a library built from a changed copy of the
-sources. What they all miss meets a part of the small faults and, in the reader, the proof. A mutant is one changed comparison, connective, sign, constant or dropped statement. The sample is the same every
-time. Mutants that no test can notice are listed in equivalent.txt beside this script, each with its reason. Ends with 0
-when at least 95 % of the others were noticed, and none of those.
+BUILD is a build folder that holds the test programs; they are run against a library built from a changed copy of the
+sources. A mutant that they all miss is run through a part of the small faults and, in the reader, the proof. A mutant is
+one changed comparison, connective, sign, constant or dropped statement. The sample is the same every time. Mutants that
+no test can notice are listed in equivalent.txt beside this script, each with its reason. Ends with 0 when at least 95 %
+of the others were noticed, and none of those.
 
 With --list every mutant meets every program, and FILE gets a line for each: the programs that noticed it, and the mutant.
+PROGRAM(time) did by its time limit. With --mutants, the mutants are those that a program noticed according to FILE, such
+a list; each meets those programs first, and the others until one notices it. Ends with 0 when all were noticed again, and
+lists the others: so two states of the tests are compared. A mutant listed without its line means each line that fits.
 With --i686, BUILD is a build for it, and the mutants are those of lines that only hosts with narrow registers run.
 """
 import argparse
 import concurrent.futures
+import contextlib
 import glob
 import json
 import os
-import queue
 import random
 import re
 import resource
@@ -35,9 +39,14 @@ import exceptions   # noqa: E402, the one beside this folder
 FILES = ["wire.h", "decode.h", "decode.cpp", "layout_decoder.h", "encode.h", "picture.h", "forms.h", "run.h", "layout.h", "send.h",
          "send.cpp", "unit.h", "unit.cpp", "registration.cpp", "receive_unit.h", "send_unit.h"]
 TESTS = ["codec_test", "services_test", "large_test", "first_use_test", "unwinding_test"]
+LAST = ["exhaustive_test", "proof_test"]   # only where the others noticed nothing
 
 LARGEST_MODULE = "ifit_sync"
-MOST_MEMORY = 2 << 30   # of a compiler
+# A constant that is off can make the compiler take all there is, and the core dump of a test that crashes may be as large
+# as all memory that it maps. CPU seconds do not depend on what else runs here.
+OF_COMPILER = {resource.RLIMIT_AS: 2 << 30}
+OF_TEST = {resource.RLIMIT_CORE: 0, resource.RLIMIT_CPU: 60}
+MOST_SECONDS = 600   # of any process, should it wait for something
 
 # What is looked for in a line without its comment, and what it becomes.
 CHANGES = [
@@ -69,8 +78,6 @@ def runs_here(lines):
             choice = indent
         elif choice == indent and re.match(r"\s*else$", line):
             other, choice, narrow = indent, None, False
-        elif "copy_turned(" in line:
-            continue
         elif other is None or narrow:
             yield number, line, other is not None or "_long(" in line
 
@@ -106,6 +113,21 @@ def sample(count, only, narrow):
     return chosen
 
 
+def listed(path, narrow):
+    """{(file, line number, old, new): the programs that noticed it}, of a list that --list made."""
+    found = {}
+    with open(path) as file:
+        entries = re.findall(r"^(?!#|survived|equivalent)(.*)\t(\S+?):(\d*):? (.*)  ->  (.*)$", file.read(), re.MULTILINE)
+    for programs, name, number, *texts in entries:
+        places = [(name,) + mutant for mutant in mutants_of(os.path.join(ROOT, "core", name), narrow)
+                  if [mutant[1].strip(), exceptions.bare(mutant[2])] == texts and number in ("", str(mutant[0] + 1))]
+        for mutant in places:
+            found.setdefault(mutant, set()).update(programs.replace("(time)", "").split(","))
+        if not places:
+            print("no such mutant of", name + ":", number, *texts)
+    return found
+
+
 def equivalents():
     """(file, line number, new) of the mutants that no test can notice."""
     path = os.path.join(HERE, "equivalent.txt")
@@ -117,24 +139,20 @@ def equivalents():
     return known
 
 
-def limit_memory():
-    resource.setrlimit(resource.RLIMIT_AS, (MOST_MEMORY, MOST_MEMORY))
-
-
-def limit_dumps():
-    """What a mutant leaves when it crashes may be as large as all memory that a test maps."""
-    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-
-
-def run(command, **kwargs):
-    """Whether it succeeded in time. Nothing that it started goes on."""
+def run(command, limits={}, **kwargs):
+    """'passed', 'failed' or 'time'. Nothing that it started goes on after a time-out."""
+    def limit():
+        for what, most in limits.items():
+            resource.setrlimit(what, (most, resource.getrlimit(what)[1]))
     with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True,
-                          **kwargs) as process:
-        try:
-            return process.wait(timeout=120) == 0
-        except subprocess.TimeoutExpired:
-            os.killpg(process.pid, signal.SIGKILL)
-            return False
+                          preexec_fn=limit, **kwargs) as process:
+        with contextlib.suppress(subprocess.TimeoutExpired):
+            process.wait(timeout=MOST_SECONDS)
+        if process.returncode in (None, -signal.SIGXCPU):
+            with contextlib.suppress(ProcessLookupError):
+                os.killpg(process.pid, signal.SIGKILL)
+            return "time"
+        return "passed" if process.returncode == 0 else "failed"
 
 
 def build_largest_module(folder, compiler):
@@ -163,53 +181,52 @@ class Tree:
             shutil.copytree(os.path.join(ROOT, part), os.path.join(self.root, part))
         with open(os.path.join(ROOT, "CMakeLists.txt")) as whole, open(os.path.join(self.root, "CMakeLists.txt"), "w") as part:
             part.write(whole.read().replace(LARGEST_MODULE + " ", ""))
-        configured = run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
-                          "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w", *toolchain,
-                          f"-DCMAKE_SHARED_LINKER_FLAGS=-Wl,--whole-archive {archive} -Wl,--no-whole-archive"])
-        if not configured:
+        if run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
+                "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w", *toolchain,
+                f"-DCMAKE_SHARED_LINKER_FLAGS=-Wl,--whole-archive {archive} -Wl,--no-whole-archive"]) != "passed":
             sys.exit("configure failed")
 
-    def notices(self, test, **environment):
+    def run_test(self, test):
         # The tests find the library by the path that they were linked with, unless this one comes first.
-        return not run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], cwd=self.root,
-                       preexec_fn=limit_dumps, env=dict(os.environ, LD_LIBRARY_PATH=self.build, **environment))
+        return run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST, cwd=self.root,
+                   env=dict(os.environ, LD_LIBRARY_PATH=self.build, KESTO_SHARE="1/25"))
 
-    def proof_notices(self):
+    def run_proof(self):
         """Builds the proof from this reader, as the build folder's own commands do, and runs it."""
         with open(os.path.join(self.tests, "compile_commands.json")) as file:
             commands = [shlex.split(each["command"]) + [each["file"]] for each in json.load(file)
                         if "proof_test.dir" in each["command"]]
         if not commands:   # the proof is for this machine alone
-            return False
+            return "passed"
         objects = []
         for command in commands:
             source = command[-1]
             objects.append(os.path.join(self.build, os.path.basename(source) + ".o"))
             options = [word for word in command if word.startswith(("-D", "-I", "-std"))]
             system = [word for at, word in enumerate(command) if "-isystem" in command[max(at - 1, 0):at + 1]]
-            if not run(["c++", "-O1", "-w", "-I" + self.root, *options, *system, "-c", source, "-o", objects[-1]]):
-                return True
+            if run(["c++", "-O1", "-w", "-I" + self.root, *options, *system, "-c", source, "-o", objects[-1]]) != "passed":
+                return "failed"
         program = os.path.join(self.build, "proof_test")
         libraries = glob.glob(os.path.join(self.tests, "lib", "libgtest*.a"))
-        return not run(["c++", *objects, *sorted(libraries, reverse=True), "-lz3", "-pthread", "-o", program]) or \
-            not run([program, "--gtest_brief=1", "--gtest_fail_fast"], preexec_fn=limit_dumps)
+        if run(["c++", *objects, *sorted(libraries, reverse=True), "-lz3", "-pthread", "-o", program]) != "passed":
+            return "failed"
+        return run([program, "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST)
 
-    def verdict(self, name=""):
-        """('not built', 'noticed' or 'survived', and by what)."""
-        # A constant that is off can make the compiler take all there is.
-        if not run(["ninja", "-j1", "-C", self.build, "ifit_codec"], preexec_fn=limit_memory):
+    def verdict(self, name, first=()):
+        """('not built', 'noticed' or 'survived', and by what), where some programs come first."""
+        if run(["ninja", "-j1", "-C", self.build, "ifit_codec"], OF_COMPILER) != "passed":
             return "not built", ["compiler"]
         by = []
-        for test in TESTS:
-            if (self.thorough or not by) and self.notices(test):
-                by.append(test)
-        if not by and self.notices("exhaustive_test", KESTO_SHARE="1/25"):
-            by.append("exhaustive_test")
-        if not by and name == "wire.h" and self.proof_notices():
-            by.append("proof_test")
+        for test in sorted(TESTS + LAST, key=lambda test: test not in first):   # else in their order
+            if by and (test in LAST or not self.thorough) or test == "proof_test" and name != "wire.h":
+                continue
+            result = self.run_proof() if test == "proof_test" else self.run_test(test)
+            if result != "passed":
+                by.append(test + ("(time)" if result == "time" else ""))
         return "noticed" if by else "survived", by
 
-    def verdict_with(self, name, line, new):
+    def verdict_with(self, mutant, first):
+        name, line, _, new = mutant
         path = os.path.join(self.root, "core", name)
         with open(path) as file:
             original = file.read()
@@ -218,7 +235,7 @@ class Tree:
         with open(path, "w") as file:
             file.write("\n".join(lines))
         try:
-            return self.verdict(name)
+            return self.verdict(name, first)
         finally:
             with open(path, "w") as file:
                 file.write(original)
@@ -231,34 +248,33 @@ def main():
     arguments.add_argument("--share", default="1/1", help="every N-th mutant, from the K-th on")
     arguments.add_argument("--only", help="one file of core/")
     arguments.add_argument("--i686", action="store_true")
-    arguments.add_argument("--list")
+    arguments.add_argument("--mutants", metavar="FILE", help="a list that --list made")
+    arguments.add_argument("--list", metavar="FILE")
     options = arguments.parse_args()
 
     first, step = (int(part) for part in options.share.split("/"))
-    chosen = sample(options.count, options.only, options.i686)[first - 1::step]
+    before = listed(options.mutants, options.i686) if options.mutants else {}
+    chosen = list(before) if options.mutants else sample(options.count, options.only, options.i686)
+    chosen = [mutant for mutant in chosen if options.only in (None, mutant[0])][first - 1::step]
     known = equivalents()
-    tests = os.path.abspath(options.tests)
     counts = {"not built": 0, "noticed": 0, "equivalent": 0, "survived": 0, "wrongly listed": 0}
-    jobs = os.cpu_count() or 1
+    lost, jobs = [], os.cpu_count() or 1
     with tempfile.TemporaryDirectory(prefix="kesto_mutants_") as folder:
         compiler = "i686-linux-gnu-g++" if options.i686 else "c++"
         toolchain = ["-DCMAKE_TOOLCHAIN_FILE=" + os.path.join(ROOT, "cmake", "i686.cmake")] if options.i686 else []
         archive = build_largest_module(folder, compiler)
-        trees = [Tree(os.path.join(folder, str(job)), tests, archive, toolchain, options.list) for job in range(jobs)]
+        trees = [Tree(os.path.join(folder, str(job)), os.path.abspath(options.tests), archive, toolchain,
+                      options.list and not options.mutants) for job in range(jobs)]
         result, by = trees[0].verdict("wire.h")
         if result != "survived":
             sys.exit("without a mutant: %s by %s" % (result, by))
-        free = queue.SimpleQueue()
-        for tree in trees:
-            free.put(tree)
 
         def judge(mutant):
-            name, line, old, new = mutant
-            tree = free.get()
+            tree = trees.pop()   # there are as many as jobs
             try:
-                return mutant, tree.verdict_with(name, line, new)
+                return mutant, tree.verdict_with(mutant, before.get(mutant, ()))
             finally:
-                free.put(tree)
+                trees.append(tree)
 
         with concurrent.futures.ThreadPoolExecutor(jobs) as pool:
             for number, ((name, line, old, new), (result, by)) in enumerate(pool.map(judge, chosen), 1):
@@ -266,10 +282,15 @@ def main():
                     result = "equivalent" if result == "survived" else "wrongly listed"
                 counts[result] += 1
                 text = f"{name}:{line + 1}: {old.strip()}  ->  {exceptions.bare(new)}"
+                if options.mutants and not by:
+                    lost.append(f"{','.join(sorted(before[name, line, old, new]))}\t{text}")
                 print(f"{number}/{len(chosen)} {result:10} {','.join(by)} {text}", flush=True)
                 if options.list:
                     with open(options.list, "a") as file:
                         file.write(f"{','.join(by) or result}\t{text}\n")
+    if options.mutants:
+        print(f"{len(chosen)} mutants of {options.mutants}, {len(lost)} of them no longer noticed", *lost, sep="\n")
+        sys.exit(1 if lost else 0)
     judged = counts["noticed"] + counts["not built"] + counts["survived"]
     share = 100 * (judged - counts["survived"]) / judged
     print(f"{sum(counts.values())} mutants: {counts['noticed']} noticed by the tests, {counts['not built']} by the compiler, "

@@ -1,5 +1,7 @@
 #include "tests/proof/symbolic.h"
 
+#include <sstream>
+
 namespace kesto::proof {
 
 namespace {
@@ -26,13 +28,20 @@ Truth::operator bool() const { return under_way->decide(expression); }
 
 void SymbolicInput::touch(const Exact& at, const Exact& bytes) const
 {
-    world->prove(at + bytes <= wide(length), true, "a read outside");
+    world->promise(at + bytes <= wide(length), "a read outside");
 }
 
-Word SymbolicInput::content(const Exact& at, unsigned bytes) const { return world->value_at(at, bytes); }
+Word SymbolicInput::content(const Exact& at, unsigned bytes) const
+{
+    z3::context& context = solver_context();
+    const std::string name = "value" + std::to_string(bytes);
+    const z3::expr value = context.function(name.c_str(), context.int_sort(), context.int_sort())(at.expression);
+    world->restrict(within(value, u64{1} << 8 * bytes));
+    return Word(value);
+}
 
-SymbolicWorld::SymbolicWorld(Lengths lengths)
-    : lengths_(lengths), length_(solver_context().int_const("length")), path_(solver_context(), "QF_UFLIA")
+SymbolicWorld::SymbolicWorld(u32 least_length)
+    : least_length_(least_length), length_(solver_context().int_const("length")), path_(solver_context(), "QF_UFLIA")
 {
     z3::params limits(solver_context());
     limits.set("rlimit", most_solver_steps);
@@ -42,13 +51,24 @@ SymbolicWorld::SymbolicWorld(Lengths lengths)
 
 SymbolicWorld::~SymbolicWorld() { under_way = nullptr; }
 
+Verdict SymbolicWorld::explore(int (*program)(SymbolicWorld&))
+{
+    do {
+        begin_path();
+        try {
+            verdict_.outcomes.insert(program(*this));
+        } catch (const EndOfPath&) {
+        }
+    } while (verdict_.counterexample.empty() && next_path());
+    return verdict_;
+}
+
 void SymbolicWorld::begin_path()
 {
     path_.reset();
-    path_.add(((length_ >= lengths_.least) & (length_ <= lengths_.most)).expression);
+    path_.add(within(length_.expression, word_range) && (length_ >= least_length_).expression);
     decided_ = 0;
-    words_.clear();
-    values_.clear();
+    words_ = 0;
 }
 
 bool SymbolicWorld::next_path()
@@ -63,7 +83,6 @@ bool SymbolicWorld::next_path()
 
 bool SymbolicWorld::possible(const z3::expr& condition)
 {
-    ++verdict_.queries;
     path_.push();
     path_.add(condition);
     const z3::check_result result = path_.check();
@@ -86,81 +105,29 @@ bool SymbolicWorld::decide(const z3::expr& condition)
 
 Word SymbolicWorld::any()
 {
-    words_.emplace_back(solver_context().int_const(("word" + std::to_string(words_.size())).c_str()));
-    path_.add(within(words_.back().expression, word_range));
-    return words_.back();
-}
-
-Word SymbolicWorld::value_at(const Exact& at, unsigned bytes)
-{
-    z3::context& context = solver_context();
-    const z3::func_decl value_of =
-        context.function(("value" + std::to_string(bytes)).c_str(), context.int_sort(), context.int_sort());
-    values_.push_back({at.expression, value_of(at.expression), bytes});
-    path_.add(within(values_.back().value, u64{1} << 8 * bytes));
-    return Word(values_.back().value);
+    const z3::expr word = solver_context().int_const(("word" + std::to_string(words_++)).c_str());
+    path_.add(within(word, word_range));
+    return Word(word);
 }
 
 void SymbolicWorld::state(Role role, const Truth& condition, const char* what)
 {
-    if (role == Role::promised)
-        return prove(condition, false, what);
-    if (!possible(condition.expression))
-        throw EndOfPath{};
-    path_.add(condition.expression);
-}
-
-void SymbolicWorld::prove(const Truth& condition, bool outside, const char* what)
-{
+    if (role == Role::relied_on) {
+        if (!possible(condition.expression))
+            throw EndOfPath{};
+        path_.add(condition.expression);
+        return;
+    }
     if (decided_ < decisions_.size())
         return;   // proved on an earlier path that began with the same decisions
     if (!possible(!condition.expression))
         return;
-    // So far, values that overlap have nothing to do with each other, which only makes more possible.
-    const z3::expr broken = !condition.expression && bytes_make_values();
-    if (!possible(broken))
-        return;
-    keep_counterexample(broken, outside, what);
-    throw EndOfPath{};
-}
-
-z3::expr SymbolicWorld::bytes_make_values() const
-{
-    z3::context& context = solver_context();
-    const z3::func_decl byte = context.function("byte", context.int_sort(), context.int_sort());
-    z3::expr all = context.bool_val(true);
-    for (const Value& value : values_) {
-        z3::expr sum = context.int_val(0);
-        for (unsigned i = 0; i < value.bytes; ++i) {
-            const z3::expr one = byte(value.at + context.int_val(i));
-            sum = sum + one * context.int_val(std::uint64_t{1} << 8 * i);
-            all = all && within(one, 256);
-        }
-        all = all && sum == value.value;
-    }
-    return all;
-}
-
-void SymbolicWorld::keep_counterexample(const z3::expr& condition, bool outside, const char* what)
-{
-    path_.add(condition);
-    for (const u32 most : {16u, 64u, 256u, 4096u, 1u << 17})   // a short one, if there is one
-        if (possible((length_ <= most).expression)) {
-            path_.add((length_ <= most).expression);
-            break;
-        }
+    path_.add(!condition.expression);
     path_.check();
-    const z3::model model = path_.get_model();
-    const auto number = [&](const z3::expr& e) { return model.eval(e, true).get_numeral_uint64(); };
-    Counterexample& found = verdict_.counterexample;
-    found = {outside, what, static_cast<u32>(number(length_.expression)), {}, {}};
-    for (const Word& word : words_)
-        found.words.push_back(static_cast<u32>(number(word.expression)));
-    for (const Value& value : values_)
-        for (unsigned i = 0; i < value.bytes; ++i)
-            if (const u64 at = number(value.at) + i; at < found.length)
-                found.bytes[static_cast<u32>(at)] = static_cast<u8>(number(value.value) >> 8 * i);
-    verdict_.proved = false;
+    std::ostringstream text;
+    text << what << '\n' << path_.get_model();
+    verdict_.counterexample = text.str();
+    throw EndOfPath{};
 }
 
 }   // namespace kesto::proof

@@ -3,7 +3,6 @@
 
 #include <z3++.h>
 
-#include <map>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -72,34 +71,6 @@ using Word = Number<true>;
 using Exact = Number<false>;
 
 inline Exact wide(const Word& value) { return Exact(value.expression); }
-inline u64 wide(u32 value) { return value; }
-
-// What breaks a proof: the length, the words and the bytes that were read.
-struct Counterexample {
-    bool outside;         // a read outside the input; else a broken promise
-    std::string broken;   // which
-    u32 length;
-    std::vector<u32> words;   // what any() gave, in order
-    std::map<u32, u8> bytes;
-};
-
-struct Verdict {
-    bool proved = true;
-    Counterexample counterexample;   // when not proved
-    std::set<int> outcomes;          // what the program returned, over all paths
-    unsigned paths = 0;
-    unsigned queries = 0;
-};
-
-struct Lengths {
-    u32 least, most;
-};
-
-// What the decoder's parameter test lets pass, and all that can hold a root.
-constexpr Lengths accepted_lengths{least_length, 0x7fffffff};
-constexpr Lengths every_length{least_length, 0xffffffff};
-
-enum class Role { promised, relied_on };
 
 class SymbolicWorld;
 
@@ -129,13 +100,8 @@ struct SymbolicInput {
         touch(wide(at), wide(count) * sizeof(T));
     }
 
-    const u8* bytes_unchecked(const Word& at, const Word& behind, const Word& n) const
-    {
-        touch(wide(at) + wide(behind), wide(n));
-        return nullptr;
-    }
-
-    // What stands at a position, without a claim that it may be read: equal positions, equal values.
+    // The value at a position, without a claim that it may be read: equal positions, equal values. Values that overlap
+    // have nothing to do with each other, which only makes more possible.
     template <class T>
     Word content(const Exact& at) const
     {
@@ -149,48 +115,37 @@ private:
     Word content(const Exact& at, unsigned bytes) const;
 };
 
+struct Verdict {
+    std::string counterexample;   // empty when proved: what was broken, and the length, words and values that do it
+    std::set<int> outcomes;       // what the program returned, over all paths
+};
+
+enum class Role { promised, relied_on };
+
 // Runs a program once for every path, depth first. A path is the list of decisions on it; an answer that the path so
 // far excludes is never taken.
 class SymbolicWorld {
 public:
-    using In = SymbolicInput;
-    using Word = proof::Word;
-
-    explicit SymbolicWorld(Lengths lengths);
+    explicit SymbolicWorld(u32 least_length);
     ~SymbolicWorld();
     SymbolicWorld(const SymbolicWorld&) = delete;
     SymbolicWorld& operator=(const SymbolicWorld&) = delete;
 
-    template <class Program>
-    Verdict explore(Program program)
-    {
-        do {
-            begin_path();
-            try {
-                verdict_.outcomes.insert(program(*this));
-                ++verdict_.paths;
-            } catch (const EndOfPath&) {
-            }
-        } while (verdict_.proved && next_path());
-        return verdict_;
-    }
+    Verdict explore(int (*program)(SymbolicWorld&));
 
     // For programs.
-    In input() { return {this, length_}; }
+    SymbolicInput input() { return {this, length_}; }
     Word any();
     void state(Role role, const Truth& condition, const char* what);
+    void promise(const Truth& condition, const char* what) { state(Role::promised, condition, what); }
+    void rely(const Truth& condition, const char* what) { state(Role::relied_on, condition, what); }
 
     // For words, conditions and inputs.
     bool decide(const z3::expr& condition);
-    void prove(const Truth& condition, bool outside, const char* what);
-    Word value_at(const Exact& at, unsigned bytes);
+    void restrict(const z3::expr& condition) { path_.add(condition); }
 
 private:
     struct EndOfPath {};
-    struct Value {
-        z3::expr at, value;
-        unsigned bytes;
-    };
     struct Decision {
         bool answer;
         bool other_is_open;
@@ -199,16 +154,13 @@ private:
     void begin_path();
     bool next_path();
     bool possible(const z3::expr& condition);
-    z3::expr bytes_make_values() const;
-    void keep_counterexample(const z3::expr& condition, bool outside, const char* what);
 
-    Lengths lengths_;
+    u32 least_length_;
     Word length_;
     z3::solver path_;
     std::vector<Decision> decisions_;
     std::size_t decided_ = 0;   // so many of them on the path so far
-    std::vector<Word> words_;
-    std::vector<Value> values_;   // that were looked at
+    unsigned words_ = 0;
     Verdict verdict_;
 };
 

@@ -14,6 +14,7 @@ int send(bool to_destination, std::uint32_t channel, const MeshSendItem* items, 
          std::uint32_t destination)
 {
     ++mesh().send_calls;
+    mesh().at_send();
     if (!mesh().keeps_sends)
         return mesh().send_result;
     SendCall call{to_destination, channel, destination, items, {}};

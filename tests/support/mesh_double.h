@@ -30,6 +30,7 @@ struct Registered {
 
 struct MeshDouble {
     bool keeps_sends = true;              // false: counts them and allocates nothing
+    void (*at_send)() = [] {};
     std::uint32_t send_calls = 0;
     std::vector<SendCall> sends;
     std::vector<Registered> registrations;

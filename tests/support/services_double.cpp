@@ -34,31 +34,19 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
     const bool failed = faults.refuses(number, size);
     void* const block = failed ? nullptr : std::malloc(size);
     blocks_.push_back(block);
-    events_.push_back({reference::Act::allocate,
-                       caller,
-                       nullptr,
-                       0,
-                       0,
-                       {},
-                       size,
-                       static_cast<std::int32_t>(number),
-                       failed,
-                       module == OSAL_MEMORY_MODULE ? nullptr : "module"});
+    events_.push_back({.act = reference::Act::allocate,
+                       .routine = caller,
+                       .size = size,
+                       .block = static_cast<std::int32_t>(number),
+                       .failed = failed,
+                       .fault = module == OSAL_MEMORY_MODULE ? nullptr : "module"});
     return block;
 }
 
 void ServicesDouble::release(void* pointer, std::uint32_t module, const char* caller)
 {
-    Happened event{reference::Act::release,
-                   caller,
-                   nullptr,
-                   0,
-                   0,
-                   {},
-                   0,
-                   -1,
-                   false,
-                   module == OSAL_MEMORY_MODULE ? nullptr : "module"};
+    Happened event{
+        .act = reference::Act::release, .routine = caller, .fault = module == OSAL_MEMORY_MODULE ? nullptr : "module"};
     if (pointer != nullptr) {
         const auto found = std::find(blocks_.begin(), blocks_.end(), pointer);
         if (found == blocks_.end()) {
@@ -75,7 +63,7 @@ void ServicesDouble::release(void* pointer, std::uint32_t module, const char* ca
 void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file,
                          std::uint32_t line, const char* function, const char* format, std::va_list arguments)
 {
-    Happened event{reference::Act::log, function, format, code, line, {}, 0, -1, false, nullptr};
+    Happened event{.act = reference::Act::log, .routine = function, .format = format, .code = code, .line = line};
     if (lines != nullptr) {
         std::va_list copy;
         va_copy(copy, arguments);

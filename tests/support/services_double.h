@@ -36,14 +36,14 @@ private:
     struct Happened {
         reference::Act act;
         const char* routine;
-        const char* format;   // of a log
-        std::uint32_t code;
-        std::uint32_t line;
-        std::uint32_t arguments[3];
-        std::uint32_t size;
-        std::int32_t block;   // -1 for null
-        bool failed;
-        const char* fault;   // what is wrong with the call in itself; null where nothing is
+        const char* format = nullptr;   // of a log
+        std::uint32_t code = 0;
+        std::uint32_t line = 0;
+        std::uint32_t arguments[3] = {};
+        std::uint32_t size = 0;
+        std::int32_t block = -1;   // -1 for null
+        bool failed = false;
+        const char* fault = nullptr;   // what is wrong with the call in itself
     };
 
     std::string difference(std::size_t i, const reference::Event& expected) const;
