@@ -9,7 +9,6 @@
 
 #include "reference/memory.h"
 #include "reference/view.h"
-#include "tests/support/figures.h"
 #include "tests/support/mesh_double.h"
 #include "tests/support/services_double.h"
 
@@ -87,20 +86,6 @@ const Operations& operations_of(const reference::Message& message)
 }
 
 }   // namespace
-
-const reference::Catalogue& transcribed()
-{
-    static const reference::Catalogue catalogue = [] {
-        reference::Catalogue read;
-        std::string error;
-        if (!load_catalogue(read, error)) {
-            std::fprintf(stderr, "%s\n", error.c_str());
-            std::exit(1);
-        }
-        return read;
-    }();
-    return catalogue;
-}
 
 std::string hex(const ByteString& bytes)
 {

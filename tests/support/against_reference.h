@@ -7,6 +7,7 @@
 
 #include "reference/decode.h"
 #include "reference/encode.h"
+#include "tests/support/figures.h"
 #include "tools/operations.h"
 
 namespace kesto::tests {
@@ -15,9 +16,6 @@ using tools::operations;
 using tools::Operations;
 
 using ByteString = std::vector<std::uint8_t>;
-
-// The list of messages that was transcribed on its own, tests/data/messages.txt.
-const reference::Catalogue& transcribed();
 
 std::string hex(const ByteString& bytes);
 

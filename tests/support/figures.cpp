@@ -412,6 +412,20 @@ bool load_figures(const Catalogue& catalogue, std::vector<Figure>& figures, std:
     return !figures.empty();
 }
 
+const Catalogue& transcribed()
+{
+    static const Catalogue catalogue = [] {
+        Catalogue read;
+        std::string error;
+        if (!load_catalogue(read, error)) {
+            std::fprintf(stderr, "%s\n", error.c_str());
+            std::exit(1);
+        }
+        return read;
+    }();
+    return catalogue;
+}
+
 std::string fault_in_bytes(const Figure& figure, const Record& record, const Bytes& written, u64 reported)
 {
     if (figure.kind == "size")

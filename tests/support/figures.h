@@ -36,6 +36,9 @@ std::string read_file(const std::string& path);
 [[nodiscard]] bool load_figures(const reference::Catalogue& catalogue, std::vector<Figure>& figures,
                                 std::string& error);
 
+// The list of messages that was transcribed on its own, tests/data/messages.txt. Ends the process if it cannot be read.
+const reference::Catalogue& transcribed();
+
 // What is wrong with the bytes of `record`, of which an encoder has written `written` and reported `reported`; else
 // empty.
 std::string fault_in_bytes(const Figure& figure, const reference::Record& record, const reference::Bytes& written,
