@@ -1,5 +1,3 @@
-#include "consumer.h"
-
 #include <stdio.h>
 
 #include "ifit.h"
@@ -7,10 +5,13 @@
 #include "ifit_sync.h"
 #include "ntvifit.h"
 
+#ifdef __cplusplus
+extern "C"
+#endif
 void on_message(uint32_t id, uint32_t length, const void *record)
 {
-    const ifit_dfx_query_glbdata_item_mesh *item = record;
-    printf("C: message 0x%08x of %u bytes says \"%s\"\n", (unsigned)id, (unsigned)length, item->f0);
+    const ifit_dfx_query_glbdata_item_mesh *item = (const ifit_dfx_query_glbdata_item_mesh *)record;
+    printf("message 0x%08x of %u bytes says \"%s\"\n", (unsigned)id, (unsigned)length, item->f0);
 }
 
 int main(void)

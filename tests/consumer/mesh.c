@@ -1,9 +1,9 @@
 /* A process's own MESH: what is sent on any channel is decoded here and now, and shown by `on_message`. */
-#include "consumer.h"
-
 #include <stdlib.h>
 
 #include "platform/mesh.h"
+
+void on_message(uint32_t id, uint32_t length, const void *record);
 
 enum { ROOM = 256 };
 

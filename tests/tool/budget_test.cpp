@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <malloc.h>
 
-#include <atomic>
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 #include <nlohmann/json.hpp>
@@ -13,42 +13,29 @@
 
 namespace {
 
-std::atomic<std::size_t> held{0}, most_held{0};
+std::size_t held = 0, most_held = 0;
 
-void* take_or_fail(std::size_t size) noexcept
+}   // namespace
+
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     void* const block = std::malloc(size);
-    if (block == nullptr)
-        return nullptr;
-    const std::size_t now = held += malloc_usable_size(block);
-    if (now > most_held)
-        most_held = now;
+    if (block != nullptr)
+        most_held = std::max(most_held, held += malloc_usable_size(block));
     return block;
 }
-
-void* take(std::size_t size)
+void* operator new(std::size_t size)
 {
-    void* const block = take_or_fail(size);
-    if (block == nullptr)
-        throw std::bad_alloc();
-    return block;
+    if (void* const block = operator new(size, std::nothrow))
+        return block;
+    throw std::bad_alloc();
 }
-
-void give_back(void* block)
+[[gnu::noinline]] void operator delete(void* block) noexcept
 {
     held -= malloc_usable_size(block);
     std::free(block);
 }
-
-}   // namespace
-
-void* operator new(std::size_t size) { return take(size); }
-void* operator new[](std::size_t size) { return take(size); }
-void* operator new(std::size_t size, const std::nothrow_t&) noexcept { return take_or_fail(size); }
-void operator delete(void* block) noexcept { give_back(block); }
-void operator delete[](void* block) noexcept { give_back(block); }
-void operator delete(void* block, std::size_t) noexcept { give_back(block); }
-void operator delete[](void* block, std::size_t) noexcept { give_back(block); }
+void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
 
 namespace kesto::tests {
 
@@ -89,10 +76,10 @@ Bytes full_elements()
     Record record = reference::zero_record(message);
     record.fields[1].present = true;
     record.fields[1].number = 5000;
-    record.fields[1].records.assign(5000, reference::zero_record(*message.slots[1].nested));
-    for (Record& element : record.fields[1].records)
-        for (reference::Field& field : element.fields)
-            field.number = 0xff;
+    Record element = reference::zero_record(*message.slots[1].nested);
+    for (reference::Field& field : element.fields)
+        field.number = 0xff;
+    record.fields[1].records.assign(record.fields[1].number, element);
     return reference::compact_form(record);
 }
 

@@ -4,24 +4,25 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <string>
 
 #include "tests/support/capture_file.h"
 #include "tests/support/command.h"
+#include "tests/support/figures.h"
 #include "tools/kesto/input.h"
+
+namespace kesto::tests {
 
 namespace {
 
-using kesto::tests::Bytes;
-using kesto::tests::CommandResult;
+using command::bytes_from_hex;
+using reference::append;
 
 CommandResult kesto(const std::string& arguments, const std::string& before = "")
 {
-    return kesto::tests::run_command(before + " '" KESTO_PROGRAM "' " + arguments);
+    return run_command(before + " '" KESTO_PROGRAM "' " + arguments);
 }
 
 constexpr const char item[] = "ifit_dfx_query_glbdata_item_mesh";
@@ -61,6 +62,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
     } cases[] = {
         {"explain" + named + " --hex " + hello, 0, "accepted: compact form, just as it is written"},
         {"explain" + named + " --json --hex " + hello, 0, "\"accepted\": true"},
+        {"explain" + named + " --color always --hex " + hello, 0, "\033["},
         {"explain" + named + " --hex 0a0000000600", 1, "refused: table_position at ., position 10"},
         {"explain" + named + " --hex ''", 1, "refused: length_below_4"},
         {"explain ifit_mcp_mesh --hex " + std::string(hello), 0, "written for ifit_dfx_query_glbdata_item_mesh"},
@@ -95,25 +97,12 @@ TEST(CommandLine, exits_with_0_1_and_2)
     }
 }
 
-TEST(CommandLine, colours_only_where_they_are_wanted)
-{
-    const std::string explain = std::string("explain ") + item + " --hex " + hello;
-    EXPECT_EQ(kesto(explain).output.find('\033'), std::string::npos);
-    EXPECT_NE(kesto(explain + " --color always").output.find('\033'), std::string::npos);
-}
-
-// What bash is offered behind the words that are there.
+// What bash is offered after the words that are there.
 std::string completions(const std::string& words)
 {
-    const std::string script = "source " KESTO_SOURCE_DIR "/tools/kesto/kesto.bash; COMP_WORDS=(" KESTO_PROGRAM " " +
-                               words + "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _kesto; echo ${COMPREPLY[@]}";
-    std::string output;
-    std::FILE* const pipe = popen(("bash -c '" + script + "' 2>&1").c_str(), "r");
-    for (int c; pipe != nullptr && (c = std::fgetc(pipe)) != EOF;)
-        output += static_cast<char>(c);
-    if (pipe != nullptr)
-        pclose(pipe);
-    return output;
+    return run_command("bash -c 'source " KESTO_SOURCE_DIR "/tools/kesto/kesto.bash; COMP_WORDS=(" KESTO_PROGRAM " " +
+                       words + "); COMP_CWORD=$((${#COMP_WORDS[@]} - 1)); _kesto; echo ${COMPREPLY[@]}'")
+        .output;
 }
 
 TEST(Completion, offers_commands_options_and_messages)
@@ -131,15 +120,15 @@ TEST(Completion, offers_commands_options_and_messages)
 // What would steer a terminal or turn a line around, with its first character as it is shown.
 struct Hostile {
     std::string text, shown;
-    std::string in_json;   // as a JSON text holds it
+    std::string in_json;   // as a JSON text holds it; empty for what is no text
 };
 
 const Hostile hostile[] = {
     {"\x1b]0;x\x07\x1b[2J", "\\x1b", R"(\u001b]0;x\u0007\u001b[2J)"},
     {"\xc2\x9b\x32J\x7f", "\\u009b", "\xc2\x9b\x32J\x7f"},
     {"\xe2\x80\xae\xe2\x81\xa6\xd8\x9c", "\\u202e", "\xe2\x80\xae\xe2\x81\xa6\xd8\x9c"},
+    {"\x9b\xe2\x80", "\\x9b", ""},
 };
-const std::string not_utf8 = "\x9b\xe2\x80";
 
 // The hostile texts leave nothing behind that is harmless, but for ASCII.
 bool is_harmless(const std::string& output)
@@ -164,9 +153,8 @@ private:
 TEST_F(Files, diff_compares_records_and_not_bytes)
 {
     const auto encode = [&](const char* json, const char* form, const char* name) {
-        const CommandResult result = kesto(std::string("encode ifit_mcp_mesh --form ") + form + " -o " + path(name),
-                                           std::string("echo '") + json + "' |");
-        ASSERT_EQ(result.exit_code, 0) << result.output;
+        const std::string arguments = std::string("encode ifit_mcp_mesh --form ") + form + " -o " + path(name);
+        EXPECT_EQ(kesto(arguments, std::string("echo '") + json + "' |").exit_code, 0) << name;
     };
     encode(R"({"f0":7,"f5":1})", "fixed", "a");
     encode(R"({"f0":7,"f5":1})", "compact", "b");
@@ -185,14 +173,12 @@ TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
 {
     const std::string named = std::string(" ") + item + " ";
     const auto check = [&](const std::string& arguments, const std::string& input, const std::string& says) {
-        kesto::tests::write_file(path("input"), {input.begin(), input.end()});
+        write_file(path("input"), {input.begin(), input.end()});
         const CommandResult result = kesto(arguments, "<'" + path("input") + "'");
         EXPECT_TRUE(is_harmless(result.output)) << arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(says), std::string::npos) << arguments << "\n" << result.output;
     };
-    std::vector<Hostile> all(std::begin(hostile), std::end(hostile));
-    all.push_back({not_utf8, "\\x9b", ""});
-    for (const auto& [text, shown, in_json] : all) {
+    for (const auto& [text, shown, in_json] : hostile) {
         const std::string quoted = "'" + text + "'", nowhere = "'/nowhere/" + text + "'";
         for (const std::string& arguments :
              {"list mesh " + quoted, "list --" + quoted, "explain " + quoted, "explain" + named + nowhere,
@@ -218,13 +204,13 @@ TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
 TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
 {
     const std::string named = std::string(" ") + item + " ", a = path("a"), b = path("b");
-    kesto::tests::write_file(b, kesto::command::bytes_from_hex(hello));
-    for (const std::string& text : {hostile[0].text, hostile[1].text, hostile[2].text, not_utf8}) {
-        Bytes bytes = kesto::command::bytes_from_hex("0a000000 06001200 0400 06000000 04000000");
-        kesto::reference::append(bytes, text.size(), 4);
+    write_file(b, bytes_from_hex(hello));
+    for (const auto& [text, shown, in_json] : hostile) {
+        Bytes bytes = bytes_from_hex("0a000000 06001200 0400 06000000 04000000");
+        append(bytes, text.size(), 4);
         bytes.insert(bytes.end(), text.begin(), text.end());
         bytes.push_back(0);
-        kesto::tests::write_file(a, bytes);
+        write_file(a, bytes);
         for (const std::string& arguments :
              {"explain" + named + a, "explain --json" + named + a, "explain --raw " + a, "explain --raw --json " + a,
               "decode" + named + a, "decode --line" + named + a, "diff" + named + a + " " + b,
@@ -233,50 +219,64 @@ TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
             EXPECT_TRUE(is_harmless(result.output)) << arguments << "\n" << result.output;
             EXPECT_EQ(result.exit_code, arguments.starts_with("diff") ? 1 : 0) << arguments << "\n" << result.output;
         }
-        if (text == not_utf8)
-            continue;
-        EXPECT_EQ(nlohmann::json::parse(kesto("decode" + named + a).output).at("f0"), text);
+        if (!in_json.empty()) {
+            EXPECT_EQ(nlohmann::json::parse(kesto("decode" + named + a).output).at("f0"), text);
+        }
     }
 }
 
 #if KESTO_CAN_CAPTURE
 
-std::size_t count_of(const std::string& text, const std::string& part)
-{
-    std::size_t count = 0;
-    for (std::size_t at = 0; (at = text.find(part, at)) != std::string::npos; at += part.size())
-        ++count;
-    return count;
-}
-
 // 1 a text, 2 one cut short, 3 a packet whose length lies, 4 an unknown id, 5 less than a head, 6 as 1.
 Bytes capture_of_six()
 {
     constexpr std::uint32_t id = 0x91cd149e;
-    const Bytes text{10, 0, 0, 0, 6, 0, 0x12, 0, 4, 0, 6, 0, 0, 0, 4, 0, 0, 0, 5, 0, 0, 0, 'h', 'e', 'l', 'l', 'o', 0};
+    const Bytes text = bytes_from_hex(hello);
     const Bytes cut(text.begin(), text.begin() + 26);
-    Bytes capture = kesto::tests::capture_head(147);
-    add_packet(capture, kesto::tests::packet_of(id, text));
-    add_packet(capture, kesto::tests::packet_of(id, cut));
-    add_packet(capture, kesto::tests::packet_of(id, text, 27));
-    add_packet(capture, kesto::tests::packet_of(5, text));
-    kesto::tests::add_packet(capture, {{1, 2, 3}, 3});
-    add_packet(capture, kesto::tests::packet_of(id, text));
+    Bytes capture = capture_head(147);
+    add_packet(capture, packet_of(id, text));
+    add_packet(capture, packet_of(id, cut));
+    add_packet(capture, packet_of(id, text, 27));
+    add_packet(capture, packet_of(5, text));
+    add_packet(capture, {{1, 2, 3}, 3});
+    add_packet(capture, packet_of(id, text));
+    return capture;
+}
+
+// Packets of the same text, all as far in the future as a capture can say, or in no year at all.
+Bytes capture_of_odd_times()
+{
+    const Bytes packet = packet_of(0x91cd149e, bytes_from_hex(hello)).bytes;
+    Bytes capture = bytes_from_hex(
+        "0a0d0d0a 1c000000 4d3c2b1a 0100 0000 ffffffffffffffff 1c000000"                // section
+        "01000000 20000000 9300 0000 00000400 0900 0100 00000000 00000000 20000000");   // USER0, in whole seconds
+    for (const std::uint64_t seconds : {std::uint64_t{1} << 62, std::uint64_t{1} << 40, std::uint64_t{5}}) {
+        const std::size_t padded = (packet.size() + 3) / 4 * 4;
+        for (const std::size_t word : {std::size_t{6}, 32 + padded, std::size_t{0}, std::size_t{seconds >> 32},
+                                       std::size_t{seconds & 0xffffffff}, packet.size(), packet.size()})
+            append(capture, word, 4);
+        capture.insert(capture.end(), packet.begin(), packet.end());
+        capture.resize(capture.size() + padded - packet.size());
+        append(capture, 32 + padded, 4);
+    }
     return capture;
 }
 
 TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
 {
-    const std::string file = path("capture"), broken = path("broken");
+    const std::string file = path("capture"), broken = path("broken"), odd = path("odd"), odder = path("odder");
     Bytes capture = capture_of_six();
-    kesto::tests::write_file(file, capture);
-    capture.pop_back();
-    kesto::tests::write_file(broken, capture);
+    write_file(file, capture);
+    write_file(broken, {capture.begin(), capture.end() - 1});
+    write_file(odd, capture_of_odd_times());
+    capture[24 + 3] = 0x80;   // of the seconds, now above 2^31
+    capture[24 + 7] = 0x40;   // of the microseconds, which were 250
+    write_file(odder, capture);
     const struct {
         std::string arguments;
         int exit_code;
-        std::size_t lines;   // 0: not counted
-        const char* says;
+        std::ptrdiff_t lines;   // 0: not counted
+        std::string says;
     } cases[] = {
         {"decode --pcap " + file + " --packet 6", 0, 1,
          "{\"packet\":6,\"time\":\"2023-11-14T22:13:20.000250Z\",\"id\":\"0x91cd149e\","
@@ -296,61 +296,20 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
          "packet 4, 2023-11-14T22:13:20.000250Z: no message: unknown_id"},
         {"explain --raw --pcap " + file + " --packet 4", 0, 0, "written just so for: ifit_dfx_query_glbdata_item_mesh"},
         {"explain --json --pcap " + file, 1, 6, "\"fault\":\"length_disagrees\""},
+        {"decode --pcap " + file + " --packet 6 2>&1 >/dev/full | cat", 0, 1,
+         "kesto: " + file + ": packet 6: -: cannot be written: No space left on device\n"},
+        {"decode --pcap " + odd, 0, 3, "\"time\":\"4611686018427387904 s and 0 us since 1970\""},
+        {"explain --pcap " + odd, 0, 0, "packet 2, 1099511627776 s and 0 us since 1970"},
+        {"explain --pcap " + odd, 0, 0, "packet 3, 1970-01-01T00:00:05.000000Z"},
+        {"decode --pcap " + odder, 1, 6, "\"2152984832 s and 1073742074 us since 1970\""},
     };
     for (const auto& each : cases) {
         const CommandResult result = kesto(each.arguments);
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
-        EXPECT_TRUE(each.lines == 0 || count_of(result.output, "\n") == each.lines) << each.arguments << "\n"
-                                                                                    << result.output;
+        EXPECT_TRUE(each.lines == 0 || std::ranges::count(result.output, '\n') == each.lines) << each.arguments << "\n"
+                                                                                              << result.output;
     }
-}
-
-// Packets of the same text, all as far in the future as a capture can say, or in no year at all.
-Bytes capture_of_odd_times()
-{
-    const Bytes packet = kesto::tests::packet_of(0x91cd149e, kesto::command::bytes_from_hex(hello)).bytes;
-    Bytes capture = kesto::command::bytes_from_hex(
-        "0a0d0d0a 1c000000 4d3c2b1a 0100 0000 ffffffffffffffff 1c000000"                // section
-        "01000000 20000000 9300 0000 00000400 0900 0100 00000000 00000000 20000000");   // USER0, in whole seconds
-    for (const std::uint64_t seconds : {std::uint64_t{1} << 62, std::uint64_t{1} << 40, std::uint64_t{5}}) {
-        const std::size_t padded = (packet.size() + 3) / 4 * 4;
-        for (const std::size_t word : {std::size_t{6}, 32 + padded, std::size_t{0}, std::size_t{seconds >> 32},
-                                       std::size_t{seconds & 0xffffffff}, packet.size(), packet.size()})
-            kesto::reference::append(capture, word, 4);
-        capture.insert(capture.end(), packet.begin(), packet.end());
-        capture.resize(capture.size() + padded - packet.size());
-        kesto::reference::append(capture, 32 + padded, 4);
-    }
-    return capture;
-}
-
-TEST_F(Files, packets_of_odd_times_are_shown_with_the_numbers)
-{
-    const std::string file = path("capture"), classic = path("classic");
-    kesto::tests::write_file(file, capture_of_odd_times());
-    const CommandResult decoded = kesto("decode --pcap " + file), explained = kesto("explain --pcap " + file);
-    for (const char* time : {"4611686018427387904 s and 0 us since 1970", "1099511627776 s and 0 us since 1970",
-                             "1970-01-01T00:00:05.000000Z"}) {
-        EXPECT_NE(decoded.output.find(std::string("\"time\":\"") + time + '"'), std::string::npos) << decoded.output;
-        EXPECT_NE(explained.output.find(time), std::string::npos) << explained.output;
-    }
-    EXPECT_EQ(decoded.exit_code, 0);
-    Bytes odd = capture_of_six();
-    odd[24 + 3] = 0x80;   // of the seconds, now above 2^31
-    odd[24 + 7] = 0x40;   // of the microseconds, which were 250
-    kesto::tests::write_file(classic, odd);
-    EXPECT_NE(
-        kesto("decode --pcap " + classic + " --packet 1").output.find("2152984832 s and 1073742074 us since 1970"),
-        std::string::npos);
-}
-
-TEST_F(Files, a_fault_in_showing_a_packet_names_the_packet)
-{
-    const std::string file = path("capture");
-    kesto::tests::write_file(file, capture_of_six());
-    EXPECT_EQ(kesto("decode --pcap " + file + " --packet 6 2>&1 >/dev/full | cat").output,
-              "kesto: " + file + ": packet 6: -: cannot be written: No space left on device\n");
 }
 
 #endif
@@ -358,16 +317,13 @@ TEST_F(Files, a_fault_in_showing_a_packet_names_the_packet)
 // Text from the byte string must not become part of the page.
 TEST_F(Files, a_page_holds_foreign_text_as_text)
 {
-    const std::string text = "<script>alert(1)</script>&\\\"";
-    const CommandResult encoded = kesto("encode --hex " + std::string(item), "echo '{\"f0\":\"" + text + "\"}' |");
-    ASSERT_EQ(encoded.exit_code, 0) << encoded.output;
-    const std::string hex_text = encoded.output.substr(0, encoded.output.size() - 1);
-    EXPECT_EQ(kesto("explain " + std::string(item) + " --html " + path("page") + " --hex '" + hex_text + "'").exit_code,
-              0);
-    std::ifstream file(path("page"));
-    const std::string page{std::istreambuf_iterator<char>(file), {}};
+    const std::string encode = "echo '{\"f0\":\"<script>alert(1)</script>&\\\"\"}' | '" KESTO_PROGRAM "' encode ";
+    EXPECT_EQ(kesto(std::string("explain ") + item + " --html " + path("page"), encode + item + " |").exit_code, 0);
+    const std::string page = read_file(path("page"));
     EXPECT_EQ(page.find("<script>alert"), std::string::npos);
     EXPECT_NE(page.find("&lt;script&gt;alert(1)&lt;/script&gt;&amp;"), std::string::npos);
 }
 
 }   // namespace
+
+}   // namespace kesto::tests

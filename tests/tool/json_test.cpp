@@ -1,12 +1,9 @@
-// Records as JSON and back: nothing is lost, and nothing is guessed.
+// Records as JSON and back: nothing is lost, and nothing is guessed. vectors_test does it for every message.
 
 #include <gtest/gtest.h>
 
 #include <nlohmann/json.hpp>
 
-#include "reference/generate.h"
-#include "tests/support/every_message.h"
-#include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
 
 namespace kesto::tests {
@@ -14,32 +11,6 @@ namespace kesto::tests {
 namespace {
 
 using command::find_message;
-using reference::Record;
-
-class Json : public EveryMessageTest {};
-
-KESTO_FOR_EVERY_MESSAGE(Json);
-
-TEST_P(Json, of_what_was_decoded_encodes_to_the_same_bytes)
-{
-    reference::Random chance(message().id);
-    const reference::Message& known = *find_message(message().name);
-    for (int round = 0; round < 8; ++round) {
-        const Record record = reference::random_record(known, reference::densities[round % 4], chance);
-        for (const command::Form form : {command::Form::compact, command::Form::fixed}) {
-            if (form == command::Form::fixed && !fixed())
-                continue;
-            const ByteString bytes =
-                form == command::Form::fixed ? reference::fixed_form(record) : reference::compact_form(record);
-            const std::optional<Record> decoded = command::decoded(known, bytes, 1 << 24, "");
-            ASSERT_TRUE(decoded);
-            const std::string text = command::record_json(*decoded).dump();
-            const Record again = command::record_from_json(known, command::parse_json(text, "text"));
-            ASSERT_EQ(difference(*decoded, again), "") << text;
-            ASSERT_EQ(hex(command::encoded(again, form)), hex(bytes)) << text;
-        }
-    }
-}
 
 TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
 {
@@ -50,13 +21,6 @@ TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
         const nlohmann::ordered_json json = command::parse_json(text, "text");
         EXPECT_EQ(command::record_json(command::record_from_json(message, json)), json) << text;
     }
-}
-
-TEST(JsonText, leaves_what_is_missing_zero)
-{
-    const reference::Message& message = *find_message("ifit_dfx_query_stat_rec_mesh");
-    const Record record = command::record_from_json(message, command::parse_json("{}", "text"));
-    EXPECT_EQ(difference(record, reference::zero_record(message)), "");
 }
 
 TEST(JsonText, that_is_wrong_is_refused_with_the_place)
