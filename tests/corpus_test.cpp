@@ -4,6 +4,7 @@
 
 #include "fuzz/inputs.h"
 #include "tests/support/against_reference.h"
+#include "tests/support/figures.h"
 
 namespace kesto::tests {
 
@@ -16,8 +17,10 @@ void expect_agreement(const char* file, std::string (*run)(const std::uint8_t* i
     ASSERT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/" + std::string(file), inputs, error)) << error;
     ASSERT_FALSE(inputs.empty());
     for (std::size_t i = 0; i < inputs.size(); ++i) {
-        ASSERT_NE(fuzz::message_of(transcribed(), inputs[i].data(), inputs[i].size()), nullptr)
-            << file << ", input " << i;
+        if (all_modules_built) {
+            ASSERT_NE(fuzz::message_of(transcribed(), inputs[i].data(), inputs[i].size()), nullptr)
+                << file << ", input " << i;
+        }
         ASSERT_EQ(run(inputs[i].data(), inputs[i].size()), "") << file << ", input " << i << ": " << hex(inputs[i]);
     }
 }

@@ -26,10 +26,10 @@ TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
         });
     for (std::thread& thread : threads)
         thread.join();
-    EXPECT_EQ(flag_reads, 8u);
-    EXPECT_EQ(allocated, 8u * 100 * 4);
-    EXPECT_EQ(released, 8u * 100 * 4);
-    EXPECT_EQ(logged, 8u * 100 * 8);
+    EXPECT_EQ(flag_reads, units);
+    EXPECT_EQ(allocated, 8u * 100 * (units / 2));
+    EXPECT_EQ(released, 8u * 100 * (units / 2));
+    EXPECT_EQ(logged, 8u * 100 * units);
 }
 
 }   // namespace

@@ -153,7 +153,7 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
         }
     }
     std::printf("%u vectors tried\n", tried);
-    EXPECT_GT(tried, 100U);
+    EXPECT_GT(tried, all_modules_built ? 100U : 10U);
 }
 
 // The same written out: elements of 256 bytes, of which 2^24 are 2^32 bytes, and elements with blocks of their own in a
@@ -184,6 +184,8 @@ TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits
          "{null*COUNT 0}"},
     };
     for (const auto& each : cases) {
+        if (is_left_out(each.message))
+            continue;
         const reference::Message& message = *transcribed().find(each.message);
         const VectorMessage vector{&message, message.slots[each.slot].nested};
         const std::uint32_t count = vector.count(each.rest);

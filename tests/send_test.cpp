@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstring>
 
-#include "ifit.h"
 #include "ifit_dfx.h"
 #include "ntvifit.h"
 #include "reference/generate.h"
@@ -223,13 +222,13 @@ TEST(BatchPool, fixed_batches_lie_end_to_end_and_may_be_larger)
 {
     mesh().reset();
     const std::uint32_t count = 3000;
-    const std::vector<ifit_color_intf_mesh> rows(count);
-    EXPECT_EQ(ifit_color_intf_mesh__sendmsg(1, rows.data(), count), 0);
+    const std::vector<ifit_dfx_query_stat_cond_mesh> rows(count);
+    EXPECT_EQ(ifit_dfx_query_stat_cond_mesh__sendmsg(1, rows.data(), count), 0);
     const SendCall& call = mesh().sends.at(0);
     ASSERT_EQ(call.sent.size(), count);
     for (std::uint32_t i = 0; i < count; ++i)
-        EXPECT_EQ(call.sent[i].data, call.sent[0].data + std::size_t{i} * 40);
-    EXPECT_EQ(static_cast<const void*>(call.items), call.sent[0].data + std::size_t{count} * 40);
+        EXPECT_EQ(call.sent[i].data, call.sent[0].data + std::size_t{i} * 32);
+    EXPECT_EQ(static_cast<const void*>(call.items), call.sent[0].data + std::size_t{count} * 32);
 }
 
 // Sums of sizes beyond 32 bits: texts and blocks that are counted again and again. Needs no memory but the pointers.

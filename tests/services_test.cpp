@@ -138,16 +138,16 @@ void expect_in_child(Case run)
     EXPECT_EXIT(child(), testing::ExitedWithCode(0), "^$");
 }
 
-// All eight units have been used: each has looked up once what it needed, whether it found it or not.
+// All units have been used: each has looked up once what it needed, whether it found it or not.
 void expect_one_use_of_each_unit_to_look(Verdict& verdict)
 {
     const bool pair_wanted = offer->has[flag] && offer->use_flag == 1;
     for (const Service& service : services) {
         const bool of_pair = &service == &services[allocate] || &service == &services[release];
-        verdict.expect(service.name, service.lookups, of_pair && !pair_wanted ? 0 : 8);
+        verdict.expect(service.name, service.lookups, of_pair && !pair_wanted ? 0 : units);
     }
-    verdict.expect("allocated by the service", allocated, offer->memory_used ? 8 : 0);
-    verdict.expect("released by the service", released, offer->memory_used ? 8 : 0);
+    verdict.expect("allocated by the service", allocated, offer->memory_used ? units : 0);
+    verdict.expect("released by the service", released, offer->memory_used ? units : 0);
     verdict.expect("log lines", logged, offer->has[log_write] ? 16 : 0);
 }
 
@@ -226,7 +226,7 @@ TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_a
 
 TEST(Services, are_looked_up_by_whichever_operation_comes_first)
 {
-    static const ifit_color_intf_mesh plain[2] = {};
+    static const ifit_dfx_datetime_mesh plain[2] = {};
     static const ifit_dfx_query_comm_param_mesh with_block[2] = {};
     void (*const ways[])() = {
         [] {   // one slot is missing: not for a fast path
@@ -241,15 +241,15 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
         [] {
             std::uint8_t buffer[64];
             std::uint32_t length = sizeof buffer;
-            ifit_color_intf_mesh__pack(plain, buffer, &length);
+            ifit_dfx_datetime_mesh__pack(plain, buffer, &length);
         },
         [] {   // just enough, so that the size is measured first
-            std::uint8_t buffer[22];
+            std::uint8_t buffer[24];
             std::uint32_t length = sizeof buffer;
-            ifit_color_intf_mesh__pack(plain, buffer, &length);
+            ifit_dfx_datetime_mesh__pack(plain, buffer, &length);
         },
-        [] { ifit_color_intf_mesh__sendsingle(1, plain, 0, 0); },
-        [] { ifit_color_intf_mesh__sendmsg(1, plain, 2); },
+        [] { ifit_dfx_datetime_mesh__sendsingle(1, plain, 0, 0); },
+        [] { ifit_dfx_datetime_mesh__sendmsg(1, plain, 2); },
         [] { ifit_dfx_query_comm_param_mesh__sendsingle(1, with_block, 0, 0); },
         [] { ifit_dfx_query_comm_param_mesh__sendmsg(1, with_block, 2); },
     };

@@ -126,6 +126,8 @@ TEST(WrittenOut, traces_are_met)
 {
     DecodeCheck check;
     for (const TraceCase& each : trace_cases) {
+        if (is_left_out(each.message))
+            continue;
         SCOPED_TRACE(each.what);
         const Message& message = *transcribed().find(each.message);
         Bytes bytes = compact_form(record_of(message, each.record));
@@ -217,6 +219,8 @@ TEST(WrittenOut, edges_of_every_test_are_on_the_right_side)
 {
     DecodeCheck check;
     for (const EdgeCase& edge : edge_cases) {
+        if (is_left_out(edge.message))
+            continue;
         SCOPED_TRACE(edge.message + std::string(" ") + edge.hex);
         const Message& message = *transcribed().find(edge.message);
         Bytes bytes;

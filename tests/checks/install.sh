@@ -71,10 +71,11 @@ quietly c++ -std=c++11 "${compile[@]}" "$consumer/consumer.cpp" "$work/pkgconfig
 runs_well "$work/pkgconfig"
 echo "installed and moved: find_package and pkg-config, C and C++"
 
-# With the sources. FetchContent ends in an add_subdirectory, so one of the two is built; without optimisation.
+# With the sources. FetchContent ends in an add_subdirectory, so one of the two is built; with the module that is
+# used alone.
 for way in add_subdirectory FetchContent; do
     quietly cmake -G Ninja -S "$consumer" -B "$work/$way" -DIFIT_CODEC_FROM=$way -DIFIT_CODEC_SOURCES="$sources" \
-        -DCMAKE_BUILD_TYPE=None
+        -DCMAKE_BUILD_TYPE=None -DKESTO_MODULES=ifit_dfx
 done
 quietly cmake --build "$work/FetchContent"
 runs_well "$work/FetchContent"

@@ -19,6 +19,5 @@ int main(void)
     char text[] = "hello";
     ifit_dfx_query_glbdata_item_mesh item = {0};
     item.f0 = text;
-    return ifit_dfx_recv_init() || ifit_recv_init() || ifit_sync_recv_init() || ntvifit_recv_init() ||
-           ifit_dfx_query_glbdata_item_mesh__sendmsg(1, &item, 1);
+    return ifit_dfx_recv_init() || ifit_dfx_query_glbdata_item_mesh__sendmsg(1, &item, 1);
 }

@@ -19,6 +19,9 @@ constexpr bool all_modules_built = true;
 // The list of messages, those of the modules that are built. A list that cannot be read ends the process.
 const reference::Catalogue& transcribed();
 
+// Whether it is a message of a module that is not built. A name that no message has is none.
+inline bool is_left_out(const std::string& name) { return !all_modules_built && transcribed().find(name) == nullptr; }
+
 struct Figure {
     unsigned line = 0;
     std::string kind;
@@ -35,6 +38,9 @@ struct Figure {
 
 // The list of messages that was transcribed on its own, tests/data/messages.txt. Ends the process if it cannot be read.
 const reference::Catalogue& transcribed();
+
+// Whether it is a message of a module that is not built. A name that no message has is none.
+inline bool is_left_out(const std::string& name) { return !all_modules_built && transcribed().find(name) == nullptr; }
 
 // What is wrong with the bytes of `record`, of which an encoder has written `written` and reported `reported`; else
 // empty.

@@ -1,13 +1,13 @@
-// Each of the eight codec units used once.
+// Each codec unit used once.
 #pragma once
 
 #include <cstdint>
+#include <iterator>
 #include <vector>
 
-#include "ifit.h"
-#include "ifit_dfx.h"
-#include "ifit_sync.h"
-#include "ntvifit.h"
+#define KESTO_EACH_MODULE "tools/module_header.inc"
+#include "messages/modules.inc"
+#undef KESTO_EACH_MODULE
 
 namespace kesto::tests {
 
@@ -48,13 +48,22 @@ inline const std::vector<std::uint8_t> one_element = {12, 0, 0, 0, 8, 0, 8, 0, 0
 inline const Use uses[] = {
     {[] { receive_with(ifit_dfx_query_glbdata_item_mesh__unpack, ifit_dfx_query_glbdata_item_mesh_free__unpacked, one_empty_text); },
      [] { send_with(ifit_dfx_query_stat_rec_mesh__pack); }},
+#ifndef KESTO_WITHOUT_ifit
     {[] { receive_with(ifit_mcp_mesh_update__unpack, ifit_mcp_mesh_update_free__unpacked, one_element); },
      [] { send_with(ifit_mcp_mesh_update__pack); }},
+#endif
+#ifndef KESTO_WITHOUT_ifit_sync
     {[] { receive_with(ifit_sync_mcp_mesh_update__unpack, ifit_sync_mcp_mesh_update_free__unpacked, one_element); },
      [] { send_with(ifit_sync_mcp_mesh__pack); }},
+#endif
     {[] { receive_with(ntvifit_app_data__unpack, ntvifit_app_data_free__unpacked, one_byte_block); },
      [] { send_with(ntvifit_app_data__pack); }},
+#ifdef KESTO_WITH_synthetic
+    {[] { receive_with(synthetic_text__unpack, synthetic_text_free__unpacked, one_empty_text); },
+     [] { send_with(synthetic_pair__pack); }},
+#endif
 };
+constexpr std::uint32_t units = 2 * std::size(uses);
 
 inline void use_every_unit()
 {

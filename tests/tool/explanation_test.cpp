@@ -33,6 +33,8 @@ class Verdicts : public EveryMessageTest {
 protected:
     void expect_true(const reference::Message& message, const ByteString& bytes)
     {
+        if (find_message(message.name) == nullptr)
+            return;   // of the test module, which kesto does not know
         const Explanation explanation = explain(*find_message(message.name), bytes);
         if (explanation.memory > most_memory)
             return;
@@ -67,10 +69,10 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
     std::string error;
     ASSERT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
     for (const ByteString& input : inputs) {
-        if (input.size() < fuzz::before_bytes)
+        const reference::Message* const message = fuzz::message_of(transcribed(), input.data(), input.size());
+        if (message == nullptr || input.size() < fuzz::before_bytes)
             continue;
-        ASSERT_NO_FATAL_FAILURE(expect_true(*fuzz::message_of(transcribed(), input.data(), input.size()),
-                                            {input.begin() + fuzz::before_bytes, input.end()}));
+        ASSERT_NO_FATAL_FAILURE(expect_true(*message, {input.begin() + fuzz::before_bytes, input.end()}));
     }
     EXPECT_GT(refused_, 100);
     EXPECT_GT(seen_ - refused_, 100);
