@@ -36,12 +36,6 @@ struct Figure {
 // False with the reason in `error`.
 [[nodiscard]] bool load_figures(std::vector<Figure>& figures, std::string& error);
 
-// The list of messages that was transcribed on its own, tests/data/messages.txt. Ends the process if it cannot be read.
-const reference::Catalogue& transcribed();
-
-// Whether it is a message of a module that is not built. A name that no message has is none.
-inline bool is_left_out(const std::string& name) { return !all_modules_built && transcribed().find(name) == nullptr; }
-
 // What is wrong with the bytes of `record`, of which an encoder has written `written` and reported `reported`; else
 // empty.
 std::string fault_in_bytes(const Figure& figure, const reference::Record& record, const reference::Bytes& written,
