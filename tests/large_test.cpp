@@ -38,12 +38,20 @@ struct VectorMessage {
     }
 };
 
+std::ptrdiff_t vectors_in(const reference::Message& message)
+{
+    return std::accumulate(message.slots.begin(), message.slots.end(), std::ptrdiff_t{0}, [](auto sum, const auto& slot) {
+        return sum + (slot.kind == reference::Kind::vector) + (slot.nested == nullptr ? 0 : vectors_in(*slot.nested));
+    });
+}
+
+// Those with one vector: a stem, below, has one place to be pulled apart.
 std::vector<VectorMessage> vector_messages()
 {
     std::vector<VectorMessage> found;
     for (const reference::Message& message : transcribed().messages)
         for (const reference::Slot& slot : message.slots)
-            if (slot.kind == reference::Kind::vector)
+            if (slot.kind == reference::Kind::vector && vectors_in(message) == 1)
                 found.push_back({&message, slot.nested});
     return found;
 }

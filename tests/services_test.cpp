@@ -148,7 +148,7 @@ void expect_one_use_of_each_unit_to_look(Verdict& verdict)
     }
     verdict.expect("allocated by the service", allocated, offer->memory_used ? units : 0);
     verdict.expect("released by the service", released, offer->memory_used ? units : 0);
-    verdict.expect("log lines", logged, offer->has[log_write] ? 16 : 0);
+    verdict.expect("log lines", logged, offer->has[log_write] ? 2 * units : 0);
 }
 
 class EveryOffer : public testing::TestWithParam<Offer> {};
