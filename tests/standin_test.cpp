@@ -77,8 +77,10 @@ protected:
 
     static void await_waiting(uint32_t calls)
     {
-        while (mesh_counters().waiting < calls)
-            std::this_thread::yield();
+        for (int tries = 0; mesh_counters().waiting < calls; ++tries) {
+            ASSERT_LT(tries, 10000) << "too few calls wait";
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
     }
 
     std::string socket_path;
@@ -197,6 +199,7 @@ TEST_F(Mesh, packets_of_a_foreign_peer_are_judged_one_by_one)
     }
     EXPECT_EQ(mesh_standin_receive(1, 0), MESH_STANDIN_TIMEOUT);
     EXPECT_EQ(seen, (Lines{"1:7 ", "1:7 x"}));
+    EXPECT_FALSE(std::filesystem::exists(socket_path)) << "not removed once there is a peer";
 
     char got[16];
     EXPECT_EQ(send_text(1, 7, "hi"), 0);

@@ -1,5 +1,5 @@
-// The closed bounds-checked memory operations as a library of their own, for builds with KESTO_CLOSED_BOUNDED_MEMORY: to
-// test that the codecs do the same with them, and to measure what calls cost beside the inline layer.
+// The closed bounds-checked memory operations as a library of their own, for builds with KESTO_CLOSED_BOUNDED_MEMORY:
+// to test that the codecs do the same with them, and to measure what calls cost beside the inline layer.
 
 // The declarations carry the visibility.
 #pragma GCC visibility push(default)
