@@ -41,7 +41,7 @@ template <class L>
 {
     using Form = FullForm<L>;
     u64 size = Form::length;
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         const u8* const field = record + body.record_offset;
         if constexpr (body.kind == Kind::text) {
@@ -64,8 +64,7 @@ template <class L, Measure how>
 {
     constexpr bool exactly = how == Measure::exactly;
     u64 size = L::empty_table;
-    const bool fits = each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    const bool fits = each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
@@ -391,15 +390,15 @@ template <class L, Tail tail>
 u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
         writer.template write_scalar<k>();
         return true;
     });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
         writer.template reserve_cell<k>();
         return true;
     });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
         writer.template write_body<k>();
         return true;
     });
@@ -409,7 +408,7 @@ u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     store(writer.table, u32{L::vtable_bytes});
 
     u8* end = writer.table + writer.at;
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
+    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
         end = writer.template write_beneath<k>(end, nested);
         return true;
     });
@@ -448,7 +447,7 @@ template <class L>
     using Form = FullForm<L>;
     std::array<u32, Form::bodies.size()> lengths;
     typename Form::template Places<u8> to{vtable};
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         const u8* const field = record + body.record_offset;
         if constexpr (body.kind == Kind::text)
@@ -459,7 +458,7 @@ template <class L>
         return true;
     });
     Form::write_here(to, record);
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         constexpr u32 pointer = body.record_offset + (body.kind == Kind::text ? 0 : counted_pointer);
         memcpy_sOptAsm(to[b] + body.position, lengths[b], field_pointer(record + pointer), lengths[b]);

@@ -30,8 +30,7 @@ constexpr void describe_fixed(Constant& constant, Field& field, u32 record = 0, 
     constant(table, root_bytes - L::fixed_vtable, 4);
     describe_vtable<L>(constant, root + L::fixed_vtable, L::fixed_offset);
     constant(root + L::fixed_vtable + table_length_at, L::fixed_table_bytes, 2);
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() {
         using Slot = typename L::template Slot<K>;
         const u32 from = record + L::record_offset[K];
         const u32 at = table + L::fixed_offset[K];
@@ -77,8 +76,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
     constant(table.position, L::vtable_bytes, 4);
     Place at{table.position + table_head_bytes, table.bodies};
     std::array<u32, L::slots> offset{};
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() {
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::kind == Kind::scalar) {
             offset[K] = at.position - table.position;
@@ -97,8 +95,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
         const Place cell{table.position + offset[k], table.bodies};
         describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
     };
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() {
         using Slot = typename L::template Slot<K>;
         constexpr Kind kind = Slot::kind;
         const u32 from = record + L::record_offset[K];
@@ -126,8 +123,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
     });
     describe_vtable<L>(constant, vtable.position, offset);
     describe_distance(constant, sum, vtable.position + table_length_at, 2, table, at, false);
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() {
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::kind == Kind::table) {
             using Inner = typename Slot::Layout;
@@ -170,7 +166,7 @@ using FixedForm = Picture<L, detail::FixedDescription<L>>;
 template <class L>
 using FullForm = Picture<L, detail::FullDescription<L>>;
 
-// Calls visit(b) for each body of a picture, b being its number as a constant.
+// Calls visit<b>() for each body of a picture, b being its number; stops and gives false when one of the calls does.
 template <class Form, class Visit>
 [[gnu::always_inline]] inline bool each_body(Visit&& visit)
 {
@@ -181,8 +177,7 @@ template <class Form, class Visit>
 template <class L>
 [[gnu::always_inline]] inline bool has_full_form(const u8* record)
 {
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    return each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar)

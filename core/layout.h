@@ -196,7 +196,7 @@ struct Layout {
     static constexpr u32 fixed_length = has_heap_parts ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
 };
 
-// Calls visit(k) for each slot, k being its number as a constant; stops and gives false when one of the calls does.
+// Calls visit<k>() for each slot, k being its number; stops and gives false when one of the calls does.
 template <class L, class Visit>
 [[gnu::always_inline]] constexpr bool each_slot(Visit&& visit)
 {

@@ -62,7 +62,7 @@ template <class L>
 template <class L>
 constexpr Widths<L::slots> scalar_widths = [] {
     Widths<L::slots> widths{};
-    each_slot<L>([&](auto k) {
+    each_slot<L>([&]<u32 k>() {
         using Slot = typename L::template Slot<k>;
         if constexpr (Slot::kind == Kind::scalar) {
             widths.of[k] = Slot::record_size;
@@ -97,8 +97,7 @@ template <class L>
 template <class L>
 [[gnu::always_inline]] inline void clear_gaps(u8* record)
 {
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
         constexpr u32 end = L::record_offset[K] + L::template Slot<K>::record_size;
         constexpr u32 next = K + 1 < L::slots ? L::record_offset[K + 1] : L::record_size;
         clear_run<next - end>(record + end);
@@ -133,7 +132,8 @@ template <class L>
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return false;
     clear_gaps<L>(record);
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
+    return each_slot<L>([&]<u32 k>()
+                            __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
 }
 
 // Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
@@ -211,8 +211,9 @@ read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, co
     if (clear)
         clear_run<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
-    if (each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, in, view, record); }))
-        [[likely]]
+    if (each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
+            return decode_slot<L, k>(frame, in, view, record);
+        })) [[likely]]
         return Reading::done;
     release_record(decoder, record);
     return Reading::refused;
@@ -249,8 +250,7 @@ template <class Form, class L, u32 base>
 [[nodiscard, gnu::always_inline]] inline bool take_heap_parts(const typename Form::template Places<const u8>& bytes,
                                                               u8* record, const Decoder& decoder, const char* routine)
 {
-    const bool all = each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    const bool all = each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::fixed_bytes == 0) {
             constexpr u32 offset = base + L::record_offset[K];
@@ -295,7 +295,7 @@ template <class L>
         return Reading::none;
     u32 room = in.length - at - Form::length;
     typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // picture_fits
-    const bool fit = each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    const bool fit = each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         u32 length = 0;
         if (!take_body(in, at + body.position - count_bytes, room, length))
@@ -363,8 +363,7 @@ bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const Nes
 template <class L>
 constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
     std::array<SlotInfo, L::slots> infos{};
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
+    each_slot<L>([&]<u32 K>() {
         using Slot = typename L::template Slot<K>;
         SlotInfo& info = infos[K];
         info.kind = Slot::kind;
@@ -384,7 +383,7 @@ constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
 template <class L>
 constexpr u32 heap_part_count = [] {
     u32 count = 0;
-    each_slot<L>([&](auto k) {
+    each_slot<L>([&]<u32 k>() {
         using Slot = typename L::template Slot<k>;
         if constexpr (Slot::kind == Kind::table)
             count += heap_part_count<typename Slot::Layout>;

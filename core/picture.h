@@ -254,7 +254,7 @@ struct Picture {
             for (const Run& run : runs)
                 copy_turned(to[part_of(run.position)] + run.position, record + run.record_offset, run);
         } else {
-            make_moves<writing>([&](auto m) __attribute__((always_inline)) {
+            make_moves<writing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
                 const u8* const from = (move.constant ? image.data() : record) + move.from;
                 u8* const at = to[part_of(move.to)] + move.to;
@@ -262,9 +262,10 @@ struct Picture {
                     detail::copy_long(at, from, move.bytes);
                 else
                     detail::copy_move<move.bytes>(at, from);
+                return true;
             });
         }
-        each_sum([&](auto i) __attribute__((always_inline)) {
+        each_sum([&]<u32 i>() __attribute__((always_inline)) {
             constexpr Sum sum = sums[i];
             u8* const at = to[part_of(sum.position)] + sum.position;
             if constexpr (sum.width == sizeof(u32))
@@ -282,13 +283,13 @@ struct Picture {
     {
         detail::Lanes wide{};
         u64 narrow = 0;
-        each_sum([&](auto i) __attribute__((always_inline)) {
+        each_sum([&]<u32 i>() __attribute__((always_inline)) {
             constexpr Sum sum = sums[i];
             if constexpr (sum.must_be)
                 narrow |= load<u32>(bytes[part_of(sum.position)] + sum.position) ^ value_of<i>(bytes);
             return true;
         });
-        make_moves<comparing>([&](auto m) __attribute__((always_inline)) {
+        make_moves<comparing>([&]<u32 m>() __attribute__((always_inline)) {
             constexpr detail::Move move = comparing[m];
             const u8* const left = bytes[part_of(move.to)] + move.to;
             const u8* const right = image.data() + move.to;
@@ -304,6 +305,7 @@ struct Picture {
                 detail::gather_difference<u16>(narrow, left, right);
             else
                 detail::gather_difference<u8>(narrow, left, right);
+            return true;
         });
         u64 halves[2];
         std::memcpy(halves, &wide, sizeof halves);
@@ -318,7 +320,7 @@ struct Picture {
             for (const Run& run : runs)
                 copy_turned(record + run.record_offset, bytes[part_of(run.position)] + run.position, run);
         } else {
-            make_moves<reading>([&](auto m) __attribute__((always_inline)) {
+            make_moves<reading>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = reading[m];
                 const u8* const from = move.constant ? nullptr : bytes[part_of(move.from)] + move.from;
                 if constexpr (move.constant && move.bytes > detail::move_bytes)
@@ -329,6 +331,7 @@ struct Picture {
                     detail::copy_long(record + move.to, from, move.bytes);
                 else
                     detail::copy_move<move.bytes>(record + move.to, from);
+                return true;
             });
         }
     }
@@ -415,12 +418,7 @@ private:
     template <const auto& moves, class Make>
     [[gnu::always_inline]] static void make_moves(Make&& make)
     {
-        detail::each_number(
-            [&](auto m) __attribute__((always_inline)) {
-                make(m);
-                return true;
-            },
-            std::make_integer_sequence<u32, moves.size()>());
+        detail::each_number(make, std::make_integer_sequence<u32, moves.size()>());
     }
 
     // From the record to the wire and back are the same here.

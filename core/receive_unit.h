@@ -35,7 +35,7 @@ struct Receiving {
     static constexpr auto heap_parts = [] {
         std::array<HeapPart, heap_part_count<L>> parts{};
         u32 next = 0;
-        each_slot<L>([&](auto k) {
+        each_slot<L>([&]<u32 k>() {
             constexpr Kind kind = L::template Slot<k>::kind;
             constexpr u32 offset = L::record_offset[k];
             if constexpr (kind == Kind::text) {
