@@ -12,8 +12,8 @@ namespace detail {
 constexpr u32 table_length_at = 2;   // in a vtable
 
 // A table's vtable, all but the length of the table. `offset` gives the offset of each slot.
-template <class L, class Constant>
-constexpr void describe_vtable(Constant& constant, u32 vtable, const std::array<u32, L::slots>& offset)
+template <class L>
+constexpr void describe_vtable(Constants& constant, u32 vtable, const std::array<u32, L::slots>& offset)
 {
     constant(vtable, L::vtable_bytes, 2);
     for (u32 k = 0; k < L::slots; ++k)
@@ -22,8 +22,8 @@ constexpr void describe_vtable(Constant& constant, u32 vtable, const std::array<
 
 // The fixed form of a record that stands at `record` in the whole one, from `root` on. Of a nested form the root word
 // is its slot's cell, and leads just as far.
-template <class L, class Constant, class Field>
-constexpr void describe_fixed(Constant& constant, Field& field, u32 record = 0, u32 root = 0)
+template <class L>
+constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record = 0, u32 root = 0)
 {
     const u32 table = root + root_bytes;
     constant(root, root_bytes, 4);
@@ -54,8 +54,7 @@ struct Place {
 };
 
 // A number at `position`, the distance between two places.
-template <class Constant, class Add>
-constexpr void describe_distance(Constant& constant, Add& sum, u32 position, u32 width, const Place& from,
+constexpr void describe_distance(Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
                                  const Place& to, bool must_be)
 {
     const u32 value = to.position - from.position;
@@ -67,8 +66,8 @@ constexpr void describe_distance(Constant& constant, Add& sum, u32 position, u32
 
 // The compact form, without the root, of a record in which no scalar is zero, no text or block is absent and no block
 // empty: what write_table makes of it. Returns its end.
-template <class L, class Constant, class Field, class AnyBody, class Add>
-constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, Add& sum, u32 record = 0,
+template <class L>
+constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>& body, List<Sum>& sum, u32 record = 0,
                               const Place& vtable = {})
 {
     static_assert(!L::has_vectors);
@@ -137,25 +136,21 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
 
 template <class L>
 struct FixedDescription {
-    static constexpr u32 length = L::fixed_length;
-    static_assert(length <= fixed_buffer_bytes);
+    static_assert(L::fixed_length <= fixed_buffer_bytes);
 
-    template <class Constant, class Field, class AnyBody, class Add>
-    static constexpr void walk(Constant&& constant, Field&& field, AnyBody&&, Add&&)
+    static constexpr void describe(Description& form)
     {
-        describe_fixed<L>(constant, field);
+        describe_fixed<L>(form.constant, form.field);
+        form.length = L::fixed_length;
     }
 };
 
 template <class L>
 struct FullDescription {
-    template <class Constant, class Field, class AnyBody, class Add>
-    static constexpr u32 walk(Constant&& constant, Field&& field, AnyBody&& body, Add&& sum)
+    static constexpr void describe(Description& form)
     {
-        return describe_full<L>(constant, field, body, sum).position;
+        form.length = describe_full<L>(form.constant, form.field, form.body, form.sum).position;
     }
-
-    static constexpr u32 length = walk(unheard, unheard, unheard, unheard);
 };
 
 }   // namespace detail

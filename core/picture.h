@@ -44,9 +44,6 @@ struct Sum {
     bool must_be;
 };
 
-// Of what is described, what somebody does not want to know.
-constexpr auto unheard = [](const auto&...) {};
-
 namespace detail {
 
 constexpr void put(u8* at, u32 value, u32 width)
@@ -54,6 +51,40 @@ constexpr void put(u8* at, u32 value, u32 width)
     for (u32 i = 0; i < width; ++i)
         at[i] = static_cast<u8>(value >> (8 * i));
 }
+
+// Stores constant numbers; none without an image to store them in.
+struct Constants {
+    u8* image;
+
+    constexpr void operator()(u32 position, u32 value, u32 width) const
+    {
+        if (image != nullptr)
+            put(image + position, value, width);
+    }
+};
+
+// Stores items in the order of the calls; only counts them without an array to store them in.
+template <class Item>
+struct List {
+    Item* items;
+    u32 count = 0;
+
+    constexpr void operator()(const Item& item)
+    {
+        if (items != nullptr)
+            items[count] = item;
+        ++count;
+    }
+};
+
+// What a form consists of.
+struct Description {
+    Constants constant;
+    List<Run> field;
+    List<Body> body;
+    List<Sum> sum;
+    u32 length = 0;
+};
 
 // Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
 constexpr bool joins(const Run& run, const Run& next)
@@ -125,6 +156,16 @@ constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 so
     return reached == target_end;
 }
 
+// Whether `test` holds for each move of a plan.
+template <std::size_t N, class Test>
+constexpr bool all_of(const std::array<Move, N>& moves, Test&& test)
+{
+    for (const Move& move : moves)
+        if (!test(move))
+            return false;
+    return true;
+}
+
 // Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
 // are in that order too; `to` and `from` say which side of a run is which.
 template <std::size_t N, class Visit>
@@ -145,15 +186,22 @@ constexpr void each_piece(const std::array<Run, N>& runs, u32 Run::*to, u32 Run:
 template <class Item, auto walk>
 constexpr auto collected = [] {
     constexpr u32 count = [] {
-        u32 items = 0;
-        walk([&](const Item&) { ++items; });
-        return items;
+        List<Item> visit{nullptr};
+        walk(visit);
+        return visit.count;
     }();
     std::array<Item, count> items{};
-    u32 next = 0;
-    walk([&](const Item& item) { items[next++] = item; });
+    List<Item> visit{items.data()};
+    walk(visit);
     return items;
 }();
+
+constexpr bool precedes_in_record(const Run& left, const Run& right)
+{
+    return left.record_offset < right.record_offset;
+}
+constexpr bool precedes_on_wire(const Run& left, const Run& right) { return left.position < right.position; }
+constexpr Run run_of(const Sum& sum) { return {0, sum.position, sum.width, sum.width}; }
 
 // Sixteen bytes that are compared in one go where the machine can.
 using Lanes [[gnu::vector_size(move_bytes)]] = u32;
@@ -174,27 +222,39 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form has the picture's `length` and walk(constant, field, body, sum), which describes all
-// of it by calls of constant(position, value, width), field(run), body(body) and sum(sum); runs and bodies come in the
-// order of the wire.
+// `L` is the record's layout. Form::describe(description) describes a picture by calls of constant(position, value,
+// width), field(run), body(body) and sum(sum), and sets its length; runs and bodies come in the order of the wire.
 template <class L, class Form>
 struct Picture {
-    static constexpr u32 length = Form::length;
-    static_assert(length <= 0xFFFF);   // picture_fits relies on it
-
-    // The picture of an all-zero record.
-    static constexpr std::array<u8, length> image = [] {
-        std::array<u8, length> bytes{};
-        Form::walk([&](u32 position, u32 value, u32 width) { detail::put(bytes.data() + position, value, width); },
-                   unheard, unheard, unheard);
-        return bytes;
+private:
+    static constexpr detail::Description counted = [] {
+        detail::Description description{};
+        Form::describe(description);
+        return description;
     }();
 
-    static constexpr auto bodies =
-        detail::collected<Body, [](auto&& visit) { Form::walk(unheard, unheard, visit, unheard); }>;
+    struct Described {
+        std::array<u8, counted.length> image;
+        std::array<Run, counted.field.count> fields;
+        std::array<Body, counted.body.count> bodies;
+        std::array<Sum, counted.sum.count> sums;
+    };
 
-    static constexpr auto sums =
-        detail::collected<Sum, [](auto&& visit) { Form::walk(unheard, unheard, unheard, visit); }>;
+    static constexpr Described described = [] {
+        Described all{};
+        detail::Description description{
+            {all.image.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}};
+        Form::describe(description);
+        return all;
+    }();
+
+public:
+    static constexpr u32 length = counted.length;
+    static_assert(length <= 0xFFFF);   // picture_fits relies on it
+
+    static constexpr auto image = described.image;   // the picture of an all-zero record
+    static constexpr auto bodies = described.bodies;
+    static constexpr auto sums = described.sums;
 
     // Where the parts are that the bodies leave of a picture: of each, the address that position 0 would have if the
     // part began there. So the byte at a position of a part is at the part's address plus the position.
@@ -226,21 +286,17 @@ struct Picture {
     }
 
     // Joined, in the order of the wire.
-    static constexpr auto runs = detail::collected<Run, [](auto&& visit) {
+    static constexpr auto runs = detail::collected<Run, [](auto& visit) {
         Run open{};
-        Form::walk(
-            unheard,
-            [&](const Run& field) {
-                if (open.bytes != 0 && detail::joins(open, field) &&
-                    part_of(open.position) == part_of(field.position)) {
-                    open.bytes += field.bytes;
-                    return;
-                }
-                if (open.bytes != 0)
-                    visit(open);
-                open = field;
-            },
-            unheard, unheard);
+        for (const Run& field : described.fields) {
+            if (open.bytes != 0 && detail::joins(open, field) && part_of(open.position) == part_of(field.position)) {
+                open.bytes += field.bytes;
+                continue;
+            }
+            if (open.bytes != 0)
+                visit(open);
+            open = field;
+        }
         if (open.bytes != 0)
             visit(open);
     }>;
@@ -248,6 +304,9 @@ struct Picture {
     // Writes `length` bytes, all but the bodies.
     [[gnu::always_inline]] static void write_here(const Places<u8>& to, const u8* record)
     {
+        static_assert(detail::is_whole(writing, length, L::record_size, length));
+        static_assert(detail::all_of(
+            writing, [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
         if constexpr (!host_has_wire_order) {
             for (u32 at = 0; at < length; at = part_end(at))
                 std::memcpy(to[part_of(at)] + at, image.data() + at, part_end(at) - at);
@@ -281,6 +340,9 @@ struct Picture {
     // Whether the bytes are a picture of some record, which they can be with bodies of any content.
     [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
+        static_assert(detail::all_of(comparing, [](const detail::Move& move) {
+            return move.to == move.from && move.to + move.bytes <= part_end(move.to);
+        }));
         detail::Lanes wide{};
         u64 narrow = 0;
         each_sum([&]<u32 i>() __attribute__((always_inline)) {
@@ -315,6 +377,10 @@ struct Picture {
     // Writes the whole record, pointers and gaps between its fields as zeros, from a picture that matches.
     [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
+        static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
+        static_assert(detail::all_of(reading, [](const detail::Move& move) {
+            return move.constant || move.from + move.bytes <= part_end(move.from);
+        }));
         if constexpr (!host_has_wire_order) {
             clear_run<L::record_size>(record);
             for (const Run& run : runs)
@@ -339,8 +405,7 @@ struct Picture {
 private:
     static constexpr auto runs_by_record = [] {
         auto sorted = runs;
-        std::sort(sorted.begin(), sorted.end(),
-                  [](const Run& left, const Run& right) { return left.record_offset < right.record_offset; });
+        std::sort(sorted.begin(), sorted.end(), detail::precedes_in_record);
         return sorted;
     }();
 
@@ -348,11 +413,8 @@ private:
     static constexpr auto not_constant = [] {
         std::array<Run, runs.size() + sums.size()> all{};
         std::copy(runs.begin(), runs.end(), all.begin());
-        std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), [](const Sum& sum) {
-            return Run{0, sum.position, sum.width, sum.width};
-        });
-        std::sort(all.begin(), all.end(),
-                  [](const Run& left, const Run& right) { return left.position < right.position; });
+        std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), detail::run_of);
+        std::sort(all.begin(), all.end(), detail::precedes_on_wire);
         return all;
     }();
 
@@ -390,17 +452,6 @@ private:
                                                     piece.constant ? L::record_size : part_end(piece.from), visit);
                            });
     }>;
-
-    static_assert(detail::is_whole(writing, length, L::record_size, length));
-    static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
-    static_assert(std::all_of(writing.begin(), writing.end(),
-                              [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
-    static_assert(std::all_of(reading.begin(), reading.end(), [](const detail::Move& move) {
-        return move.constant || move.from + move.bytes <= part_end(move.from);
-    }));
-    static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
-        return move.to == move.from && move.to + move.bytes <= part_end(move.to);
-    }));
 
     template <class Visit>
     [[gnu::always_inline]] static void each_sum(Visit&& visit)
