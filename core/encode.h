@@ -384,35 +384,38 @@ struct TableWriter {
             return end;
         }
     }
+
+    // The table itself, but for the lengths.
+    template <u32... K>
+    [[gnu::always_inline]] void write_slots(std::integer_sequence<u32, K...>)
+    {
+        (write_scalar<K>(), ...);
+        (reserve_cell<K>(), ...);
+        (write_body<K>(), ...);
+    }
+
+    // What lies beneath all slots. Returns the end.
+    template <u32... K>
+    [[gnu::always_inline]] u8* write_all_beneath(const NestedEncoder* nested, std::integer_sequence<u32, K...>)
+    {
+        u8* end = table + at;
+        ((end = write_beneath<K>(end, nested)), ...);
+        return end;
+    }
 };
 
 template <class L, Tail tail>
 u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
-    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
-        writer.template write_scalar<k>();
-        return true;
-    });
-    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
-        writer.template reserve_cell<k>();
-        return true;
-    });
-    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
-        writer.template write_body<k>();
-        return true;
-    });
+    constexpr auto slots = std::make_integer_sequence<u32, L::slots>();
+    writer.write_slots(slots);
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
     store(writer.table, u32{L::vtable_bytes});
 
-    u8* end = writer.table + writer.at;
-    each_slot<L>([&]<u32 k>() __attribute__((always_inline)) {
-        end = writer.template write_beneath<k>(end, nested);
-        return true;
-    });
-    return end;
+    return writer.write_all_beneath(nested, slots);
 }
 
 template <class L>
