@@ -64,8 +64,7 @@ template <class L, Measure how>
 {
     constexpr bool exactly = how == Measure::exactly;
     u64 size = L::empty_table;
-    const bool fits = each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
-        using Slot = typename L::template Slot<K>;
+    const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
             size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
@@ -89,7 +88,7 @@ template <class L, Measure how>
                 const u8* const records = field_pointer(field + counted_pointer);
                 if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
                     return false;
-                const NestedEncoder& element = nested[L::nested_before(K)];
+                const NestedEncoder& element = nested[L::nested_before[K]];
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
                 size += measure(records, count, element.nested);
@@ -98,7 +97,7 @@ template <class L, Measure how>
             using Inner = typename Slot::Layout;
             size += cell_bytes;
             if constexpr (exactly || Inner::has_heap_parts)
-                size += measure_table<Inner, how>(field, nested[L::nested_before(K)].nested);
+                size += measure_table<Inner, how>(field, nested[L::nested_before[K]].nested);
             else
                 size += FullForm<Inner>::length;
         }
@@ -373,11 +372,11 @@ struct TableWriter {
             using Inner = typename Slot<K>::Layout;
             u8* const cell = table + cells[K];
             store(cell, static_cast<u32>(end + Inner::vtable_bytes - cell));
-            return write_table<Inner>(end, field<K>(), nested[L::nested_before(K)].nested);
+            return write_table<Inner>(end, field<K>(), nested[L::nested_before[K]].nested);
         } else if constexpr (Slot<K>::kind == Kind::vector) {
             if (cells[K] == 0)
                 return end;
-            const NestedEncoder& element = nested[L::nested_before(K)];
+            const NestedEncoder& element = nested[L::nested_before[K]];
             return element.write_elements(table + cells[K], field_value<u32>(field<K>()), end,
                                           field_pointer(field<K>() + counted_pointer), element.nested);
         } else {

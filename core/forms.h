@@ -30,8 +30,7 @@ constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record 
     constant(table, root_bytes - L::fixed_vtable, 4);
     describe_vtable<L>(constant, root + L::fixed_vtable, L::fixed_offset);
     constant(root + L::fixed_vtable + table_length_at, L::fixed_table_bytes, 2);
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         const u32 from = record + L::record_offset[K];
         const u32 at = table + L::fixed_offset[K];
         if constexpr (Slot::kind == Kind::table) {
@@ -75,8 +74,7 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
     constant(table.position, L::vtable_bytes, 4);
     Place at{table.position + table_head_bytes, table.bodies};
     std::array<u32, L::slots> offset{};
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::scalar) {
             offset[K] = at.position - table.position;
             field(Run{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
@@ -94,8 +92,7 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
         const Place cell{table.position + offset[k], table.bodies};
         describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
     };
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         constexpr Kind kind = Slot::kind;
         const u32 from = record + L::record_offset[K];
         if constexpr (kind == Kind::array) {
@@ -122,8 +119,7 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
     });
     describe_vtable<L>(constant, vtable.position, offset);
     describe_distance(constant, sum, vtable.position + table_length_at, 2, table, at, false);
-    each_slot<L>([&]<u32 K>() {
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::table) {
             using Inner = typename Slot::Layout;
             lead(K, {at.position + Inner::vtable_bytes, at.bodies});
@@ -172,8 +168,7 @@ template <class Form, class Visit>
 template <class L>
 [[gnu::always_inline]] inline bool has_full_form(const u8* record)
 {
-    return each_slot<L>([&]<u32 K>() __attribute__((always_inline)) {
-        using Slot = typename L::template Slot<K>;
+    return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar)
             return field_value<typename Slot::Value>(field) != 0;
