@@ -509,7 +509,7 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
         lead();
         u8* const vtable = at;
         if (own_tail<L> == Tail::none && (alike || record + L::record_size == end))
-            at = write_any_table<L, Tail::none>(at, record, nested);
+            at = write_any_table<L, own_tail<L>>(at, record, nested);
         else
             at = write_any_table<L, Tail::follows>(at, record, nested);
         if constexpr (own_tail<L> == Tail::none) {

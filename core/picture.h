@@ -156,16 +156,6 @@ constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 so
     return reached == target_end;
 }
 
-// Whether `test` holds for each move of a plan.
-template <std::size_t N, class Test>
-constexpr bool all_of(const std::array<Move, N>& moves, Test&& test)
-{
-    for (const Move& move : moves)
-        if (!test(move))
-            return false;
-    return true;
-}
-
 // Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
 // are in that order too; `to` and `from` say which side of a run is which.
 template <std::size_t N, class Visit>
@@ -195,13 +185,6 @@ constexpr auto collected = [] {
     walk(visit);
     return items;
 }();
-
-constexpr bool precedes_in_record(const Run& left, const Run& right)
-{
-    return left.record_offset < right.record_offset;
-}
-constexpr bool precedes_on_wire(const Run& left, const Run& right) { return left.position < right.position; }
-constexpr Run run_of(const Sum& sum) { return {0, sum.position, sum.width, sum.width}; }
 
 // Sixteen bytes that are compared in one go where the machine can.
 using Lanes [[gnu::vector_size(move_bytes)]] = u32;
@@ -305,8 +288,8 @@ public:
     [[gnu::always_inline]] static void write_here(const Places<u8>& to, const u8* record)
     {
         static_assert(detail::is_whole(writing, length, L::record_size, length));
-        static_assert(detail::all_of(
-            writing, [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
+        static_assert(std::all_of(writing.begin(), writing.end(),
+                                  [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
         if constexpr (!host_has_wire_order) {
             for (u32 at = 0; at < length; at = part_end(at))
                 std::memcpy(to[part_of(at)] + at, image.data() + at, part_end(at) - at);
@@ -340,7 +323,7 @@ public:
     // Whether the bytes are a picture of some record, which they can be with bodies of any content.
     [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
-        static_assert(detail::all_of(comparing, [](const detail::Move& move) {
+        static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
             return move.to == move.from && move.to + move.bytes <= part_end(move.to);
         }));
         detail::Lanes wide{};
@@ -378,7 +361,7 @@ public:
     [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
         static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
-        static_assert(detail::all_of(reading, [](const detail::Move& move) {
+        static_assert(std::all_of(reading.begin(), reading.end(), [](const detail::Move& move) {
             return move.constant || move.from + move.bytes <= part_end(move.from);
         }));
         if constexpr (!host_has_wire_order) {
@@ -405,7 +388,7 @@ public:
 private:
     static constexpr auto runs_by_record = [] {
         auto sorted = runs;
-        std::sort(sorted.begin(), sorted.end(), detail::precedes_in_record);
+        std::ranges::sort(sorted.begin(), sorted.end(), {}, &Run::record_offset);
         return sorted;
     }();
 
@@ -413,8 +396,10 @@ private:
     static constexpr auto not_constant = [] {
         std::array<Run, runs.size() + sums.size()> all{};
         std::copy(runs.begin(), runs.end(), all.begin());
-        std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), detail::run_of);
-        std::sort(all.begin(), all.end(), detail::precedes_on_wire);
+        std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), [](const Sum& sum) {
+            return Run{0, sum.position, sum.width, sum.width};
+        });
+        std::ranges::sort(all.begin(), all.end(), {}, &Run::position);
         return all;
     }();
 
