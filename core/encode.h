@@ -383,38 +383,30 @@ struct TableWriter {
             return end;
         }
     }
-
-    // The table itself, but for the lengths.
-    template <u32... K>
-    [[gnu::always_inline]] void write_slots(std::integer_sequence<u32, K...>)
-    {
-        (write_scalar<K>(), ...);
-        (reserve_cell<K>(), ...);
-        (write_body<K>(), ...);
-    }
-
-    // What lies beneath all slots. Returns the end.
-    template <u32... K>
-    [[gnu::always_inline]] u8* write_all_beneath(const NestedEncoder* nested, std::integer_sequence<u32, K...>)
-    {
-        u8* end = table + at;
-        ((end = write_beneath<K>(end, nested)), ...);
-        return end;
-    }
 };
 
-template <class L, Tail tail>
-u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+template <class L, Tail tail, u32... K>
+[[gnu::always_inline]] inline u8* write_any_table_here(u8* vtable, const u8* record, const NestedEncoder* nested,
+                                                       std::integer_sequence<u32, K...>)
 {
     TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
-    constexpr auto slots = std::make_integer_sequence<u32, L::slots>();
-    writer.write_slots(slots);
+    (writer.template write_scalar<K>(), ...);
+    (writer.template reserve_cell<K>(), ...);
+    (writer.template write_body<K>(), ...);
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
     store(writer.table, u32{L::vtable_bytes});
 
-    return writer.write_all_beneath(nested, slots);
+    u8* end = writer.table + writer.at;
+    ((end = writer.template write_beneath<K>(end, nested)), ...);
+    return end;
+}
+
+template <class L, Tail tail>
+u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+{
+    return write_any_table_here<L, tail>(vtable, record, nested, std::make_integer_sequence<u32, L::slots>());
 }
 
 template <class L>

@@ -203,7 +203,7 @@ struct Layout {
     }
 };
 
-// The same with visit<k>(), for who needs the number as a constant. Takes the compiler longer.
+// The same with visit<k>(), for code that needs the number as a constant. It takes longer to compile.
 template <class L, class Visit>
 [[gnu::always_inline]] constexpr bool each_slot_number(Visit&& visit)
 {

@@ -52,7 +52,7 @@ constexpr void put(u8* at, u32 value, u32 width)
         at[i] = static_cast<u8>(value >> (8 * i));
 }
 
-// Stores constant numbers; none without an image to store them in.
+// Stores constants in an image, if there is one.
 struct Constants {
     u8* image;
 
@@ -63,7 +63,7 @@ struct Constants {
     }
 };
 
-// Stores items in the order of the calls; only counts them without an array to store them in.
+// Counts items and stores them in an array, if there is one.
 template <class Item>
 struct List {
     Item* items;
@@ -77,7 +77,7 @@ struct List {
     }
 };
 
-// What a form consists of.
+// Takes the description of a form. With null pointers it only counts.
 struct Description {
     Constants constant;
     List<Run> field;
