@@ -83,7 +83,7 @@ struct Description {
     List<Run> field;
     List<Body> body;
     List<Sum> sum;
-    u32 length = 0;
+    u32 length;
 };
 
 // Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
@@ -210,6 +210,7 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 template <class L, class Form>
 struct Picture {
 private:
+    // A first walk over the form counts, a second one stores.
     static constexpr detail::Description counted = [] {
         detail::Description description{};
         Form::describe(description);
@@ -226,7 +227,7 @@ private:
     static constexpr Described described = [] {
         Described all{};
         detail::Description description{
-            {all.image.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}};
+            {all.image.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}, counted.length};
         Form::describe(description);
         return all;
     }();
