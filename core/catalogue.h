@@ -87,7 +87,7 @@ struct SlotList {
             ...);
     }
 
-    static constexpr u32 named = Layout::nested_before(Layout::slots);
+    static constexpr u32 named = Layout::nested_before[Layout::slots];
 };
 
 }   // namespace kesto::catalogue

@@ -41,7 +41,7 @@ template <class L>
 {
     using Form = FullForm<L>;
     u64 size = Form::length;
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         const u8* const field = record + body.record_offset;
         if constexpr (body.kind == Kind::text) {
@@ -64,9 +64,7 @@ template <class L, Measure how>
 {
     constexpr bool exactly = how == Measure::exactly;
     u64 size = L::empty_table;
-    const bool fits = each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
             size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
@@ -90,7 +88,7 @@ template <class L, Measure how>
                 const u8* const records = field_pointer(field + counted_pointer);
                 if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
                     return false;
-                const NestedEncoder& element = nested[L::nested_before(K)];
+                const NestedEncoder& element = nested[L::nested_before[K]];
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
                 size += measure(records, count, element.nested);
@@ -99,7 +97,7 @@ template <class L, Measure how>
             using Inner = typename Slot::Layout;
             size += cell_bytes;
             if constexpr (exactly || Inner::has_heap_parts)
-                size += measure_table<Inner, how>(field, nested[L::nested_before(K)].nested);
+                size += measure_table<Inner, how>(field, nested[L::nested_before[K]].nested);
             else
                 size += FullForm<Inner>::length;
         }
@@ -374,11 +372,11 @@ struct TableWriter {
             using Inner = typename Slot<K>::Layout;
             u8* const cell = table + cells[K];
             store(cell, static_cast<u32>(end + Inner::vtable_bytes - cell));
-            return write_table<Inner>(end, field<K>(), nested[L::nested_before(K)].nested);
+            return write_table<Inner>(end, field<K>(), nested[L::nested_before[K]].nested);
         } else if constexpr (Slot<K>::kind == Kind::vector) {
             if (cells[K] == 0)
                 return end;
-            const NestedEncoder& element = nested[L::nested_before(K)];
+            const NestedEncoder& element = nested[L::nested_before[K]];
             return element.write_elements(table + cells[K], field_value<u32>(field<K>()), end,
                                           field_pointer(field<K>() + counted_pointer), element.nested);
         } else {
@@ -387,33 +385,28 @@ struct TableWriter {
     }
 };
 
-template <class L, Tail tail>
-u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+template <class L, Tail tail, u32... K>
+[[gnu::always_inline]] inline u8* write_any_table_here(u8* vtable, const u8* record, const NestedEncoder* nested,
+                                                       std::integer_sequence<u32, K...>)
 {
     TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        writer.template write_scalar<k>();
-        return true;
-    });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        writer.template reserve_cell<k>();
-        return true;
-    });
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        writer.template write_body<k>();
-        return true;
-    });
+    (writer.template write_scalar<K>(), ...);
+    (writer.template reserve_cell<K>(), ...);
+    (writer.template write_body<K>(), ...);
 
     // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
     store(writer.table, u32{L::vtable_bytes});
 
     u8* end = writer.table + writer.at;
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        end = writer.template write_beneath<k>(end, nested);
-        return true;
-    });
+    ((end = writer.template write_beneath<K>(end, nested)), ...);
     return end;
+}
+
+template <class L, Tail tail>
+u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+{
+    return write_any_table_here<L, tail>(vtable, record, nested, std::make_integer_sequence<u32, L::slots>());
 }
 
 template <class L>
@@ -448,7 +441,7 @@ template <class L>
     using Form = FullForm<L>;
     std::array<u32, Form::bodies.size()> lengths;
     typename Form::template Places<u8> to{vtable};
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         const u8* const field = record + body.record_offset;
         if constexpr (body.kind == Kind::text)
@@ -459,7 +452,7 @@ template <class L>
         return true;
     });
     Form::write_here(to, record);
-    each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         constexpr u32 pointer = body.record_offset + (body.kind == Kind::text ? 0 : counted_pointer);
         memcpy_sOptAsm(to[b] + body.position, lengths[b], field_pointer(record + pointer), lengths[b]);
@@ -508,7 +501,7 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
         lead();
         u8* const vtable = at;
         if (own_tail<L> == Tail::none && (alike || record + L::record_size == end))
-            at = write_any_table<L, Tail::none>(at, record, nested);
+            at = write_any_table<L, own_tail<L>>(at, record, nested);
         else
             at = write_any_table<L, Tail::follows>(at, record, nested);
         if constexpr (own_tail<L> == Tail::none) {

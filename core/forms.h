@@ -12,8 +12,8 @@ namespace detail {
 constexpr u32 table_length_at = 2;   // in a vtable
 
 // A table's vtable, all but the length of the table. `offset` gives the offset of each slot.
-template <class L, class Constant>
-constexpr void describe_vtable(Constant& constant, u32 vtable, const std::array<u32, L::slots>& offset)
+template <class L>
+constexpr void describe_vtable(Constants& constant, u32 vtable, const std::array<u32, L::slots>& offset)
 {
     constant(vtable, L::vtable_bytes, 2);
     for (u32 k = 0; k < L::slots; ++k)
@@ -22,17 +22,15 @@ constexpr void describe_vtable(Constant& constant, u32 vtable, const std::array<
 
 // The fixed form of a record that stands at `record` in the whole one, from `root` on. Of a nested form the root word
 // is its slot's cell, and leads just as far.
-template <class L, class Constant, class Field>
-constexpr void describe_fixed(Constant& constant, Field& field, u32 record = 0, u32 root = 0)
+template <class L>
+constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record = 0, u32 root = 0)
 {
     const u32 table = root + root_bytes;
     constant(root, root_bytes, 4);
     constant(table, root_bytes - L::fixed_vtable, 4);
     describe_vtable<L>(constant, root + L::fixed_vtable, L::fixed_offset);
     constant(root + L::fixed_vtable + table_length_at, L::fixed_table_bytes, 2);
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         const u32 from = record + L::record_offset[K];
         const u32 at = table + L::fixed_offset[K];
         if constexpr (Slot::kind == Kind::table) {
@@ -55,8 +53,7 @@ struct Place {
 };
 
 // A number at `position`, the distance between two places.
-template <class Constant, class Add>
-constexpr void describe_distance(Constant& constant, Add& sum, u32 position, u32 width, const Place& from,
+constexpr void describe_distance(Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
                                  const Place& to, bool must_be)
 {
     const u32 value = to.position - from.position;
@@ -68,8 +65,8 @@ constexpr void describe_distance(Constant& constant, Add& sum, u32 position, u32
 
 // The compact form, without the root, of a record in which no scalar is zero, no text or block is absent and no block
 // empty: what write_table makes of it. Returns its end.
-template <class L, class Constant, class Field, class AnyBody, class Add>
-constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, Add& sum, u32 record = 0,
+template <class L>
+constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>& body, List<Sum>& sum, u32 record = 0,
                               const Place& vtable = {})
 {
     static_assert(!L::has_vectors);
@@ -77,9 +74,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
     constant(table.position, L::vtable_bytes, 4);
     Place at{table.position + table_head_bytes, table.bodies};
     std::array<u32, L::slots> offset{};
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::scalar) {
             offset[K] = at.position - table.position;
             field(Run{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
@@ -97,9 +92,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
         const Place cell{table.position + offset[k], table.bodies};
         describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
     };
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         constexpr Kind kind = Slot::kind;
         const u32 from = record + L::record_offset[K];
         if constexpr (kind == Kind::array) {
@@ -126,9 +119,7 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
     });
     describe_vtable<L>(constant, vtable.position, offset);
     describe_distance(constant, sum, vtable.position + table_length_at, 2, table, at, false);
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::table) {
             using Inner = typename Slot::Layout;
             lead(K, {at.position + Inner::vtable_bytes, at.bodies});
@@ -141,25 +132,21 @@ constexpr Place describe_full(Constant& constant, Field& field, AnyBody& body, A
 
 template <class L>
 struct FixedDescription {
-    static constexpr u32 length = L::fixed_length;
-    static_assert(length <= fixed_buffer_bytes);
+    static_assert(L::fixed_length <= fixed_buffer_bytes);
 
-    template <class Constant, class Field, class AnyBody, class Add>
-    static constexpr void walk(Constant&& constant, Field&& field, AnyBody&&, Add&&)
+    static constexpr void describe(Description& form)
     {
-        describe_fixed<L>(constant, field);
+        describe_fixed<L>(form.constant, form.field);
+        form.length = L::fixed_length;
     }
 };
 
 template <class L>
 struct FullDescription {
-    template <class Constant, class Field, class AnyBody, class Add>
-    static constexpr u32 walk(Constant&& constant, Field&& field, AnyBody&& body, Add&& sum)
+    static constexpr void describe(Description& form)
     {
-        return describe_full<L>(constant, field, body, sum).position;
+        form.length = describe_full<L>(form.constant, form.field, form.body, form.sum).position;
     }
-
-    static constexpr u32 length = walk(unheard, unheard, unheard, unheard);
 };
 
 }   // namespace detail
@@ -170,7 +157,7 @@ using FixedForm = Picture<L, detail::FixedDescription<L>>;
 template <class L>
 using FullForm = Picture<L, detail::FullDescription<L>>;
 
-// Calls visit(b) for each body of a picture, b being its number as a constant.
+// Calls visit<b>() for each body of a picture, b being its number; stops and gives false when one of the calls does.
 template <class Form, class Visit>
 [[gnu::always_inline]] inline bool each_body(Visit&& visit)
 {
@@ -181,9 +168,7 @@ template <class Form, class Visit>
 template <class L>
 [[gnu::always_inline]] inline bool has_full_form(const u8* record)
 {
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar)
             return field_value<typename Slot::Value>(field) != 0;

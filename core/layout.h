@@ -170,13 +170,12 @@ struct Layout {
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
     // How many tables and vectors stand in front of slot k: the index of its entry in a message's list of them.
-    static constexpr u32 nested_before(u32 k)
-    {
-        u32 count = 0;
-        for (u32 i = 0; i < k; ++i)
-            count += kinds[i] == Kind::table || kinds[i] == Kind::vector;
-        return count;
-    }
+    static constexpr std::array<u32, slots + 1> nested_before = [] {
+        std::array<u32, slots + 1> before{};
+        for (u32 i = 0; i < slots; ++i)
+            before[i + 1] = before[i] + (kinds[i] == Kind::table || kinds[i] == Kind::vector);
+        return before;
+    }();
 
     // ---- compact form ----
 
@@ -194,11 +193,19 @@ struct Layout {
     static constexpr u32 fixed_table_bytes = (table_head_bytes + ... + Slots::fixed_bytes);
     static constexpr u32 fixed_vtable = root_bytes + rounded_up(fixed_table_bytes, 4);   // its position
     static constexpr u32 fixed_length = has_heap_parts ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
+
+    // Calls visit<Slot>(k) for each slot, k being its number; stops and gives false when one of the calls does.
+    template <class Visit>
+    [[gnu::always_inline]] static constexpr bool each_slot(Visit&& visit)
+    {
+        u32 k = 0;
+        return (visit.template operator()<Slots>(k++) && ...);
+    }
 };
 
-// Calls visit(k) for each slot, k being its number as a constant; stops and gives false when one of the calls does.
+// The same with visit<k>(), for code that needs the number as a constant. It takes longer to compile.
 template <class L, class Visit>
-[[gnu::always_inline]] constexpr bool each_slot(Visit&& visit)
+[[gnu::always_inline]] constexpr bool each_slot_number(Visit&& visit)
 {
     return detail::each_number(visit, std::make_integer_sequence<u32, L::slots>());
 }

@@ -62,8 +62,7 @@ template <class L>
 template <class L>
 constexpr Widths<L::slots> scalar_widths = [] {
     Widths<L::slots> widths{};
-    each_slot<L>([&](auto k) {
-        using Slot = typename L::template Slot<k>;
+    L::each_slot([&]<class Slot>(u32 k) {
         if constexpr (Slot::kind == Kind::scalar) {
             widths.of[k] = Slot::record_size;
             widths.widest = std::max(widths.widest, widths.of[k]);
@@ -97,8 +96,7 @@ template <class L>
 template <class L>
 [[gnu::always_inline]] inline void clear_gaps(u8* record)
 {
-    each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    each_slot_number<L>([&]<u32 K>() __attribute__((always_inline)) {
         constexpr u32 end = L::record_offset[K] + L::template Slot<K>::record_size;
         constexpr u32 next = K + 1 < L::slots ? L::record_offset[K + 1] : L::record_size;
         clear_run<next - end>(record + end);
@@ -106,12 +104,11 @@ template <class L>
     });
 }
 
-template <class L, u32 K>
-[[nodiscard, gnu::always_inline]] inline bool read_plain_slot(const Input& in, const TableView<Input>& view, u8* record)
+template <class Slot>
+[[nodiscard, gnu::always_inline]] inline bool read_plain_slot(const Input& in, const TableView<Input>& view, u32 K,
+                                                              u8* field)
 {
-    using Slot = typename L::template Slot<K>;
     const u32 offset = slot_unchecked(in, view, K);
-    u8* const field = record + L::record_offset[K];
     if constexpr (Slot::kind == Kind::scalar) {
         read_tested_scalar<typename Slot::Value>(in, view, offset, field);
         return true;
@@ -133,7 +130,9 @@ template <class L>
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return false;
     clear_gaps<L>(record);
-    return each_slot<L>([&](auto k) __attribute__((always_inline)) { return read_plain_slot<L, k>(in, view, record); });
+    return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        return read_plain_slot<Slot>(in, view, K, record + L::record_offset[K]);
+    });
 }
 
 // Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
@@ -168,16 +167,15 @@ template <class L>
 // ---- layouts with heap parts ----
 
 // `in` and `view` are the frame's: copies that no store to a record can change.
-template <class L, u32 K>
+template <class L, class Slot>
 [[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in,
-                                                          const TableView<Input>& view, u8* record)
+                                                          const TableView<Input>& view, u32 K, u8* record)
 {
-    using Slot = typename L::template Slot<K>;
+    u8* const field = record + L::record_offset[K];
     if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array) {
-        return read_plain_slot<L, K>(in, view, record);
+        return read_plain_slot<Slot>(in, view, K, field);
     } else {
         const u32 offset = slot_unchecked(in, view, K);
-        u8* const field = record + L::record_offset[K];
         if (offset == 0)
             return true;   // the record is clear already
         if constexpr (Slot::kind == Kind::text) {
@@ -186,12 +184,12 @@ template <class L, u32 K>
             return decode_block(frame, offset, field);
         } else if constexpr (Slot::kind == Kind::vector) {
             return decode_vector(in, view, offset, field, *frame.decoder, frame.routine,
-                                 frame.decoder->nested[L::nested_before(K)]);
+                                 frame.decoder->nested[L::nested_before[K]]);
         } else {
             u32 table = 0;
             if (!nested_table(in, view, offset, table))
                 return false;
-            const NestedDecoder& message = frame.decoder->nested[L::nested_before(K)];
+            const NestedDecoder& message = frame.decoder->nested[L::nested_before[K]];
             return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
         }
     }
@@ -211,8 +209,9 @@ read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, co
     if (clear)
         clear_run<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
-    if (each_slot<L>([&](auto k) __attribute__((always_inline)) { return decode_slot<L, k>(frame, in, view, record); }))
-        [[likely]]
+    if (L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+            return decode_slot<L, Slot>(frame, in, view, K, record);
+        })) [[likely]]
         return Reading::done;
     release_record(decoder, record);
     return Reading::refused;
@@ -249,15 +248,14 @@ template <class Form, class L, u32 base>
 [[nodiscard, gnu::always_inline]] inline bool take_heap_parts(const typename Form::template Places<const u8>& bytes,
                                                               u8* record, const Decoder& decoder, const char* routine)
 {
-    const bool all = each_slot<L>([&](auto k) __attribute__((always_inline)) {
-        constexpr u32 K = k;
+    const bool all = each_slot_number<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
         if constexpr (Slot::fixed_bytes == 0) {
             constexpr u32 offset = base + L::record_offset[K];
             u8* const field = record + offset;
             bool taken;
             if constexpr (Slot::kind == Kind::table) {
-                const NestedDecoder& message = decoder.nested[L::nested_before(K)];
+                const NestedDecoder& message = decoder.nested[L::nested_before[K]];
                 taken = take_heap_parts<Form, typename Slot::Layout, offset>(bytes, record, *message.decoder,
                                                                              message.routine) ||
                         !Slot::fault_ends_read;
@@ -295,7 +293,7 @@ template <class L>
         return Reading::none;
     u32 room = in.length - at - Form::length;
     typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // picture_fits
-    const bool fit = each_body<Form>([&](auto b) __attribute__((always_inline)) {
+    const bool fit = each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         u32 length = 0;
         if (!take_body(in, at + body.position - count_bytes, room, length))
@@ -363,12 +361,10 @@ bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const Nes
 template <class L>
 constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
     std::array<SlotInfo, L::slots> infos{};
-    each_slot<L>([&](auto k) {
-        constexpr u32 K = k;
-        using Slot = typename L::template Slot<K>;
+    L::each_slot([&]<class Slot>(u32 K) {
         SlotInfo& info = infos[K];
         info.kind = Slot::kind;
-        info.nested = static_cast<u8>(L::nested_before(K));
+        info.nested = static_cast<u8>(L::nested_before[K]);
         info.record_offset = static_cast<u16>(L::record_offset[K]);
         if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array)
             info.width = sizeof(typename Slot::Value);
@@ -384,8 +380,7 @@ constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
 template <class L>
 constexpr u32 heap_part_count = [] {
     u32 count = 0;
-    each_slot<L>([&](auto k) {
-        using Slot = typename L::template Slot<k>;
+    L::each_slot([&]<class Slot>(u32) {
         if constexpr (Slot::kind == Kind::table)
             count += heap_part_count<typename Slot::Layout>;
         else

@@ -44,9 +44,6 @@ struct Sum {
     bool must_be;
 };
 
-// Of what is described, what somebody does not want to know.
-constexpr auto unheard = [](const auto&...) {};
-
 namespace detail {
 
 constexpr void put(u8* at, u32 value, u32 width)
@@ -54,6 +51,40 @@ constexpr void put(u8* at, u32 value, u32 width)
     for (u32 i = 0; i < width; ++i)
         at[i] = static_cast<u8>(value >> (8 * i));
 }
+
+// Stores constants in an image, if there is one.
+struct Constants {
+    u8* image;
+
+    constexpr void operator()(u32 position, u32 value, u32 width) const
+    {
+        if (image != nullptr)
+            put(image + position, value, width);
+    }
+};
+
+// Counts items and stores them in an array, if there is one.
+template <class Item>
+struct List {
+    Item* items;
+    u32 count = 0;
+
+    constexpr void operator()(const Item& item)
+    {
+        if (items != nullptr)
+            items[count] = item;
+        ++count;
+    }
+};
+
+// Takes the description of a form. With null pointers it only counts.
+struct Description {
+    Constants constant;
+    List<Run> field;
+    List<Body> body;
+    List<Sum> sum;
+    u32 length;
+};
 
 // Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
 constexpr bool joins(const Run& run, const Run& next)
@@ -145,13 +176,13 @@ constexpr void each_piece(const std::array<Run, N>& runs, u32 Run::*to, u32 Run:
 template <class Item, auto walk>
 constexpr auto collected = [] {
     constexpr u32 count = [] {
-        u32 items = 0;
-        walk([&](const Item&) { ++items; });
-        return items;
+        List<Item> visit{nullptr};
+        walk(visit);
+        return visit.count;
     }();
     std::array<Item, count> items{};
-    u32 next = 0;
-    walk([&](const Item& item) { items[next++] = item; });
+    List<Item> visit{items.data()};
+    walk(visit);
     return items;
 }();
 
@@ -174,27 +205,40 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form has the picture's `length` and walk(constant, field, body, sum), which describes all
-// of it by calls of constant(position, value, width), field(run), body(body) and sum(sum); runs and bodies come in the
-// order of the wire.
+// `L` is the record's layout. Form::describe(description) describes a picture by calls of constant(position, value,
+// width), field(run), body(body) and sum(sum), and sets its length; runs and bodies come in the order of the wire.
 template <class L, class Form>
 struct Picture {
-    static constexpr u32 length = Form::length;
-    static_assert(length <= 0xFFFF);   // picture_fits relies on it
-
-    // The picture of an all-zero record.
-    static constexpr std::array<u8, length> image = [] {
-        std::array<u8, length> bytes{};
-        Form::walk([&](u32 position, u32 value, u32 width) { detail::put(bytes.data() + position, value, width); },
-                   unheard, unheard, unheard);
-        return bytes;
+private:
+    // A first walk over the form counts, a second one stores.
+    static constexpr detail::Description counted = [] {
+        detail::Description description{};
+        Form::describe(description);
+        return description;
     }();
 
-    static constexpr auto bodies =
-        detail::collected<Body, [](auto&& visit) { Form::walk(unheard, unheard, visit, unheard); }>;
+    struct Described {
+        std::array<u8, counted.length> image;
+        std::array<Run, counted.field.count> fields;
+        std::array<Body, counted.body.count> bodies;
+        std::array<Sum, counted.sum.count> sums;
+    };
 
-    static constexpr auto sums =
-        detail::collected<Sum, [](auto&& visit) { Form::walk(unheard, unheard, unheard, visit); }>;
+    static constexpr Described described = [] {
+        Described all{};
+        detail::Description description{
+            {all.image.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}, counted.length};
+        Form::describe(description);
+        return all;
+    }();
+
+public:
+    static constexpr u32 length = counted.length;
+    static_assert(length <= 0xFFFF);   // picture_fits relies on it
+
+    static constexpr auto image = described.image;   // the picture of an all-zero record
+    static constexpr auto bodies = described.bodies;
+    static constexpr auto sums = described.sums;
 
     // Where the parts are that the bodies leave of a picture: of each, the address that position 0 would have if the
     // part began there. So the byte at a position of a part is at the part's address plus the position.
@@ -226,21 +270,17 @@ struct Picture {
     }
 
     // Joined, in the order of the wire.
-    static constexpr auto runs = detail::collected<Run, [](auto&& visit) {
+    static constexpr auto runs = detail::collected<Run, [](auto& visit) {
         Run open{};
-        Form::walk(
-            unheard,
-            [&](const Run& field) {
-                if (open.bytes != 0 && detail::joins(open, field) &&
-                    part_of(open.position) == part_of(field.position)) {
-                    open.bytes += field.bytes;
-                    return;
-                }
-                if (open.bytes != 0)
-                    visit(open);
-                open = field;
-            },
-            unheard, unheard);
+        for (const Run& field : described.fields) {
+            if (open.bytes != 0 && detail::joins(open, field) && part_of(open.position) == part_of(field.position)) {
+                open.bytes += field.bytes;
+                continue;
+            }
+            if (open.bytes != 0)
+                visit(open);
+            open = field;
+        }
         if (open.bytes != 0)
             visit(open);
     }>;
@@ -248,13 +288,16 @@ struct Picture {
     // Writes `length` bytes, all but the bodies.
     [[gnu::always_inline]] static void write_here(const Places<u8>& to, const u8* record)
     {
+        static_assert(detail::is_whole(writing, length, L::record_size, length));
+        static_assert(std::all_of(writing.begin(), writing.end(),
+                                  [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
         if constexpr (!host_has_wire_order) {
             for (u32 at = 0; at < length; at = part_end(at))
                 std::memcpy(to[part_of(at)] + at, image.data() + at, part_end(at) - at);
             for (const Run& run : runs)
                 copy_turned(to[part_of(run.position)] + run.position, record + run.record_offset, run);
         } else {
-            make_moves<writing>([&](auto m) __attribute__((always_inline)) {
+            make_moves<writing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
                 const u8* const from = (move.constant ? image.data() : record) + move.from;
                 u8* const at = to[part_of(move.to)] + move.to;
@@ -262,9 +305,10 @@ struct Picture {
                     detail::copy_long(at, from, move.bytes);
                 else
                     detail::copy_move<move.bytes>(at, from);
+                return true;
             });
         }
-        each_sum([&](auto i) __attribute__((always_inline)) {
+        each_sum([&]<u32 i>() __attribute__((always_inline)) {
             constexpr Sum sum = sums[i];
             u8* const at = to[part_of(sum.position)] + sum.position;
             if constexpr (sum.width == sizeof(u32))
@@ -280,15 +324,18 @@ struct Picture {
     // Whether the bytes are a picture of some record, which they can be with bodies of any content.
     [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
+        static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
+            return move.to == move.from && move.to + move.bytes <= part_end(move.to);
+        }));
         detail::Lanes wide{};
         u64 narrow = 0;
-        each_sum([&](auto i) __attribute__((always_inline)) {
+        each_sum([&]<u32 i>() __attribute__((always_inline)) {
             constexpr Sum sum = sums[i];
             if constexpr (sum.must_be)
                 narrow |= load<u32>(bytes[part_of(sum.position)] + sum.position) ^ value_of<i>(bytes);
             return true;
         });
-        make_moves<comparing>([&](auto m) __attribute__((always_inline)) {
+        make_moves<comparing>([&]<u32 m>() __attribute__((always_inline)) {
             constexpr detail::Move move = comparing[m];
             const u8* const left = bytes[part_of(move.to)] + move.to;
             const u8* const right = image.data() + move.to;
@@ -304,6 +351,7 @@ struct Picture {
                 detail::gather_difference<u16>(narrow, left, right);
             else
                 detail::gather_difference<u8>(narrow, left, right);
+            return true;
         });
         u64 halves[2];
         std::memcpy(halves, &wide, sizeof halves);
@@ -313,12 +361,16 @@ struct Picture {
     // Writes the whole record, pointers and gaps between its fields as zeros, from a picture that matches.
     [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
+        static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
+        static_assert(std::all_of(reading.begin(), reading.end(), [](const detail::Move& move) {
+            return move.constant || move.from + move.bytes <= part_end(move.from);
+        }));
         if constexpr (!host_has_wire_order) {
             clear_run<L::record_size>(record);
             for (const Run& run : runs)
                 copy_turned(record + run.record_offset, bytes[part_of(run.position)] + run.position, run);
         } else {
-            make_moves<reading>([&](auto m) __attribute__((always_inline)) {
+            make_moves<reading>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = reading[m];
                 const u8* const from = move.constant ? nullptr : bytes[part_of(move.from)] + move.from;
                 if constexpr (move.constant && move.bytes > detail::move_bytes)
@@ -329,6 +381,7 @@ struct Picture {
                     detail::copy_long(record + move.to, from, move.bytes);
                 else
                     detail::copy_move<move.bytes>(record + move.to, from);
+                return true;
             });
         }
     }
@@ -336,8 +389,7 @@ struct Picture {
 private:
     static constexpr auto runs_by_record = [] {
         auto sorted = runs;
-        std::sort(sorted.begin(), sorted.end(),
-                  [](const Run& left, const Run& right) { return left.record_offset < right.record_offset; });
+        std::ranges::sort(sorted.begin(), sorted.end(), {}, &Run::record_offset);
         return sorted;
     }();
 
@@ -348,8 +400,7 @@ private:
         std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), [](const Sum& sum) {
             return Run{0, sum.position, sum.width, sum.width};
         });
-        std::sort(all.begin(), all.end(),
-                  [](const Run& left, const Run& right) { return left.position < right.position; });
+        std::ranges::sort(all.begin(), all.end(), {}, &Run::position);
         return all;
     }();
 
@@ -388,17 +439,6 @@ private:
                            });
     }>;
 
-    static_assert(detail::is_whole(writing, length, L::record_size, length));
-    static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
-    static_assert(std::all_of(writing.begin(), writing.end(),
-                              [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
-    static_assert(std::all_of(reading.begin(), reading.end(), [](const detail::Move& move) {
-        return move.constant || move.from + move.bytes <= part_end(move.from);
-    }));
-    static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
-        return move.to == move.from && move.to + move.bytes <= part_end(move.to);
-    }));
-
     template <class Visit>
     [[gnu::always_inline]] static void each_sum(Visit&& visit)
     {
@@ -415,12 +455,7 @@ private:
     template <const auto& moves, class Make>
     [[gnu::always_inline]] static void make_moves(Make&& make)
     {
-        detail::each_number(
-            [&](auto m) __attribute__((always_inline)) {
-                make(m);
-                return true;
-            },
-            std::make_integer_sequence<u32, moves.size()>());
+        detail::each_number(make, std::make_integer_sequence<u32, moves.size()>());
     }
 
     // From the record to the wire and back are the same here.

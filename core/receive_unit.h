@@ -35,17 +35,17 @@ struct Receiving {
     static constexpr auto heap_parts = [] {
         std::array<HeapPart, heap_part_count<L>> parts{};
         u32 next = 0;
-        each_slot<L>([&](auto k) {
-            constexpr Kind kind = L::template Slot<k>::kind;
-            constexpr u32 offset = L::record_offset[k];
+        L::each_slot([&]<class Slot>(u32 k) {
+            constexpr Kind kind = Slot::kind;
+            const u32 offset = L::record_offset[k];
             if constexpr (kind == Kind::text) {
                 parts[next++] = {free_routine.data(), nullptr, offset};
             } else if constexpr (kind == Kind::block) {
                 parts[next++] = {free_routine.data(), nullptr, offset + counted_pointer};
             } else if constexpr (kind == Kind::vector) {
-                parts[next++] = {free_routine.data(), nested[L::nested_before(k)].decoder, offset + counted_pointer};
+                parts[next++] = {free_routine.data(), nested[L::nested_before[k]].decoder, offset + counted_pointer};
             } else if constexpr (kind == Kind::table) {
-                const Decoder& inner = *nested[L::nested_before(k)].decoder;
+                const Decoder& inner = *nested[L::nested_before[k]].decoder;
                 for (u32 i = 0; i < inner.heap_part_count; ++i, ++next) {
                     parts[next] = inner.heap_parts[i];
                     parts[next].pointer += offset;

@@ -60,7 +60,7 @@ constexpr bool record_matches()
 {
     return sizeof(Record) == L::record_size && alignof(Record) == L::record_align &&
            FieldOffset<Record, L::slots>::value == no_field &&
-           each_slot<L>([](auto k) { return FieldOffset<Record, k>::value == L::record_offset[k]; });
+           each_slot_number<L>([]<u32 k>() { return FieldOffset<Record, k>::value == L::record_offset[k]; });
 }
 
 }   // namespace kesto::detail

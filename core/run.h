@@ -12,11 +12,11 @@ namespace kesto {
 
 namespace detail {
 
-// Calls visit(i) for each number, as a constant; stops and gives false when one of the calls does.
+// Calls visit<i>() for each number; stops and gives false when one of the calls does.
 template <class Visit, u32... I>
 [[gnu::always_inline]] constexpr bool each_number(Visit&& visit, std::integer_sequence<u32, I...>)
 {
-    return (visit(std::integral_constant<u32, I>()) && ...);
+    return (visit.template operator()<I>() && ...);
 }
 
 constexpr u32 move_bytes = 16;
@@ -27,8 +27,8 @@ inline void each_move(Move&& move)
 {
     static_assert(N >= move_bytes);
     each_number(
-        [&](auto i) {
-            move(u32{i} * move_bytes);
+        [&]<u32 i>() {
+            move(i * move_bytes);
             return true;
         },
         std::make_integer_sequence<u32, N / move_bytes>());
@@ -46,7 +46,7 @@ template <u32 N>
         std::memcpy(to, from, N);
     else
         each_number(
-            [&](auto i) __attribute__((always_inline)) {
+            [&]<u32 i>() __attribute__((always_inline)) {
                 std::memcpy(to + i * word, from + i * word, word);
                 return true;
             },
