@@ -47,7 +47,6 @@ protected:
         ASSERT_EQ(explanation.refused.has_value(), bool(failure)) << hex(bytes);
         if (explanation.refused) {
             ASSERT_EQ(to_text(explanation.refused->failure), to_text(failure)) << hex(bytes);
-            ++refused_;
         }
         std::vector<std::string> expected;
         for (const auto& each : {explanation.ignored, explanation.refused})
@@ -55,12 +54,9 @@ protected:
                 expected.push_back(command::log_line(*each->log));
         ASSERT_EQ(lines, expected) << hex(bytes);
         ASSERT_EQ(explanation.allocations, services().allocations()) << hex(bytes);
-        ++seen_;
     }
 
     DecodeCheck check_;
-    int seen_ = 0;
-    int refused_ = 0;
 };
 
 TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
@@ -74,8 +70,6 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
             continue;
         ASSERT_NO_FATAL_FAILURE(expect_true(*message, {input.begin() + fuzz::before_bytes, input.end()}));
     }
-    EXPECT_GT(refused_, 100);
-    EXPECT_GT(seen_ - refused_, 100);
 }
 
 KESTO_FOR_EVERY_MESSAGE(Verdicts);
