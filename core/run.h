@@ -41,7 +41,7 @@ inline void each_move(Move&& move)
 template <u32 N>
 [[gnu::always_inline]] inline void copy_move(u8* to, const u8* from)
 {
-    constexpr u32 word = sizeof(void*);
+    constexpr std::size_t word = sizeof(void*);
     if constexpr (N <= word || word == 8)
         std::memcpy(to, from, N);
     else
