@@ -49,7 +49,7 @@ Bytes list_of(std::uint64_t elements, std::uint64_t block)
     append_table(out, {17, 19, 23});
     append(out, 4, 4);
     append(out, block, 4);
-    out.resize(out.size() + block, 0x5A);
+    out.resize(out.size() + static_cast<std::size_t>(block), 0x5A);
     return out;
 }
 

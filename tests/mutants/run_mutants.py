@@ -41,7 +41,6 @@ FILES = ["wire.h", "decode.h", "decode.cpp", "layout_decoder.h", "encode.h", "pi
 TESTS = ["codec_test", "services_test", "large_test", "first_use_test", "unwinding_test"]
 LAST = ["exhaustive_test", "proof_test"]   # only where the others noticed nothing
 
-LARGEST_MODULE = "ifit_sync"
 # A constant that is off can make the compiler take all there is, and the core dump of a test that crashes may be as large
 # as all memory that it maps. CPU seconds do not depend on what else runs here.
 OF_COMPILER = {resource.RLIMIT_AS: 2 << 30}
@@ -155,35 +154,21 @@ def run(command, limits={}, **kwargs):
         return "passed" if process.returncode == 0 else "failed"
 
 
-def build_largest_module(folder, compiler):
-    """An archive of the module that takes as long to compile as all others: without a mutant, and in a namespace of its own,
-    so that it shares nothing with theirs."""
-    archive = os.path.join(folder, "largest_module.a")
-    sources = glob.glob(os.path.join(ROOT, "core", "*.cpp"))
-    sources += glob.glob(os.path.join(ROOT, "messages", LARGEST_MODULE, "*.cpp"))
-    for number, source in enumerate(sources):
-        subprocess.run([compiler, "-std=c++20", "-O1", "-w", "-fPIC", "-fno-exceptions", "-fno-rtti", "-fvisibility=hidden",
-                        "-Dkesto=kesto_without_mutant", "-I" + ROOT, "-I" + os.path.join(ROOT, "include"), "-c", source,
-                        "-o", os.path.join(folder, f"{number}.o")], check=True)
-    subprocess.run(["ar", "rcs", archive] + glob.glob(os.path.join(folder, "*.o")), check=True)
-    return archive
-
-
 class Tree:
     """A copy of the sources and a build of its library."""
 
-    def __init__(self, folder, tests, archive, toolchain, thorough):
+    def __init__(self, folder, tests, toolchain, thorough):
         self.thorough = thorough   # every program, whatever the others say
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
         self.tests = tests
-        for part in ("core", "messages", "platform", "include", "cmake"):
+        for part in ("core", "messages", "platform", "include", "cmake", "tests/module"):
             shutil.copytree(os.path.join(ROOT, part), os.path.join(self.root, part))
-        with open(os.path.join(ROOT, "CMakeLists.txt")) as whole, open(os.path.join(self.root, "CMakeLists.txt"), "w") as part:
-            part.write(whole.read().replace(LARGEST_MODULE + " ", ""))
+        shutil.copy(os.path.join(ROOT, "CMakeLists.txt"), self.root)
+        with open(os.path.join(tests, "CMakeCache.txt")) as cache:
+            modules = re.search(r"^KESTO_MODULES:STRING=(.*)$", cache.read(), re.MULTILINE)[1]
         if run(["cmake", "-S", self.root, "-B", self.build, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=None",
-                "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w", *toolchain,
-                f"-DCMAKE_SHARED_LINKER_FLAGS=-Wl,--whole-archive {archive} -Wl,--no-whole-archive"]) != "passed":
+                "-DIFIT_CODEC_INSTALL=OFF", "-DCMAKE_CXX_FLAGS=-O0 -w", "-DKESTO_MODULES=" + modules, *toolchain]) != "passed":
             sys.exit("configure failed")
 
     def run_test(self, test):
@@ -207,8 +192,7 @@ class Tree:
             if run(["c++", "-O1", "-w", "-I" + self.root, *options, *system, "-c", source, "-o", objects[-1]]) != "passed":
                 return "failed"
         program = os.path.join(self.build, "proof_test")
-        libraries = glob.glob(os.path.join(self.tests, "lib", "libgtest*.a"))
-        if run(["c++", *objects, *sorted(libraries, reverse=True), "-lz3", "-pthread", "-o", program]) != "passed":
+        if run(["c++", *objects, "-lgtest_main", "-lgtest", "-lz3", "-pthread", "-o", program]) != "passed":
             return "failed"
         return run([program, "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST)
 
@@ -260,10 +244,8 @@ def main():
     counts = {"not built": 0, "noticed": 0, "equivalent": 0, "survived": 0, "wrongly listed": 0}
     lost, jobs = [], os.cpu_count() or 1
     with tempfile.TemporaryDirectory(prefix="kesto_mutants_") as folder:
-        compiler = "i686-linux-gnu-g++" if options.i686 else "c++"
         toolchain = ["-DCMAKE_TOOLCHAIN_FILE=" + os.path.join(ROOT, "cmake", "i686.cmake")] if options.i686 else []
-        archive = build_largest_module(folder, compiler)
-        trees = [Tree(os.path.join(folder, str(job)), os.path.abspath(options.tests), archive, toolchain,
+        trees = [Tree(os.path.join(folder, str(job)), os.path.abspath(options.tests), toolchain,
                       options.list and not options.mutants) for job in range(jobs)]
         result, by = trees[0].verdict("wire.h")
         if result != "survived":
