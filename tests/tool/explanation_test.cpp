@@ -94,7 +94,7 @@ TEST_P(Verdicts, of_strange_and_of_truncated_layouts_are_the_librarys)
 
 class Ranges : public EveryMessageTest {};
 
-KESTO_FOR_EVERY_MESSAGE(Ranges);
+INSTANTIATE_TEST_SUITE_P(All, Ranges, testing::ValuesIn(known_messages()), name_of_case);
 
 // Nothing is left unread and nothing reads odd in what the writers write, except text of random octets.
 TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
