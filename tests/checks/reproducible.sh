@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Builds the library once more, in a folder of another name and depth, and compares the bytes, unstripped and stripped.
+# Builds the library once more, in a folder of another name and depth, and compares the bytes, with debugging information
+# and stripped. LIBRARY has been built with it.
 #
 #   reproducible.sh SOURCE_FOLDER LIBRARY
 set -euo pipefail
@@ -8,7 +9,7 @@ trap 'rm -rf "$work"' EXIT
 place="$work/another/place, deeper"
 mkdir -p "$place"
 cp -R "$1"/{CMakeLists.txt,cmake,core,include,messages,packaging,platform} "$place"
-{ cmake -G Ninja -S "$place" -B "$place/made" && cmake --build "$place/made"; } >"$work/log" 2>&1 ||
+{ cmake -G Ninja -S "$place" -B "$place/made" -DKESTO_DEBUG_INFO=ON && cmake --build "$place/made"; } >"$work/log" 2>&1 ||
     { cat "$work/log"; exit 1; }
 strip -o "$work/one.so" "$2"
 strip -o "$work/another.so" "$place/made/libifit_codec.so"
