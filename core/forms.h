@@ -13,7 +13,7 @@ constexpr u32 table_length_at = 2;   // in a vtable
 
 // A table's vtable, all but the length of the table. `offset` gives the offset of each slot.
 template <class L>
-constexpr void describe_vtable(Constants& constant, u32 vtable, const std::array<u32, L::slots>& offset)
+constexpr void describe_vtable(const Constants& constant, u32 vtable, const std::array<u32, L::slots>& offset)
 {
     constant(vtable, L::vtable_bytes, 2);
     for (u32 k = 0; k < L::slots; ++k)
@@ -53,7 +53,7 @@ struct Place {
 };
 
 // A number at `position`, the distance between two places.
-constexpr void describe_distance(Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
+constexpr void describe_distance(const Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
                                  const Place& to, bool must_be)
 {
     const u32 value = to.position - from.position;

@@ -209,9 +209,10 @@ read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, co
     if (clear)
         clear_run<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
-    if (L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
-            return decode_slot<L, Slot>(frame, in, view, K, record);
-        })) [[likely]]
+    const bool all = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        return decode_slot<L, Slot>(frame, in, view, K, record);
+    });
+    if (all) [[likely]]
         return Reading::done;
     release_record(decoder, record);
     return Reading::refused;
