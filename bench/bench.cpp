@@ -118,7 +118,7 @@ void check_decodes(const Codec& codec, const RecordSet& set, const ByteStrings& 
         std::memset(record, 0x5A, sizeof record);
         if (codec.decode(strings[i].data(), static_cast<u32>(strings[i].size()), record) == 0)
             fail(set, contender, "does not decode");
-        const std::string difference = reference::difference(set.records[i], record);
+        const std::string difference = model::difference(set.records[i], record);
         if (!difference.empty())
             fail(set, contender, difference);
         codec.release(record);

@@ -2,23 +2,20 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 
-#include "reference/encode.h"
-#include "reference/generate.h"
+#include "model/encode.h"
+#include "model/generate.h"
 
 namespace kesto::bench {
 
 namespace {
 
-using reference::Catalogue;
-using reference::Field;
-using reference::Kind;
-using reference::Message;
-using reference::Random;
-using reference::Record;
-using reference::Slot;
+using model::Field;
+using model::Kind;
+using model::Message;
+using model::Random;
+using model::Record;
+using model::Slot;
 
 [[noreturn]] void fail(const std::string& text)
 {
@@ -28,16 +25,7 @@ using reference::Slot;
 
 const Message& message_named(const char* name)
 {
-    static const Catalogue catalogue = [] {
-        Catalogue read;
-        std::ifstream file(KESTO_MESSAGES);
-        const std::string text{std::istreambuf_iterator<char>(file), {}};
-        std::string error;
-        if (text.empty() || !read.add(text, error))
-            fail(KESTO_MESSAGES ": " + error);
-        return read;
-    }();
-    const Message* const message = catalogue.find(name);
+    const Message* const message = model::catalogue().find(name);
     if (message == nullptr)
         fail(std::string("no message ") + name);
     return *message;
@@ -74,7 +62,7 @@ void fill_octets(std::vector<u8>& octets, std::size_t count, Random& random)
 
 Record make_record(const Message& message, const Shape& shape, Fill fill, Random& random)
 {
-    Record record = reference::zero_record(message);
+    Record record = model::zero_record(message);
     const std::vector<bool> zeros = uniform_zeros(message);
     for (std::size_t k = 0; k < record.fields.size(); ++k) {
         const Slot& slot = message.slots[k];
@@ -139,10 +127,10 @@ RecordSet make_records(const Shape& shape, Fill fill)
     u64 bytes = 0;
     do {
         set.records.push_back(make_record(message, shape, fill, random));
-        bytes += 2 * reference::exact_size(set.records.back());   // the record takes less than its byte string
+        bytes += 2 * model::exact_size(set.records.back());   // the record takes less than its byte string
     } while (set.records.size() < most_records && bytes + bytes / set.records.size() <= most_bytes);
     for (const Record& record : set.records)
-        set.memory.push_back(std::make_unique<reference::RecordMemory>(record));
+        set.memory.push_back(std::make_unique<model::RecordMemory>(record));
     return set;
 }
 

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "bench/contender.h"
-#include "reference/memory.h"
+#include "model/memory.h"
 
 namespace kesto::bench {
 
@@ -36,8 +36,8 @@ extern const std::vector<Shape> shapes;
 struct RecordSet {
     Shape shape;
     Fill fill;
-    std::vector<reference::Record> records;
-    std::vector<std::unique_ptr<reference::RecordMemory>> memory;   // of the same
+    std::vector<model::Record> records;
+    std::vector<std::unique_ptr<model::RecordMemory>> memory;   // of the same
 
     std::string name() const { return shape.name() + "/" + name_of(fill); }
 };

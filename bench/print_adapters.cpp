@@ -9,21 +9,21 @@
 #include <string>
 
 #include "bench/messages.h"
-#include "tools/catalogue.h"
+#include "model/catalogue.h"
 
-using namespace kesto::tools;
+using namespace kesto::model;
 
 namespace {
 
-using Messages = std::vector<const MessageInfo*>;
+using Messages = std::vector<const Message*>;
 
 // A message behind those it nests, each once.
-void add(const MessageInfo& message, Messages& all)
+void add(const Message& message, Messages& all)
 {
-    for (const SlotInfo& slot : message.slots)
+    for (const Slot& slot : message.slots)
         if (slot.nested != nullptr)
             add(*slot.nested, all);
-    for (const MessageInfo* each : all)
+    for (const Message* each : all)
         if (each == &message)
             return;
     all.push_back(&message);
@@ -44,7 +44,7 @@ std::string camel_case(const std::string& name)
 
 // ---- templates: text with words such as $m, for a message or a slot of it ----
 
-std::string word(char letter, const MessageInfo& message, const SlotInfo* slot)
+std::string word(char letter, const Message& message, const Slot* slot)
 {
     const auto number = static_cast<std::size_t>(slot - message.slots.data());
     switch (letter) {
@@ -61,7 +61,7 @@ std::string word(char letter, const MessageInfo& message, const SlotInfo* slot)
     }
 }
 
-std::string filled(const char* text, const MessageInfo& message, const SlotInfo* slot = nullptr)
+std::string filled(const char* text, const Message& message, const Slot* slot = nullptr)
 {
     std::string out;
     for (; *text != '\0'; ++text)
@@ -80,15 +80,15 @@ struct Lines {
     const char* table = "";
     const char* vector = "";
 
-    const char* of(const SlotInfo& slot) const
+    const char* of(const Slot& slot) const
     {
         switch (slot.kind) {
-        case SlotKind::scalar: return slot.width < 4 && narrow != nullptr ? narrow : scalar;
-        case SlotKind::string: return text;
-        case SlotKind::bytes: return block;
-        case SlotKind::array: return slot.width == 1 ? octets : words;
-        case SlotKind::table: return table;
-        case SlotKind::vector: return vector;
+        case Kind::scalar: return slot.width < 4 && narrow != nullptr ? narrow : scalar;
+        case Kind::string: return text;
+        case Kind::bytes: return block;
+        case Kind::array: return slot.width == 1 ? octets : words;
+        case Kind::table: return table;
+        case Kind::vector: return vector;
         }
         return "";
     }
@@ -104,10 +104,10 @@ struct Part {
 std::string each(const Messages& messages, std::initializer_list<Part> parts)
 {
     std::string out;
-    for (const MessageInfo* message : messages)
+    for (const Message* message : messages)
         for (const Part& part : parts) {
             out += filled(part.head, *message);
-            for (const SlotInfo& slot : message->slots)
+            for (const Slot& slot : message->slots)
                 out += filled(part.lines.of(slot), *message, &slot);
             out += filled(part.tail, *message);
         }
@@ -422,7 +422,7 @@ int main(int argc, char** argv)
     }
     Messages roots, all;
     for (const char* name : kesto::bench::measured_messages) {
-        const MessageInfo* const message = find_message(name);
+        const Message* const message = catalogue().find(name);
         if (message == nullptr) {
             std::fprintf(stderr, "no message %s\n", name);
             return 1;

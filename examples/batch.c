@@ -14,17 +14,17 @@ typedef struct Arrived {
     uint32_t messages, bytes;
 } Arrived;
 
-static void on_message(void *context, uint32_t channel, uint32_t id, const void *record, uint32_t record_size,
-                       const uint8_t *bytes, uint32_t length)
+static void on_message(void* context, uint32_t channel, uint32_t id, const void* record, uint32_t record_size,
+                       const uint8_t* bytes, uint32_t length)
 {
-    Arrived *arrived = context;
+    Arrived* arrived = context;
     (void)channel, (void)id, (void)record, (void)record_size, (void)bytes;
     ++arrived->messages;
     arrived->bytes += length;
 }
 
 /* The result is MESH's, or -1: then nothing has been sent, and nothing arrives twice if each record goes by itself. */
-static int send_all(const ifit_dfx_query_glbdata_item_mesh *items, uint32_t count)
+static int send_all(const ifit_dfx_query_glbdata_item_mesh* items, uint32_t count)
 {
     int result = ifit_dfx_query_glbdata_item_mesh__sendmsg(CHANNEL, items, count);
     if (result != -1) {

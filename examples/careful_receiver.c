@@ -14,14 +14,14 @@ typedef struct Tally {
 } Tally;
 
 /* Values are the sender's: whatever one is used for, it is tested for first. */
-static int makes_sense(const ifit_dfx_query_stat_rec_mesh *answer)
+static int makes_sense(const ifit_dfx_query_stat_rec_mesh* answer)
 {
     if (answer->f1.count != answer->f0.f4 || answer->f1.count > MOST_ROWS)
         return 0;
     if (answer->f1.count > 0 && answer->f1.items == NULL) /* after a decode that succeeded the two agree */
         return 0;
     for (uint32_t i = 0; i < answer->f1.count; ++i) {
-        const ifit_dfx_query_stat_item_mesh *row = &answer->f1.items[i];
+        const ifit_dfx_query_stat_item_mesh* row = &answer->f1.items[i];
         if (memchr(row->f0, '\0', sizeof row->f0) == NULL) /* no end: not a text to be printed */
             return 0;
         if (row->f3.month < 1 || row->f3.month > 12) /* will be an index */
@@ -30,13 +30,13 @@ static int makes_sense(const ifit_dfx_query_stat_rec_mesh *answer)
     return 1;
 }
 
-static void on_message(void *context, uint32_t channel, uint32_t id, const void *record, uint32_t record_size,
-                       const uint8_t *bytes, uint32_t length)
+static void on_message(void* context, uint32_t channel, uint32_t id, const void* record, uint32_t record_size,
+                       const uint8_t* bytes, uint32_t length)
 {
     static const char months[12][4] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                        "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    const ifit_dfx_query_stat_rec_mesh *answer = record;
-    Tally *tally = context;
+    const ifit_dfx_query_stat_rec_mesh* answer = record;
+    Tally* tally = context;
     (void)channel, (void)record_size, (void)bytes, (void)length;
     if (id != IFIT_DFX_QUERY_STAT_REC_MESH_ID || answer->f0.f3.data == NULL) { /* a pointer, not its length, tells */
         ++tally->refused;
@@ -48,11 +48,11 @@ static void on_message(void *context, uint32_t channel, uint32_t id, const void 
     }
     if (tally->used++ == 0) /* the first one for all */
         for (uint32_t i = 0; i < answer->f1.count; ++i)
-            printf("%s: %u, %u %s\n", (const char *)answer->f1.items[i].f0, (unsigned)answer->f1.items[i].f1,
+            printf("%s: %u, %u %s\n", (const char*)answer->f1.items[i].f0, (unsigned)answer->f1.items[i].f1,
                    (unsigned)answer->f1.items[i].f3.day, months[answer->f1.items[i].f3.month - 1]);
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     Tally tally = {0, 0, 0, 0};
     int result = argc == 2 ? ifit_dfx_recv_init() : -1;

@@ -14,18 +14,21 @@
 #include <string>
 #include <vector>
 
-#include "examples/sample.h"
+#include "model/generate.h"
+#include "model/memory.h"
 #include "platform/mesh.h"
 #include "platform/standin/mesh_standin.h"
 #include "platform/standin/osal_standin.h"
-#include "tools/catalogue.h"
 #include "tools/operations.h"
 
-namespace
-{
+namespace {
 
-using kesto::tools::MessageInfo;
-using kesto::tools::ModuleInfo;
+using kesto::model::Field;
+using kesto::model::Kind;
+using kesto::model::Message;
+using kesto::model::Module;
+using kesto::model::Record;
+using kesto::model::RecordMemory;
 using kesto::tools::ModuleOperations;
 using kesto::tools::Operations;
 using ByteString = std::vector<std::uint8_t>;
@@ -41,16 +44,46 @@ struct Step {
 };
 constexpr Step steps[] = {{true, 1}, {true, batch}, {false, 1}, {false, batch}};
 
-// A library may be built with some of the modules alone.
-bool is_built(const MessageInfo& message)
+// Records of one message, the same in every process: no number is zero, and every text, block and element is there.
+std::vector<Record> sample_of(const Message& message)
 {
-    return kesto::tools::find_operations(message.name) != nullptr;
+    kesto::model::Random random(message.id);
+    std::vector<Record> records;
+    while (records.size() < batch)
+        records.push_back(random_record(message, kesto::model::Density::full, random));
+    return records;
 }
 
-bool applies(const Step& step, const MessageInfo& message)
+// Changes one byte, in the last content of the record.
+void damage(Record& record)
 {
-    return !step.fixed || message.fixed_length != 0;
+    Field& field = record.fields.back();
+    if (!field.records.empty())
+        damage(field.records.back());
+    else if (!field.words.empty())
+        field.words.back() ^= 1;
+    else if (!field.octets.empty())
+        field.octets.back() = field.octets.back() == 'x' ? 'y' : 'x';   // no NUL, which would end a text
+    else
+        field.number ^= 1;
 }
+
+// Texts, blocks and vectors of a record, at all depths.
+std::uint64_t owned_blocks(const Record& record)
+{
+    std::uint64_t blocks = 0;
+    for (const Field& field : record.fields) {
+        blocks += field.present ? 1 : 0;
+        for (const Record& nested : field.records)
+            blocks += owned_blocks(nested);
+    }
+    return blocks;
+}
+
+// A library may be built with some of the modules alone.
+bool is_built(const Message& message) { return kesto::tools::find_operations(message.name) != nullptr; }
+
+bool applies(const Step& step, const Message& message) { return !step.fixed || message.fixed_length != 0; }
 
 ByteString compact_form(const Operations& operations, const void* record)
 {
@@ -65,15 +98,15 @@ ByteString compact_form(const Operations& operations, const void* record)
 // ---- the sending side ----
 
 // X__sendmsg chooses the fixed form where there is one; the compact form is then handed to MESH as any program may do.
-int send(const MessageInfo& message, const Sample& sample, const Step& step)
+int send(const Message& message, const std::vector<Record>& sample, const Step& step)
 {
     const Operations& operations = kesto::tools::operations(message.name);
     if (step.fixed || message.fixed_length == 0)
-        return operations.sendmsg(channel, sample.record(0), step.records);
+        return operations.sendmsg(channel, RecordMemory(sample).data(), step.records);
     std::vector<ByteString> packed;
     std::vector<MeshSendItem> items;
     for (std::uint32_t i = 0; i < step.records; ++i) {
-        packed.push_back(compact_form(operations, sample.record(i)));
+        packed.push_back(compact_form(operations, RecordMemory(sample[i]).data()));
         items.push_back({packed[i].data(), message.id, static_cast<std::uint32_t>(packed[i].size())});
     }
     return MESH_SendMsg(channel, items.data(), step.records);
@@ -82,13 +115,14 @@ int send(const MessageInfo& message, const Sample& sample, const Step& step)
 bool send_everything(const char* path, const std::string& damaged)
 {
     int result = mesh_standin_connect(channel, path, patience_ms);
-    for (const ModuleInfo& module : kesto::tools::modules())
-        for (const MessageInfo* message : module.messages) {
+    for (const Module& module : kesto::model::catalogue().modules)
+        for (const Message* message : module.messages) {
             if (!is_built(*message))
                 continue;
-            Sample sample(*message, batch);
+            std::vector<Record> sample = sample_of(*message);
             if (damaged == "all" || damaged == message->name)
-                sample.damage();
+                for (Record& record : sample)
+                    damage(record);
             for (const Step& step : steps)
                 if (result == MESH_STANDIN_OK && applies(step, *message))
                     result = send(*message, sample, step);
@@ -109,23 +143,23 @@ struct Row {
 
 // One byte string: what it has to be, and what the consumer found.
 struct Arrival {
-    const MessageInfo& message;
+    const Message& message;
     const Operations& operations;
     bool fixed;
-    const std::uint8_t* record;
+    const Record& record;
     ByteString compact;
     std::uint32_t length = 0;
     std::string fault = "MESH delivered nothing";
 };
 
-std::string fault_of(const Arrival& expected, std::uint32_t id, const std::uint8_t* record, std::uint32_t record_size,
+std::string fault_of(const Arrival& expected, std::uint32_t id, const void* record, std::uint32_t record_size,
                      const std::uint8_t* bytes, std::uint32_t length)
 {
     if (id != expected.message.id || record_size != expected.operations.record_size)
         return "another message came";
-    const std::string field = first_difference(expected.message, record, expected.record);
-    if (!field.empty())
-        return field + " differs";
+    const std::string difference = kesto::model::difference(expected.record, record);
+    if (!difference.empty())
+        return "sent and received differ: " + difference;
     // Only now: a record that failed to decode may have counts without elements, and must not be encoded.
     if (compact_form(expected.operations, record) != expected.compact)
         return "encoded again, its bytes differ";
@@ -140,12 +174,11 @@ void on_message(void* context, std::uint32_t, std::uint32_t id, const void* reco
 {
     Arrival& arrival = *static_cast<Arrival*>(context);
     arrival.length = length;
-    arrival.fault = fault_of(arrival, id, static_cast<const std::uint8_t*>(record), record_size, bytes, length);
+    arrival.fault = fault_of(arrival, id, record, record_size, bytes, length);
 }
 
 // Rows of a table; on a terminal the last line shows meanwhile how far the next row is.
-class Table
-{
+class Table {
 public:
     void head() const
     {
@@ -153,7 +186,7 @@ public:
                     "left over", "failures");
     }
 
-    void progress(const ModuleInfo& module, std::size_t done) const
+    void progress(const Module& module, std::size_t done) const
     {
         if (!terminal_)
             return;
@@ -180,15 +213,14 @@ private:
     bool terminal_ = isatty(STDOUT_FILENO) != 0;
 };
 
-class Receiver
-{
+class Receiver {
 public:
     bool receive_everything(const char* path);
 
 private:
     bool listen(const char* path);
-    void receive(const MessageInfo& message, Row& row);
-    std::string receive_one(Arrival arrival, std::uint32_t blocks, Row& row);
+    void receive(const Message& message, Row& row);
+    std::string receive_one(Arrival arrival, Row& row);
 
     Table table_;
     int result_ = MESH_STANDIN_OK;   // anything else: the sender is gone
@@ -212,7 +244,7 @@ bool Receiver::listen(const char* path)
 }
 
 // Returns what is wrong with the next byte string.
-std::string Receiver::receive_one(Arrival arrival, std::uint32_t blocks, Row& row)
+std::string Receiver::receive_one(Arrival arrival, Row& row)
 {
     if (result_ != MESH_STANDIN_OK)
         return "it did not come";
@@ -235,22 +267,22 @@ std::string Receiver::receive_one(Arrival arrival, std::uint32_t blocks, Row& ro
     row.left_over += left_over;
     if (!arrival.fault.empty())
         return arrival.fault;
+    const std::uint64_t blocks = owned_blocks(arrival.record);
     if (allocations != blocks)
         return "decoding took " + std::to_string(allocations) + " blocks instead of " + std::to_string(blocks);
     return left_over == 0 ? std::string() : std::to_string(left_over) + " blocks were not released";
 }
 
-void Receiver::receive(const MessageInfo& message, Row& row)
+void Receiver::receive(const Message& message, Row& row)
 {
     const Operations& operations = kesto::tools::operations(message.name);
-    const Sample sample(message, batch);
+    const std::vector<Record> sample = sample_of(message);
     const bool gone_before = result_ != MESH_STANDIN_OK;
     std::string first_fault;
     for (const Step& step : steps)
         for (std::uint32_t i = 0; i < step.records && applies(step, message); ++i) {
-            const std::uint8_t* const record = sample.record(i);
-            const std::string fault = receive_one(
-                {message, operations, step.fixed, record, compact_form(operations, record)}, sample.blocks(i), row);
+            const ByteString compact = compact_form(operations, RecordMemory(sample[i]).data());
+            const std::string fault = receive_one({message, operations, step.fixed, sample[i], compact}, row);
             if (fault.empty())
                 continue;
             ++row.failures;
@@ -270,9 +302,9 @@ bool Receiver::receive_everything(const char* path)
         return false;
     Row all;
     table_.head();
-    for (const ModuleInfo& module : kesto::tools::modules()) {
+    for (const Module& module : kesto::model::catalogue().modules) {
         Row row;
-        for (const MessageInfo* message : module.messages) {
+        for (const Message* message : module.messages) {
             if (!is_built(*message))
                 continue;
             table_.progress(module, row.messages);
@@ -342,7 +374,7 @@ int main(int argc, char** argv)
         return Receiver().receive_everything(argv[2]) ? 0 : 1;
     if (argc == 3 && is(1, "--send"))
         return send_everything(argv[2], "") ? 0 : 1;
-    if (argc == 3 && is(1, "--damage") && (is(2, "all") || kesto::tools::find_message(argv[2]) != nullptr))
+    if (argc == 3 && is(1, "--damage") && (is(2, "all") || kesto::model::catalogue().find(argv[2]) != nullptr))
         return exchange_everything(argv[2]) ? 0 : 1;
     std::fprintf(stderr, "usage: exchange [--receive SOCKET | --send SOCKET | --damage MESSAGE] (or --help)\n");
     return 2;

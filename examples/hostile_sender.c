@@ -15,7 +15,7 @@ enum { HEAD = 8, ROOM = 1024 };
 static int peer;
 
 /* `said` is the length that the head gives. */
-static int send_packet(uint32_t id, uint32_t said, const uint8_t *bytes, uint32_t length)
+static int send_packet(uint32_t id, uint32_t said, const uint8_t* bytes, uint32_t length)
 {
     uint8_t packet[HEAD + ROOM];
     for (int i = 0; i < 4; ++i) {
@@ -26,7 +26,7 @@ static int send_packet(uint32_t id, uint32_t said, const uint8_t *bytes, uint32_
     return send(peer, packet, HEAD + length, MSG_NOSIGNAL) >= 0;
 }
 
-static uint32_t pack_answer(uint8_t *bytes)
+static uint32_t pack_answer(uint8_t* bytes)
 {
     static uint8_t mark[] = "our mark";
     ifit_dfx_query_stat_item_mesh rows[2] = {{.f0 = "eth0", .f1 = 17, .f3 = {.year = 2026, .month = 11, .day = 23}},
@@ -36,21 +36,21 @@ static uint32_t pack_answer(uint8_t *bytes)
     return ifit_dfx_query_stat_rec_mesh__pack(&answer, bytes, &length) == 0 ? length : 0;
 }
 
-static int connect_to(const char *path)
+static int connect_to(const char* path)
 {
     const struct timespec pause = {0, 10000000};
     struct sockaddr_un address = {.sun_family = AF_UNIX};
     strncpy(address.sun_path, path, sizeof address.sun_path - 1);
     peer = socket(AF_UNIX, SOCK_SEQPACKET, 0);
     for (int tries = 0; tries < 1000; ++tries) { /* the receiver may still be starting */
-        if (connect(peer, (const struct sockaddr *)&address, sizeof address) == 0)
+        if (connect(peer, (const struct sockaddr*)&address, sizeof address) == 0)
             return 1;
         nanosleep(&pause, NULL);
     }
     return 0;
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     const uint32_t id = IFIT_DFX_QUERY_STAT_REC_MESH_ID;
     uint8_t bytes[ROOM];

@@ -19,7 +19,7 @@
 enum { QUERY_CHANNEL = 1, QUERY_FOUND = 0, QUERY_NOTHING = 1 };
 
 /* 64-bit FNV-1a. */
-static inline uint64_t name_hash(const char *name)
+static inline uint64_t name_hash(const char* name)
 {
     uint64_t hash = UINT64_C(0xcbf29ce484222325);
     for (; *name != '\0'; ++name)

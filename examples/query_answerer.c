@@ -21,11 +21,11 @@ typedef struct Interface {
 static int failed; /* an answer could not be sent */
 
 /* Fills `list` from /proc/net/dev and returns how many there are. */
-static uint32_t read_interfaces(Interface *list, uint32_t room)
+static uint32_t read_interfaces(Interface* list, uint32_t room)
 {
     char line[512];
     uint32_t count = 0;
-    FILE *file = fopen("/proc/net/dev", "r");
+    FILE* file = fopen("/proc/net/dev", "r");
     if (file == NULL) {
         fprintf(stderr, "query_answerer: /proc/net/dev: %s\n", strerror(errno));
         return 0;
@@ -43,10 +43,10 @@ static uint32_t read_interfaces(Interface *list, uint32_t room)
 }
 
 /* One line of a file about an interface; empty when there is none. */
-static void read_about(const char *interface, const char *what, char *line, int room)
+static void read_about(const char* interface, const char* what, char* line, int room)
 {
     char path[128];
-    FILE *file;
+    FILE* file;
     line[0] = '\0';
     snprintf(path, sizeof path, "/sys/class/net/%s/%s", interface, what);
     file = fopen(path, "r");
@@ -58,7 +58,8 @@ static void read_about(const char *interface, const char *what, char *line, int 
 }
 
 /* The mark is lent, not copied: sending only reads it, and the question outlives the answer. */
-static void fill_frame(ifit_dfx_query_comm_rec_mesh *frame, const ifit_dfx_query_comm_param_mesh *question, uint32_t count)
+static void fill_frame(ifit_dfx_query_comm_rec_mesh* frame, const ifit_dfx_query_comm_param_mesh* question,
+                       uint32_t count)
 {
     frame->f0 = question->f0;
     frame->f1 = question->f1;
@@ -68,7 +69,7 @@ static void fill_frame(ifit_dfx_query_comm_rec_mesh *frame, const ifit_dfx_query
     frame->f4 = count;
 }
 
-static int answer_statistics(const ifit_dfx_query_stat_mesh_key *question)
+static int answer_statistics(const ifit_dfx_query_stat_mesh_key* question)
 {
     Interface list[MOST_INTERFACES];
     ifit_dfx_query_stat_item_mesh items[MOST_INTERFACES];
@@ -100,11 +101,11 @@ static int answer_statistics(const ifit_dfx_query_stat_mesh_key *question)
     return ifit_dfx_query_stat_rec_mesh__sendmsg(QUERY_CHANNEL, &answer, 1);
 }
 
-static int answer_global_data(const ifit_dfx_query_glbdata_mesh_key *question)
+static int answer_global_data(const ifit_dfx_query_glbdata_mesh_key* question)
 {
     char text[256] = "";
     ifit_dfx_query_glbdata_rec_mesh answer;
-    FILE *file = fopen("/proc/version", "r");
+    FILE* file = fopen("/proc/version", "r");
     if (file != NULL) {
         if (fgets(text, sizeof text, file) == NULL)
             text[0] = '\0';
@@ -118,7 +119,7 @@ static int answer_global_data(const ifit_dfx_query_glbdata_mesh_key *question)
     return ifit_dfx_query_glbdata_rec_mesh__sendmsg(QUERY_CHANNEL, &answer, 1);
 }
 
-static int answer_hash(const ifit_dfx_query_queryhash_mesh_key *question)
+static int answer_hash(const ifit_dfx_query_queryhash_mesh_key* question)
 {
     Interface list[MOST_INTERFACES];
     char line[64];
@@ -147,14 +148,11 @@ static int answer_hash(const ifit_dfx_query_queryhash_mesh_key *question)
 }
 
 /* Every kind of question begins with the same frame. Test pointers, not lengths: a refused question may have kept those. */
-static int was_decoded(const ifit_dfx_query_comm_param_mesh *frame)
-{
-    return frame->f2.data != NULL;
-}
+static int was_decoded(const ifit_dfx_query_comm_param_mesh* frame) { return frame->f2.data != NULL; }
 
 /* Called for each message after it was decoded; the record is freed for us when we return. */
-static void on_message(void *context, uint32_t channel, uint32_t id, const void *record, uint32_t record_size,
-                       const uint8_t *bytes, uint32_t length)
+static void on_message(void* context, uint32_t channel, uint32_t id, const void* record, uint32_t record_size,
+                       const uint8_t* bytes, uint32_t length)
 {
     int result;
     (void)context, (void)channel, (void)record_size, (void)bytes;
@@ -180,13 +178,14 @@ static void on_message(void *context, uint32_t channel, uint32_t id, const void 
     }
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     int result;
     if (argc == 2 && strcmp(argv[1], "--help") == 0) {
-        printf("usage: query_answerer SOCKET\n"
-               "Answers queries about this machine's network interfaces on the socket path SOCKET, which must not exist\n"
-               "yet. Ends when the asker leaves, with 0, or when nobody asks for 10 seconds, with 1.\n");
+        printf(
+            "usage: query_answerer SOCKET\n"
+            "Answers queries about this machine's network interfaces on the socket path SOCKET, which must not exist\n"
+            "yet. Ends when the asker leaves, with 0, or when nobody asks for 10 seconds, with 1.\n");
         return 0;
     }
     if (argc != 2 || argv[1][0] == '-') {

@@ -15,7 +15,7 @@
 #include "platform/standin/mesh_standin.h"
 #include "query.h"
 
-extern char **environ;
+extern char** environ;
 
 namespace {
 
@@ -31,7 +31,7 @@ struct Exchange {
 };
 
 // True for the answer to our question. The mark is tested by its pointer: a refused answer may have kept the length.
-bool is_our_answer(const Exchange &exchange, const ifit_dfx_query_comm_rec_mesh &frame)
+bool is_our_answer(const Exchange& exchange, const ifit_dfx_query_comm_rec_mesh& frame)
 {
     if (frame.f3.data == nullptr) {
         std::fprintf(stderr, "query_asker: the answer was refused by the decoder\n");
@@ -50,13 +50,13 @@ bool is_our_answer(const Exchange &exchange, const ifit_dfx_query_comm_rec_mesh 
 }
 
 // Names are foreign bytes, too: not even the NUL at the end is certain.
-std::string name_of(const ifit_dfx_query_stat_item_mesh &item)
+std::string name_of(const ifit_dfx_query_stat_item_mesh& item)
 {
-    const char *const text = reinterpret_cast<const char *>(item.f0);
+    const char* const text = reinterpret_cast<const char*>(item.f0);
     return std::string(text, strnlen(text, sizeof item.f0));
 }
 
-void show(Exchange &exchange, const ifit_dfx_query_stat_rec_mesh &answer, const uint8_t *bytes, uint32_t length)
+void show(Exchange& exchange, const ifit_dfx_query_stat_rec_mesh& answer, const uint8_t* bytes, uint32_t length)
 {
     if (!is_our_answer(exchange, answer.f0) || answer.f1.items == nullptr)
         return;
@@ -64,18 +64,19 @@ void show(Exchange &exchange, const ifit_dfx_query_stat_rec_mesh &answer, const 
     exchange.first_interface = name_of(answer.f1.items[0]);
     if (exchange.show_bytes) {
         std::printf("\nAn answer about one interface, %" PRIu32 " bytes:\n%s", length,
-                    annotate_stat_rec(bytes, length).c_str());
+                    annotate(IFIT_DFX_QUERY_STAT_REC_MESH_ID, bytes, length).c_str());
         return;
     }
     std::printf("%-16s %12s %12s  %s\n", "interface", "received", "sent", "at");
     for (uint32_t i = 0; i < answer.f1.count; ++i) {
-        const ifit_dfx_query_stat_item_mesh &item = answer.f1.items[i];
-        std::printf("%-16s %12" PRIu32 " %12" PRIu32 "  %04d-%02d-%02d %02d:%02d:%02d\n", name_of(item).c_str(), item.f1,
-                    item.f2, item.f3.year, item.f3.month, item.f3.day, item.f3.hour, item.f3.minute, item.f3.second);
+        const ifit_dfx_query_stat_item_mesh& item = answer.f1.items[i];
+        std::printf("%-16s %12" PRIu32 " %12" PRIu32 "  %04d-%02d-%02d %02d:%02d:%02d\n", name_of(item).c_str(),
+                    item.f1, item.f2, item.f3.year, item.f3.month, item.f3.day, item.f3.hour, item.f3.minute,
+                    item.f3.second);
     }
 }
 
-void show(Exchange &exchange, const ifit_dfx_query_glbdata_rec_mesh &answer)
+void show(Exchange& exchange, const ifit_dfx_query_glbdata_rec_mesh& answer)
 {
     if (!is_our_answer(exchange, answer.f0) || answer.f1.f0 == nullptr)
         return;
@@ -83,9 +84,9 @@ void show(Exchange &exchange, const ifit_dfx_query_glbdata_rec_mesh &answer)
     std::printf("\nThe machine: %s\n", answer.f1.f0);
 }
 
-void show(Exchange &exchange, const ifit_dfx_query_queryhash_rec_mesh &answer)
+void show(Exchange& exchange, const ifit_dfx_query_queryhash_rec_mesh& answer)
 {
-    const ifit_dfx_query_queryhash_item_mesh &item = answer.f1;
+    const ifit_dfx_query_queryhash_item_mesh& item = answer.f1;
     if (!is_our_answer(exchange, answer.f0) || item.f0 == nullptr)
         return;
     exchange.answered = true;
@@ -96,20 +97,21 @@ void show(Exchange &exchange, const ifit_dfx_query_queryhash_rec_mesh &answer)
 }
 
 // Called for each message after it was decoded; the record is freed for us when we return.
-void on_message(void *context, uint32_t, uint32_t id, const void *record, uint32_t, const uint8_t *bytes, uint32_t length)
+void on_message(void* context, uint32_t, uint32_t id, const void* record, uint32_t, const uint8_t* bytes,
+                uint32_t length)
 {
-    Exchange &exchange = *static_cast<Exchange *>(context);
+    Exchange& exchange = *static_cast<Exchange*>(context);
     if (id == IFIT_DFX_QUERY_STAT_REC_MESH_ID)
-        show(exchange, *static_cast<const ifit_dfx_query_stat_rec_mesh *>(record), bytes, length);
+        show(exchange, *static_cast<const ifit_dfx_query_stat_rec_mesh*>(record), bytes, length);
     else if (id == IFIT_DFX_QUERY_GLBDATA_REC_MESH_ID)
-        show(exchange, *static_cast<const ifit_dfx_query_glbdata_rec_mesh *>(record));
+        show(exchange, *static_cast<const ifit_dfx_query_glbdata_rec_mesh*>(record));
     else if (id == IFIT_DFX_QUERY_QUERYHASH_REC_MESH_ID)
-        show(exchange, *static_cast<const ifit_dfx_query_queryhash_rec_mesh *>(record));
+        show(exchange, *static_cast<const ifit_dfx_query_queryhash_rec_mesh*>(record));
     else
         std::fprintf(stderr, "query_asker: message 0x%08" PRIx32 " is not an answer\n", id);
 }
 
-bool succeeded(const char *step, int result)
+bool succeeded(const char* step, int result)
 {
     if (result != 0)
         std::fprintf(stderr, "query_asker: %s: %s\n", step,
@@ -119,11 +121,11 @@ bool succeeded(const char *step, int result)
 
 // Sends one question and waits for its answer. The record only borrows the mark, so there is nothing to free.
 template <typename Question>
-bool ask(Exchange &exchange, Question question, int (*send)(uint32_t, const Question *, uint32_t))
+bool ask(Exchange& exchange, Question question, int (*send)(uint32_t, const Question*, uint32_t))
 {
     question.f0.f0 = ++exchange.number;
     question.f0.f2.length = static_cast<uint32_t>(exchange.mark.size());
-    question.f0.f2.data = reinterpret_cast<uint8_t *>(exchange.mark.data());
+    question.f0.f2.data = reinterpret_cast<uint8_t*>(exchange.mark.data());
     exchange.answered = false;
     return succeeded("cannot send", send(QUERY_CHANNEL, &question, 1)) &&
            succeeded("no answer", mesh_standin_receive(QUERY_CHANNEL, patience_ms)) && exchange.answered;
@@ -135,7 +137,7 @@ bool ask_everything()
     exchange.mark = "asker " + std::to_string(getpid());
     mesh_standin_set_consumer(QUERY_CHANNEL, on_message, &exchange);
 
-    ifit_dfx_query_stat_mesh_key statistics{}; // records start zeroed
+    ifit_dfx_query_stat_mesh_key statistics{};   // records start zeroed
     bool good = ask(exchange, statistics, ifit_dfx_query_stat_mesh_key__sendmsg);
     statistics.f1.f0 = 1;
     exchange.show_bytes = true;
@@ -149,7 +151,7 @@ bool ask_everything()
     return good;
 }
 
-bool talk(const char *path)
+bool talk(const char* path)
 {
     if (!succeeded("cannot register the decoders", ifit_dfx_recv_init()) ||
         !succeeded(("cannot connect to " + std::string(path)).c_str(),
@@ -161,7 +163,7 @@ bool talk(const char *path)
 }
 
 // Runs the answerer on a socket in a folder of our own for as long as we ask.
-bool start_and_talk(const char *answerer)
+bool start_and_talk(const char* answerer)
 {
     char folder[] = "/tmp/query-XXXXXX";
     if (mkdtemp(folder) == nullptr) {
@@ -169,7 +171,7 @@ bool start_and_talk(const char *answerer)
         return false;
     }
     std::string path = std::string(folder) + "/socket", program = answerer;
-    char *arguments[] = {program.data(), path.data(), nullptr};
+    char* arguments[] = {program.data(), path.data(), nullptr};
     pid_t process;
     const int error = posix_spawn(&process, answerer, nullptr, nullptr, arguments, environ);
     bool good = error == 0;
@@ -188,15 +190,16 @@ bool start_and_talk(const char *answerer)
     return good;
 }
 
-} // namespace
+}   // namespace
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     const std::string first = argc > 1 ? argv[1] : "";
     if (first == "--help") {
-        std::printf("usage: query_asker --start ANSWERER   start the program ANSWERER and ask it\n"
-                    "       query_asker SOCKET             ask a query_answerer that listens on SOCKET\n"
-                    "Shows the answers as a table and the bytes of one of them. Ends with 0 if all went well, else with 1.\n");
+        std::printf(
+            "usage: query_asker --start ANSWERER   start the program ANSWERER and ask it\n"
+            "       query_asker SOCKET             ask a query_answerer that listens on SOCKET\n"
+            "Shows the answers as a table and the bytes of one of them. Ends with 0 if all went well, else with 1.\n");
         return 0;
     }
     if (argc == 3 && first == "--start")

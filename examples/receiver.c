@@ -9,11 +9,11 @@
 #include "platform/standin/mesh_standin.h"
 
 /* Called for each message after it was decoded; the record is freed for us when we return. */
-static void on_message(void *context, uint32_t channel, uint32_t id, const void *record, uint32_t record_size,
-                       const uint8_t *bytes, uint32_t length)
+static void on_message(void* context, uint32_t channel, uint32_t id, const void* record, uint32_t record_size,
+                       const uint8_t* bytes, uint32_t length)
 {
-    const ifit_dfx_query_glbdata_item_mesh *item = record;
-    int *done = context;
+    const ifit_dfx_query_glbdata_item_mesh* item = record;
+    int* done = context;
     (void)record_size, (void)bytes;
     if (id != IFIT_DFX_QUERY_GLBDATA_ITEM_MESH_ID || item->f0 == NULL) { /* null: the decoder refused the bytes */
         fprintf(stderr, "receiver: message 0x%08x of %u bytes is not a text\n", (unsigned)id, (unsigned)length);
@@ -23,7 +23,7 @@ static void on_message(void *context, uint32_t channel, uint32_t id, const void 
     *done = strcmp(item->f0, LAST_TEXT) == 0;
 }
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     int done = 0, result;
     if (argc != 2) {

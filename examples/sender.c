@@ -9,7 +9,7 @@
 #include "ifit_dfx.h"
 #include "platform/standin/mesh_standin.h"
 
-int main(int argc, char **argv)
+int main(int argc, char** argv)
 {
     int result = 0;
     if (argc < 4) {

@@ -13,12 +13,13 @@
 #include <set>
 
 #include "fuzz/inputs.h"
+#include "model/hex.h"
 #include "tests/support/figures.h"
 
 namespace {
 
 using namespace kesto;
-using reference::Bytes;
+using model::Bytes;
 
 using Inputs = std::vector<Bytes>;
 
@@ -36,7 +37,7 @@ int write_dictionary(const std::string& path)
     for (const std::uint64_t value : {0u, 1u, 3u, 4u, 5u, 6u, 7u, 8u, 0x3FFFFFFFu, 0x40000000u, 0x7FFFFFFFu,
                                       0x80000000u, 0xFFFFFFF8u, 0xFFFFFFFCu, 0xFFFFFFFFu})
         words.insert({4, value});
-    for (const reference::Message& message : tests::transcribed().messages) {
+    for (const model::Message& message : tests::expected_catalogue().messages) {
         words.insert({4, message.id});
         words.insert({2, message.vtable_length});
         words.insert({2, message.vtable_length - 1});
@@ -44,8 +45,8 @@ int write_dictionary(const std::string& path)
         words.insert({4, message.vtable_length + 4});   // a compact root
         if (message.fixed_length != 0)
             words.insert({4, 0 - ((message.fixed_table_length + 3) / 4 * 4)});   // a fixed vtable offset
-        for (const reference::Slot& slot : message.slots)
-            if (slot.kind == reference::Kind::array)
+        for (const model::Slot& slot : message.slots)
+            if (slot.kind == model::Kind::array)
                 words.insert({4, slot.count});
     }
     std::ofstream file(path);
@@ -98,18 +99,18 @@ int pack(const std::string& directory, const std::string& path)
 
 int add(const std::string& name, const std::string& hex)
 {
-    const reference::Message* const message = tests::transcribed().find(name);
+    const model::Message* const message = tests::expected_catalogue().find(name);
     if (message == nullptr)
         return fail("no message " + name);
     Bytes input;
-    reference::append(input, message->id, fuzz::id_bytes);
+    model::append(input, message->id, fuzz::id_bytes);
     input.push_back(0);   // no allocation fails
-    if (!tests::parse_hex(hex, input))
-        return fail("not hex digits in pairs: " + hex);
+    std::string error;
+    if (!model::from_hex(hex, input, error))
+        return fail(error);
     if (input.size() > fuzz::longest_input)
         return fail("longer than what is replayed from there: make a case of it in tests/large_test.cpp");
     Inputs inputs;
-    std::string error;
     if (!fuzz::read_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
         return fail(error);
     if (std::find(inputs.begin(), inputs.end(), input) != inputs.end())

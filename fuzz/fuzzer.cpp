@@ -1,4 +1,4 @@
-// Of byte strings, however broken, and of records, however filled, library and reference must make the same.
+// Whatever the bytes and records, the library and the model must make the same of them.
 
 #include <cstdio>
 #include <cstdlib>

@@ -7,9 +7,9 @@ namespace kesto::fuzz {
 
 namespace {
 
-using reference::Field;
-using reference::Kind;
-using reference::Slot;
+using model::Field;
+using model::Kind;
+using model::Slot;
 
 // ---- records as inputs ----
 //
@@ -104,7 +104,7 @@ void read_record(Source& source, Record& record)
 
 const Message* message_of(const Catalogue& catalogue, const std::uint8_t* input, std::size_t size)
 {
-    return size < id_bytes ? nullptr : catalogue.find(reference::get32(input));
+    return size < id_bytes ? nullptr : catalogue.find(model::get32(input));
 }
 
 Record record_from(const Message& message, const std::uint8_t* input, std::size_t size)
@@ -125,7 +125,7 @@ bool read_packed(const std::string& path, std::vector<Bytes>& inputs, std::strin
     }
     for (std::size_t at = 0; at < all.size();) {
         const std::size_t left = all.size() - at;
-        const std::size_t length = left < 4 ? 0 : reference::get32(&all[at]);
+        const std::size_t length = left < 4 ? 0 : model::get32(&all[at]);
         if (left < 4 || length > left - 4) {
             error = path + ": ends within the input at byte " + std::to_string(at);
             return false;
@@ -141,7 +141,7 @@ bool write_packed(const std::string& path, const std::vector<Bytes>& inputs, std
 {
     Bytes all;
     for (const Bytes& input : inputs) {
-        reference::append(all, input.size(), 4);
+        model::append(all, input.size(), 4);
         all.insert(all.end(), input.begin(), input.end());
     }
     std::ofstream file(path, std::ios::binary);

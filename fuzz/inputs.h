@@ -4,14 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "reference/record.h"
+#include "model/record.h"
 
 namespace kesto::fuzz {
 
-using reference::Bytes;
-using reference::Catalogue;
-using reference::Message;
-using reference::Record;
+using model::Bytes;
+using model::Catalogue;
+using model::Message;
+using model::Record;
 
 // An input begins with the id of its message, little-endian. One whose id nobody has stands for nothing.
 constexpr std::size_t id_bytes = 4;
@@ -38,7 +38,7 @@ const Message* message_of(const Catalogue& catalogue, const std::uint8_t* input,
 
 // ---- what is done with one input, in one_input.cpp ----
 
-// Both give what differs between library and reference, empty where nothing does.
+// Both return where library and model differ, empty if nowhere.
 
 // Decodes the byte string, and packs again what was decoded. Elements of a vector may share a table and so a block that
 // each of them copies: to stay fast, at most 64 allocations of at most 16 KiB each succeed.

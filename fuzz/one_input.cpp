@@ -1,15 +1,15 @@
 #include "fuzz/inputs.h"
 
-#include "tests/support/against_reference.h"
+#include "tests/support/against_model.h"
 
 namespace kesto::fuzz {
 
 using tests::DecodeCheck;
-using tests::transcribed;
+using tests::expected_catalogue;
 
 std::string run_decode_input(const std::uint8_t* input, std::size_t size)
 {
-    const Message* const message = message_of(transcribed(), input, size);
+    const Message* const message = message_of(expected_catalogue(), input, size);
     if (message == nullptr || size < before_bytes || size > longest_input)
         return {};
     static DecodeCheck check(1 << 16);
@@ -24,7 +24,7 @@ std::string run_decode_input(const std::uint8_t* input, std::size_t size)
 
 std::string run_record_input(const std::uint8_t* input, std::size_t size)
 {
-    const Message* const message = message_of(transcribed(), input, size);
+    const Message* const message = message_of(expected_catalogue(), input, size);
     if (message == nullptr || size > longest_input)
         return {};
     static DecodeCheck check(1 << 16);

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "model/decode.h"
 #include "platform/standin/osal_standin.h"
-#include "reference/decode.h"
 #include "tests/support/figures.h"
 #include "tools/operations.h"
 
@@ -15,11 +15,11 @@ namespace kesto::tests {
 
 namespace {
 
-using reference::append;
-using reference::Bytes;
-using reference::Kind;
-using reference::Message;
-using reference::Slot;
+using model::append;
+using model::Bytes;
+using model::Kind;
+using model::Message;
+using model::Slot;
 
 constexpr char list[] = "ntvifit_entry_list_mdtlm";
 constexpr std::uint32_t blocks_of_element = 3;
@@ -81,7 +81,7 @@ const Message* element_of(const Message& message)
 
 std::uint64_t element_size()
 {
-    return element_of(*transcribed().find(list))->layout(reference::host_pointer_width).size;
+    return element_of(*expected_catalogue().find(list))->layout(model::host_pointer_width).size;
 }
 
 std::uint32_t own_blocks(const Message& message)
@@ -147,7 +147,7 @@ TEST(Document, states_the_record_size_of_every_vector)
 {
     const std::vector<std::string> lines = lines_of_document();
     std::vector<std::uint32_t> owning;   // blocks of their elements
-    for (const Message& message : transcribed().messages) {
+    for (const Message& message : expected_catalogue().messages) {
         if (message.module == "synthetic")   // which is in no document
             continue;
         const Message* const element = element_of(message);

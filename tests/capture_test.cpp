@@ -86,7 +86,7 @@ TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
     Bytes two = one, enormous = one, no_magic = one;
     add_packet(two, sound);
     add_packet(enormous, sound);
-    reference::put(&enormous[one.size() + 8], 0x7fffffff, 4);
+    model::put(&enormous[one.size() + 8], 0x7fffffff, 4);
     no_magic[0] = 0;
     const auto up_to = [&](std::size_t length) { return Bytes(two.begin(), two.begin() + static_cast<long>(length)); };
 

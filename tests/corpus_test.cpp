@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "fuzz/inputs.h"
-#include "tests/support/against_reference.h"
+#include "tests/support/against_model.h"
 #include "tests/support/figures.h"
 
 namespace kesto::tests {
@@ -18,10 +18,11 @@ void expect_agreement(const char* file, std::string (*run)(const std::uint8_t* i
     ASSERT_FALSE(inputs.empty());
     for (std::size_t i = 0; i < inputs.size(); ++i) {
         if (all_modules_built) {
-            ASSERT_NE(fuzz::message_of(transcribed(), inputs[i].data(), inputs[i].size()), nullptr)
+            ASSERT_NE(fuzz::message_of(expected_catalogue(), inputs[i].data(), inputs[i].size()), nullptr)
                 << file << ", input " << i;
         }
-        ASSERT_EQ(run(inputs[i].data(), inputs[i].size()), "") << file << ", input " << i << ": " << hex(inputs[i]);
+        ASSERT_EQ(run(inputs[i].data(), inputs[i].size()), "")
+            << file << ", input " << i << ": " << model::to_hex(inputs[i]);
     }
 }
 

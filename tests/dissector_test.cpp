@@ -1,4 +1,4 @@
-// The packet analyser's script against the reference: every range that it shows, and its verdict.
+// The packet analyser's script against the model: every range that it shows, and its verdict.
 
 #include <gtest/gtest.h>
 
@@ -8,39 +8,28 @@
 #include <set>
 
 #include "fuzz/inputs.h"
+#include "model/decode.h"
+#include "model/encode.h"
+#include "model/hex.h"
+#include "model/noncanonical.h"
 #include "platform/mesh.h"
 #include "platform/standin/mesh_standin.h"
-#include "reference/decode.h"
-#include "reference/encode.h"
-#include "reference/strange.h"
 #include "tests/support/capture_file.h"
 #include "tests/support/capture_folder.h"
 #include "tests/support/command.h"
 #include "tests/support/figures.h"
-#include "tools/catalogue.h"
 
 namespace kesto::tests {
 
 namespace {
 
-using namespace reference;
+using namespace model;
 
-// ---- what the reference makes of a byte string, one line a field ----
+// ---- what the model makes of a byte string, one line a field ----
 
 std::string line_of(const std::string& field, std::uint64_t position, std::uint64_t size, const std::string& value)
 {
     return field + " at " + std::to_string(position) + ", " + std::to_string(size) + " bytes: " + value;
-}
-
-std::string hex(const u8* bytes, std::size_t length)
-{
-    std::string text;
-    char digits[3];
-    for (std::size_t i = 0; i < length; ++i) {
-        std::snprintf(digits, sizeof digits, "%02x", bytes[i]);
-        text += digits;
-    }
-    return text;
 }
 
 struct Shown {
@@ -100,10 +89,10 @@ private:
 
     std::string field_name(const Path& path) const
     {
-        const tools::MessageInfo* message = tools::find_message(message_.name);
+        const Message* message = model::catalogue().find(message_.name);   // which has the names of fields
         std::string name = "kesto." + message->name;
         for (u32 i = 0; i < path.length; ++i) {
-            const tools::SlotInfo& slot = message->slots[path.steps[i].slot];
+            const Slot& slot = message->slots[path.steps[i].slot];
             name += "." + slot.field;
             message = slot.nested;
         }
@@ -120,7 +109,7 @@ private:
         const Slot& slot = item.message->slots[item.path->steps[item.path->length - 1].slot];
         const std::string field = field_name(*item.path);
         if (slot.kind != Kind::array || slot.width == 1)
-            return add(field, item.position, item.length, hex(bytes_.data() + item.position, item.length));
+            return add(field, item.position, item.length, model::to_hex(bytes_.data() + item.position, item.length));
         for (u32 at = item.position; at < item.position + item.length; at += 4)
             add(field, at, 4, std::to_string(get32(&bytes_[at])));
     }
@@ -144,13 +133,13 @@ std::string attribute(const std::string& tag, const char* name)
 
 // The fields of texts, blocks, u8 arrays, tables and vectors: of these the bytes are compared, of all others the
 // number.
-void add_fields_of_bytes(const tools::MessageInfo& message, const std::string& path, std::set<std::string>& fields)
+void add_fields_of_bytes(const model::Message& message, const std::string& path, std::set<std::string>& fields)
 {
     fields.insert(path);
-    for (const tools::SlotInfo& slot : message.slots)
+    for (const model::Slot& slot : message.slots)
         if (slot.nested != nullptr)
             add_fields_of_bytes(*slot.nested, path + "." + slot.field, fields);
-        else if (slot.kind != tools::SlotKind::scalar && slot.width != 4)
+        else if (slot.kind != model::Kind::scalar && slot.width != 4)
             fields.insert(path + "." + slot.field);
 }
 
@@ -158,9 +147,8 @@ bool has_bytes(const std::string& field)
 {
     static const std::set<std::string> fields = [] {
         std::set<std::string> all;
-        for (const tools::ModuleInfo& module : tools::modules())
-            for (const tools::MessageInfo* message : module.messages)
-                add_fields_of_bytes(*message, "kesto." + message->name, all);
+        for (const Message& message : model::catalogue().messages)
+            add_fields_of_bytes(message, "kesto." + message.name, all);
         return all;
     }();
     return fields.count(field) != 0;
@@ -201,7 +189,7 @@ void compare(const Case& one, const Shown& shown)
 {
     const Shown expected = Expected(*one.message, one.bytes).shown;
     const std::string which =
-        one.message->name + " " + hex(one.bytes.data(), std::min<std::size_t>(one.bytes.size(), 512));
+        one.message->name + " " + model::to_hex(one.bytes.data(), std::min<std::size_t>(one.bytes.size(), 512));
     EXPECT_EQ(shown.refused, expected.refused) << which;
     EXPECT_EQ(shown.refused_at, expected.refused_at) << which;
     EXPECT_EQ(shown.ignored, expected.ignored) << which;
@@ -300,14 +288,14 @@ void add_misled(const Case& sound, Random& random, std::vector<Case>& cases)
 std::vector<Case> cases_of_all_messages()
 {
     std::vector<Case> cases;
-    for (const Message& message : transcribed().messages) {
+    for (const Message& message : expected_catalogue().messages) {
         Random random(message.id);
         for (const Density density : densities) {
             const Record record = random_record(message, density, random);
             cases.push_back({&message, compact_form(record)});
             if (message.fixed_length != 0)
                 cases.push_back({&message, fixed_form(record)});
-            cases.push_back({&message, strange_layout(record, random)});
+            cases.push_back({&message, noncanonical_layout(record, random)});
             Bytes cut = cases.back().bytes;
             cut.resize(random.below(static_cast<u32>(cut.size())));
             cases.push_back({&message, cut});
@@ -326,7 +314,7 @@ std::vector<Case> cases_of_the_corpus()
     EXPECT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
     for (const Bytes& input : inputs)
         if (input.size() >= fuzz::before_bytes)
-            cases.push_back({fuzz::message_of(transcribed(), input.data(), input.size()),
+            cases.push_back({fuzz::message_of(expected_catalogue(), input.data(), input.size()),
                              {input.begin() + fuzz::before_bytes, input.end()}});
     return cases;
 }
@@ -348,7 +336,7 @@ TEST_F(Dissector, shows_what_the_reference_reads_and_stops_where_it_stops)
 
 TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
 {
-    const Message& message = *transcribed().find("ntvifit_entry_list_mdtlm");
+    const Message& message = *expected_catalogue().find("ntvifit_entry_list_mdtlm");
     Record list = zero_record(message);
     Field& elements = list.fields[0];
     elements.present = true;
@@ -367,8 +355,8 @@ TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
 
 TEST_F(Dissector, names_packets_that_are_no_messages)
 {
-    const u32 id = transcribed().messages[0].id;
-    const Bytes bytes = compact_form(zero_record(transcribed().messages[0]));
+    const u32 id = expected_catalogue().messages[0].id;
+    const Bytes bytes = compact_form(zero_record(expected_catalogue().messages[0]));
     RawPacket cut = packet_of(id, bytes, bytes.size() + 1);
     ++cut.length_on_the_wire;
     const std::pair<RawPacket, const char*> packets[] = {
@@ -398,7 +386,7 @@ TEST_F(Dissector, names_packets_that_are_no_messages)
 TEST_F(Dissector, finds_messages_by_their_fields)
 {
     const auto record_of = [](const char* name, std::string_view text) {
-        const Message& message = *transcribed().find(name);
+        const Message& message = *expected_catalogue().find(name);
         Record record = zero_record(message);
         std::string error;
         EXPECT_TRUE(parse_record(message, text, record, error)) << error;

@@ -1,6 +1,6 @@
 // Small faults, all of them, for every message and both forms: every other value of every byte, and the values at the
 // borders of every word that leads somewhere or counts something. Every truncation is tried in
-// against_reference_test.cpp.
+// against_model_test.cpp.
 //
 // KESTO_SHARE=k/n in the environment takes the k-th of n parts (k from 0) where all cases would take too long.
 
@@ -10,16 +10,16 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "reference/generate.h"
+#include "model/generate.h"
 #include "tests/support/every_message.h"
 
 namespace kesto::tests {
 
 namespace {
 
-using reference::Item;
-using reference::Piece;
-using reference::put;
+using model::Item;
+using model::Piece;
+using model::put;
 
 struct Share {
     unsigned number = 0;
@@ -48,7 +48,7 @@ DecodeCheck& check()
 
 // A byte string in place before the guarded page, to be changed and decoded there.
 struct Sample {
-    const reference::Message& message;
+    const model::Message& message;
     const ByteString& whole;
     const std::uint32_t length = static_cast<std::uint32_t>(whole.size());
     std::uint8_t* const bytes = std::copy(whole.begin(), whole.end(), check().buffer().place(length)) - length;
@@ -58,20 +58,20 @@ struct Sample {
         std::copy_n(&whole[position], width, bytes + position);
     }
 
-    // False, after a report, where library and reference differ.
+    // False, after a report, where library and model differ.
     [[nodiscard]] bool decodes_alike()
     {
         const std::string fault = check().check(message, bytes, length);
         if (!fault.empty())
-            ADD_FAILURE() << fault << "\n  bytes " << hex({bytes, bytes + length});
+            ADD_FAILURE() << fault << "\n  bytes " << model::to_hex(bytes, length);
         return fault.empty();
     }
 };
 
-std::vector<ByteString> full_samples(const reference::Message& message)
+std::vector<ByteString> full_samples(const model::Message& message)
 {
-    reference::Random random(message.id);
-    return both_forms(reference::random_record(message, reference::Density::full, random));
+    model::Random random(message.id);
+    return both_forms(model::random_record(message, model::Density::full, random));
 }
 
 // ---- the words that lead somewhere or count something ----
@@ -83,9 +83,9 @@ struct Word {
     bool repeated;         // in a vector's element after its first
 };
 
-struct WordFinder : reference::Walk {
+struct WordFinder : model::Walk {
     std::vector<Word> words;
-    std::uint32_t tables[reference::greatest_depth + 2] = {};   // by depth, those that are being read
+    std::uint32_t tables[model::greatest_depth + 2] = {};   // by depth, those that are being read
 
     void read(const Item& item) override
     {
@@ -101,13 +101,13 @@ struct WordFinder : reference::Walk {
     }
 };
 
-std::vector<Word> words_of(const reference::Message& message, const ByteString& bytes)
+std::vector<Word> words_of(const model::Message& message, const ByteString& bytes)
 {
     WordFinder finder;
-    reference::DecodeOptions options;
+    model::DecodeOptions options;
     options.walk = &finder;
-    reference::Outcome outcome;
-    reference::decode(message, bytes.data(), static_cast<std::uint32_t>(bytes.size()), options, outcome);
+    model::Outcome outcome;
+    model::decode(message, bytes.data(), static_cast<std::uint32_t>(bytes.size()), options, outcome);
     EXPECT_FALSE(outcome.failure) << message.name;
     return finder.words;
 }
@@ -201,7 +201,8 @@ const char* const shapes[] = {
 std::vector<const char*> built_shapes()
 {
     std::vector<const char*> built;
-    std::ranges::copy_if(shapes, std::back_inserter(built), [](const char* name) { return transcribed().find(name) != nullptr; });
+    std::ranges::copy_if(shapes, std::back_inserter(built),
+                         [](const char* name) { return expected_catalogue().find(name) != nullptr; });
     return built;
 }
 
@@ -212,7 +213,7 @@ INSTANTIATE_TEST_SUITE_P(All, EveryShape, testing::ValuesIn(built_shapes()),
 
 TEST_P(EveryShape, border_values_of_any_two_words)
 {
-    const reference::Message& message = *transcribed().find(GetParam());
+    const model::Message& message = *expected_catalogue().find(GetParam());
     for (const ByteString& whole : full_samples(message)) {
         Sample sample{message, whole};
         std::vector<Word> words = words_of(message, whole);

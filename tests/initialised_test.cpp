@@ -6,11 +6,11 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "model/decode.h"
+#include "model/encode.h"
+#include "model/generate.h"
+#include "model/memory.h"
 #include "platform/standin/mesh_standin.h"
-#include "reference/decode.h"
-#include "reference/encode.h"
-#include "reference/generate.h"
-#include "reference/memory.h"
 #include "tests/support/figures.h"
 #include "tools/operations.h"
 
@@ -32,16 +32,16 @@ void expect(bool holds, const char* message, const char* what)
 // Delivered records are compared with what was sent: that looks at every byte of every field.
 void on_message(void* context, uint32_t, uint32_t, const void* record, uint32_t, const uint8_t*, uint32_t)
 {
-    const auto* sent = static_cast<const std::vector<reference::Record>*>(context);
-    const reference::Record& expected = (*sent)[received++ % sent->size()];
-    expect(reference::difference(reference::as_decoded(expected), record).empty(), expected.message->name.c_str(),
+    const auto* sent = static_cast<const std::vector<model::Record>*>(context);
+    const model::Record& expected = (*sent)[received++ % sent->size()];
+    expect(model::difference(model::as_decoded(expected), record).empty(), expected.message->name.c_str(),
            "arrived as another record");
 }
 
-void send(const tools::Operations& library, std::vector<reference::Record>& records)
+void send(const tools::Operations& library, std::vector<model::Record>& records)
 {
     mesh_standin_set_consumer(1, on_message, &records);
-    const reference::RecordMemory memory(records);
+    const model::RecordMemory memory(records);
     received = 0;
     expect(library.sendmsg(1, memory.data(), 1) == 0, library.name, "single send");
     received = 0;
@@ -50,7 +50,7 @@ void send(const tools::Operations& library, std::vector<reference::Record>& reco
     expect(received == records.size(), library.name, "not all delivered");
 
     // Packed: what the packer has written, which may be less than it says.
-    const reference::Bytes expected = reference::compact_form(records[0]);
+    const model::Bytes expected = model::compact_form(records[0]);
     std::vector<uint8_t> buffer(1 << 16);
     uint32_t length = 1 << 16;
     expect(library.pack(memory.data(), buffer.data(), &length) == 0, library.name, "pack");
@@ -65,13 +65,13 @@ int main()
     for (const tools::ModuleOperations& module : tools::module_operations())
         if (module.recv_init() != 0)
             return 1;
-    reference::Random random(7);
-    for (const reference::Message& message : tests::transcribed().messages)
-        for (const reference::Density density : reference::densities)
+    model::Random random(7);
+    for (const model::Message& message : tests::expected_catalogue().messages)
+        for (const model::Density density : model::densities)
             for (int round = 0; round < 3; ++round) {
-                std::vector<reference::Record> records;
+                std::vector<model::Record> records;
                 for (int i = 0; i < 3; ++i)
-                    records.push_back(reference::random_record(message, density, random));
+                    records.push_back(model::random_record(message, density, random));
                 send(tools::operations(message.name), records);
             }
     std::printf("%d failures\n", failures);

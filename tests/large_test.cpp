@@ -11,26 +11,26 @@
 #include <cstring>
 #include <numeric>
 
+#include "model/generate.h"
 #include "ntvifit.h"
-#include "reference/generate.h"
 #include "tests/support/every_message.h"
 
 namespace kesto::tests {
 
 namespace {
 
-using reference::Item;
-using reference::Piece;
-using reference::put;
+using model::Item;
+using model::Piece;
+using model::put;
 
 constexpr std::uint64_t wrap = std::uint64_t{1} << 32;
 constexpr std::uint64_t most_bytes = 0x7FFFFFFF;   // that a decoder takes
 
 struct VectorMessage {
-    const reference::Message* message;
-    const reference::Message* element;
+    const model::Message* message;
+    const model::Message* element;
 
-    std::uint64_t record_size() const { return element->layout(reference::host_pointer_width).size; }
+    std::uint64_t record_size() const { return element->layout(model::host_pointer_width).size; }
     // The least count whose elements take up 2^32 bytes and `rest` more.
     std::uint32_t count(std::uint64_t rest) const
     {
@@ -38,31 +38,32 @@ struct VectorMessage {
     }
 };
 
-std::ptrdiff_t vectors_in(const reference::Message& message)
+std::ptrdiff_t vectors_in(const model::Message& message)
 {
-    return std::accumulate(message.slots.begin(), message.slots.end(), std::ptrdiff_t{0}, [](auto sum, const auto& slot) {
-        return sum + (slot.kind == reference::Kind::vector) + (slot.nested == nullptr ? 0 : vectors_in(*slot.nested));
-    });
+    return std::accumulate(
+        message.slots.begin(), message.slots.end(), std::ptrdiff_t{0}, [](auto sum, const auto& slot) {
+            return sum + (slot.kind == model::Kind::vector) + (slot.nested == nullptr ? 0 : vectors_in(*slot.nested));
+        });
 }
 
 // Those with one vector: a stem, below, has one place to be pulled apart.
 std::vector<VectorMessage> vector_messages()
 {
     std::vector<VectorMessage> found;
-    for (const reference::Message& message : transcribed().messages)
-        for (const reference::Slot& slot : message.slots)
-            if (slot.kind == reference::Kind::vector && vectors_in(message) == 1)
+    for (const model::Message& message : expected_catalogue().messages)
+        for (const model::Slot& slot : message.slots)
+            if (slot.kind == model::Kind::vector && vectors_in(message) == 1)
                 found.push_back({&message, slot.nested});
     return found;
 }
 
 // A full record whose vector has one element.
-reference::Record with_one_element(const VectorMessage& vector)
+model::Record with_one_element(const VectorMessage& vector)
 {
-    reference::Random random(vector.message->id);
-    reference::Record record = reference::random_record(*vector.message, reference::Density::full, random);
+    model::Random random(vector.message->id);
+    model::Record record = model::random_record(*vector.message, model::Density::full, random);
     for (std::size_t k = 0; k < record.fields.size(); ++k)
-        if (vector.message->slots[k].kind == reference::Kind::vector) {
+        if (vector.message->slots[k].kind == model::Kind::vector) {
             record.fields[k].records.resize(1);
             record.fields[k].number = 1;
         }
@@ -80,13 +81,13 @@ bool has_address_space(std::size_t bytes)
 }
 
 // The compact form of a record with one element, to be pulled apart after the vector's only cell.
-struct Stem : reference::Walk {
-    explicit Stem(const reference::Record& record) : bytes(reference::compact_form(record))
+struct Stem : model::Walk {
+    explicit Stem(const model::Record& record) : bytes(model::compact_form(record))
     {
-        reference::DecodeOptions options;
+        model::DecodeOptions options;
         options.walk = this;
-        reference::Outcome outcome;
-        reference::decode(*record.message, bytes.data(), static_cast<std::uint32_t>(bytes.size()), options, outcome);
+        model::Outcome outcome;
+        model::decode(*record.message, bytes.data(), static_cast<std::uint32_t>(bytes.size()), options, outcome);
     }
 
     void read(const Item& item) override
@@ -114,18 +115,18 @@ std::uint8_t* place(const GuardedBuffer& buffer, const Stem& stem, std::uint32_t
     std::copy(stem.bytes.begin(), split, at);
     std::copy(split, stem.bytes.end(), at + stem.cell + 4 + more);
     for (const std::uint32_t reference : stem.references) {
-        const std::uint32_t distance = reference::get32(&stem.bytes[reference]);
+        const std::uint32_t distance = model::get32(&stem.bytes[reference]);
         if (reference < stem.cell && reference + distance > stem.cell)
             put(at + reference, distance + more, 4);
     }
     put(at + stem.cell - 4, count, 4);
-    const std::uint32_t element = stem.cell + reference::get32(&stem.bytes[stem.cell]) + more;
+    const std::uint32_t element = stem.cell + model::get32(&stem.bytes[stem.cell]) + more;
     for (std::uint32_t i = 0; i < filled; ++i)
         put(at + stem.cell + 4 * i, element - (stem.cell + 4 * i), 4);
     return at;
 }
 
-// Library and reference differ nowhere. One element is filled for each that the block has room for, and two more.
+// Library and model differ nowhere. One element is filled for each that the block has room for, and two more.
 void expect_alike(const VectorMessage& vector, std::uint32_t count)
 {
     const Stem stem(with_one_element(vector));
@@ -134,7 +135,7 @@ void expect_alike(const VectorMessage& vector, std::uint32_t count)
     // A fresh buffer each time: what was touched is given back.
     DecodeCheck check(stem.bytes.size() + std::size_t{4} * count);
     const std::uint8_t* const bytes = place(check.buffer(), stem, count, std::min(inside, 1U << 14) + 2, length);
-    for (const std::uint32_t failing : {reference::AllocationFaults::never, 0U, 1U, 2U, 5U}) {
+    for (const std::uint32_t failing : {model::AllocationFaults::never, 0U, 1U, 2U, 5U}) {
         check.faults = {failing, false, 1 << 20};
         ASSERT_EQ(check.check(*vector.message, bytes, length), "") << count << ", failing allocation " << failing;
         ASSERT_TRUE(check.outcome().failure);
@@ -194,10 +195,10 @@ TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits
     for (const auto& each : cases) {
         if (is_left_out(each.message))
             continue;
-        const reference::Message& message = *transcribed().find(each.message);
+        const model::Message& message = *expected_catalogue().find(each.message);
         const VectorMessage vector{&message, message.slots[each.slot].nested};
         const std::uint32_t count = vector.count(each.rest);
-        reference::Record record;
+        model::Record record;
         std::string error;
         std::string_view text = each.record;
         ASSERT_TRUE(parse_record(message, text, record, error)) << error;
@@ -210,7 +211,7 @@ TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits
         ASSERT_EQ(check.check(message, bytes, length), "");
 
         std::string events, expected = each.events + std::string(each.left);
-        for (const reference::Event& event : check.outcome().trace)
+        for (const model::Event& event : check.outcome().trace)
             events += to_text(event) + "\n";
         const auto size = static_cast<std::uint32_t>(count * vector.record_size());
         for (const auto& [word, value] : {std::pair{"LENGTH", length}, {"SIZE", size}, {"COUNT", count}})

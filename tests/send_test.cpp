@@ -6,9 +6,9 @@
 #include <cstring>
 
 #include "ifit_dfx.h"
+#include "model/generate.h"
+#include "model/memory.h"
 #include "ntvifit.h"
-#include "reference/generate.h"
-#include "reference/memory.h"
 #include "tests/support/every_message.h"
 #include "tests/support/malloc_double.h"
 #include "tests/support/mesh_double.h"
@@ -18,10 +18,10 @@ namespace kesto::tests {
 
 namespace {
 
-using reference::Density;
-using reference::Message;
-using reference::Record;
-using reference::RecordMemory;
+using model::Density;
+using model::Message;
+using model::Record;
+using model::RecordMemory;
 
 constexpr std::uint32_t pool = 65536;
 
@@ -35,10 +35,10 @@ protected:
 
     std::vector<Record> records(std::uint32_t count) const
     {
-        reference::Random random(message().id);
+        model::Random random(message().id);
         std::vector<Record> made;
         for (std::uint32_t i = 0; i < count; ++i)
-            made.push_back(reference::random_record(message(), i % 2 == 0 ? Density::full : Density::sparse, random));
+            made.push_back(model::random_record(message(), i % 2 == 0 ? Density::full : Density::sparse, random));
         return made;
     }
 };
@@ -76,8 +76,8 @@ TEST_P(EverySend, counts_decide_what_reaches_mesh)
         for (std::size_t k = 0; k < call.sent.size(); ++k) {
             ByteString bytes = both_forms(made[k]).back();
             if (!fixed())
-                bytes.resize(reference::reported_size(reference::exact_size(made[k])), 0);
-            EXPECT_EQ(hex(call.sent[k].bytes), hex(bytes));
+                bytes.resize(model::reported_size(model::exact_size(made[k])), 0);
+            EXPECT_EQ(model::to_hex(call.sent[k].bytes), model::to_hex(bytes));
             EXPECT_EQ(call.sent[k].id, message().id);
         }
     }
@@ -94,7 +94,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
     mesh().keeps_sends = false;
     mesh().send_result = -3;   // that MESH refuses changes nothing
     for (const std::uint32_t n : {1u, 3u}) {
-        std::size_t size = n == 1 ? reference::reported_size(reference::exact_size(made[0])) : pool + n * item;
+        std::size_t size = n == 1 ? model::reported_size(model::exact_size(made[0])) : pool + n * item;
         if (fixed())
             size = n == 1 ? 0 : n * (message().fixed_length + item);
         const std::uint32_t blocks = size == 0 ? 0 : 1;
@@ -129,10 +129,10 @@ TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
 
     length = pool;
     EXPECT_EQ(library().pack(memory.data(), nullptr, &length), 0);
-    EXPECT_EQ(length, reference::reported_size(reference::exact_size(records(1)[0])));
-    reference::Event log;
-    log.routine = {&message(), reference::RoutineKind::pack};
-    log.format = reference::Format::pack_parameters;
+    EXPECT_EQ(length, model::reported_size(model::exact_size(records(1)[0])));
+    model::Event log;
+    log.routine = {&message(), model::RoutineKind::pack};
+    log.format = model::Format::pack_parameters;
     log.arguments = {0, pool, 1};
     EXPECT_EQ(services().difference({log}), "");
 }
@@ -167,11 +167,11 @@ TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
 TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_operation)
 {
     for (std::size_t k = 0; k < message().slots.size(); ++k) {
-        if (message().slots[k].kind != reference::Kind::vector)
+        if (message().slots[k].kind != model::Kind::vector)
             continue;
         const RecordMemory memory(records(2));
         auto* const field =
-            static_cast<std::uint8_t*>(memory.data()) + message().layout(reference::host_pointer_width).offsets[k];
+            static_cast<std::uint8_t*>(memory.data()) + message().layout(model::host_pointer_width).offsets[k];
         const std::uint32_t count = 2;
         std::memcpy(field, &count, sizeof count);
         std::memset(field + sizeof(void*), 0, sizeof(void*));
@@ -184,7 +184,7 @@ TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_opera
         EXPECT_EQ(library().sendsingle(1, memory.data(), 0, 0), -1);
         EXPECT_EQ(library().sendbatch(1, memory.data(), 1, 0), -1);
         EXPECT_EQ(library().sendmsg(1, memory.data(), 2), -1);
-        EXPECT_EQ(reference::exact_size(message(), memory.data()) >> 32, 1U);
+        EXPECT_EQ(model::exact_size(message(), memory.data()) >> 32, 1U);
     }
     EXPECT_TRUE(mesh().sends.empty());
 }
@@ -270,7 +270,7 @@ TEST(Registration, gives_every_hook_in_order_and_stops_at_the_first_failure)
         mesh().reset();
         EXPECT_EQ(module.recv_init(), 0);
         std::vector<const Message*> expected;
-        for (const Message& message : transcribed().messages)
+        for (const Message& message : expected_catalogue().messages)
             if (message.module == module.name)
                 expected.push_back(&message);
         ASSERT_EQ(mesh().registrations.size(), expected.size()) << module.name;

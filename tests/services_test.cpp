@@ -18,9 +18,9 @@
 #include <thread>
 #include <vector>
 
-#include "reference/decode.h"
-#include "reference/encode.h"
-#include "reference/generate.h"
+#include "model/decode.h"
+#include "model/encode.h"
+#include "model/generate.h"
 #include "tests/support/counting_services.h"
 #include "tests/support/figures.h"
 #include "tests/support/malloc_double.h"
@@ -201,19 +201,19 @@ TEST(Services, are_not_looked_up_without_need)
 // Each message as the first that its process decodes, in every form, by the fast paths and by others.
 TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
 {
-    for (const reference::Message& message : transcribed().messages) {
-        reference::Random chance(message.id);
-        const reference::Record full = reference::random_record(message, reference::Density::full, chance);
-        const reference::Record sparse = reference::random_record(message, reference::Density::sparse, chance);
-        std::vector<reference::Bytes> forms = {reference::compact_form(full), reference::compact_form(sparse)};
+    for (const model::Message& message : expected_catalogue().messages) {
+        model::Random chance(message.id);
+        const model::Record full = model::random_record(message, model::Density::full, chance);
+        const model::Record sparse = model::random_record(message, model::Density::sparse, chance);
+        std::vector<model::Bytes> forms = {model::compact_form(full), model::compact_form(sparse)};
         if (message.fixed_length != 0)
-            forms.push_back(reference::fixed_form(full));
-        for (const reference::Bytes& bytes : forms)
+            forms.push_back(model::fixed_form(full));
+        for (const model::Bytes& bytes : forms)
             expect_in_child([&](Verdict& verdict) {
                 const tools::Operations& library = tools::operations(message.name);
                 const auto length = static_cast<std::uint32_t>(bytes.size());
-                reference::Outcome expected;
-                reference::decode(message, bytes.data(), length, {}, expected);
+                model::Outcome expected;
+                model::decode(message, bytes.data(), length, {}, expected);
                 const std::vector<std::uint64_t> before(library.record_size / 8 + 1, 0xEEEEEEEEEEEEEEEE);
                 std::vector<std::uint64_t> record = before;
                 at_flag_read = [&] { verdict.expect(message.name + ", untouched", record == before, true); };

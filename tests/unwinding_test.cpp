@@ -8,9 +8,9 @@
 
 #include <cstring>
 
-#include "reference/encode.h"
-#include "reference/generate.h"
-#include "reference/memory.h"
+#include "model/encode.h"
+#include "model/generate.h"
+#include "model/memory.h"
 #include "tests/support/counting_services.h"
 #include "tests/support/figures.h"
 #include "tests/support/mesh_double.h"
@@ -43,19 +43,18 @@ TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
 {
     mesh().at_send = look_for_main;
     at_memory_call = look_for_main;
-    for (const reference::Message& message : transcribed().messages) {
+    for (const model::Message& message : expected_catalogue().messages) {
         const tools::Operations& library = tools::operations(message.name);
-        reference::Random random(message.id);
-        const std::vector<reference::Record> records(
-            2, reference::random_record(message, reference::Density::full, random));
-        const reference::RecordMemory memory(records);
+        model::Random random(message.id);
+        const std::vector<model::Record> records(2, model::random_record(message, model::Density::full, random));
+        const model::RecordMemory memory(records);
         calls = calls_from_main = 0;
         library.sendsingle(1, memory.data(), 0, 2);
         library.sendbatch(1, memory.data(), 2, 0);
         library.sendmsg(1, memory.data(), 1);
         library.sendtomsg(1, memory.data(), 2, 3);
         EXPECT_EQ(calls, 4) << message.name;
-        const reference::Bytes bytes = reference::compact_form(records[0]);
+        const model::Bytes bytes = model::compact_form(records[0]);
         std::vector<std::uint64_t> record(library.record_size / 8 + 1);
         library.unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), record.data());
         EXPECT_EQ(calls > 4, message.owns_heap) << message.name;

@@ -9,7 +9,7 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "tests/support/against_reference.h"
+#include "tests/support/against_model.h"
 #include "tests/support/services_double.h"
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
@@ -18,9 +18,9 @@ namespace kesto::tests {
 
 namespace {
 
+using model::Message;
+using model::Record;
 using nlohmann::ordered_json;
-using reference::Message;
-using reference::Record;
 
 const std::string folder = KESTO_SOURCE_DIR "/vectors/";
 
@@ -65,7 +65,7 @@ TEST(Vectors, say_what_the_library_does_with_each)
 {
     std::map<std::string, std::set<std::string>> cases;   // of records, by message
     std::map<std::string, int> often;                     // what hostile byte strings end with; "" for accepted ones
-    std::set<std::string> strange;                        // messages of the accepted ones
+    std::set<std::string> noncanonical;                   // messages of the accepted ones
     DecodeCheck check;
     for (const ordered_json& file : files())
         for (const ordered_json& line : lines_of(file["name"])) {
@@ -84,28 +84,28 @@ TEST(Vectors, say_what_the_library_does_with_each)
                 services().lines = &log;
                 ASSERT_EQ(check.check(message, command::bytes_from_hex(line[form].get<std::string>())), "") << line;
                 services().lines = nullptr;
-                const reference::Failure& failure = check.outcome().failure;
+                const model::Failure& failure = check.outcome().failure;
                 EXPECT_EQ(failure ? name_of(failure.refusal) : "", code) << line;
             }
             EXPECT_EQ(ordered_json(log), line.value("log", ordered_json::array())) << line;
             if (is_hostile) {
                 ++often[code];
                 if (code.empty())
-                    strange.insert(message.name);
+                    noncanonical.insert(message.name);
                 continue;
             }
             cases[message.name].insert(line["case"]);
-            EXPECT_EQ(hex(command::encoded(record, command::Form::compact)), line["compact"]) << line;
+            EXPECT_EQ(model::to_hex(command::encoded(record, command::Form::compact)), line["compact"]) << line;
             ASSERT_EQ(line["fixed"].is_null(), message.fixed_length == 0) << line;
             if (message.fixed_length != 0) {
-                EXPECT_EQ(hex(command::encoded(record, command::Form::fixed)), line["fixed"]) << line;
+                EXPECT_EQ(model::to_hex(command::encoded(record, command::Form::fixed)), line["fixed"]) << line;
             }
         }
     // Else a printer that lost half of its cases would pass.
-    EXPECT_EQ(cases.size(), transcribed().messages.size());
+    EXPECT_EQ(cases.size(), expected_catalogue().messages.size());
     for (const auto& [message, names] : cases)
         EXPECT_EQ(names, (std::set<std::string>{"boundary", "empty", "full"})) << message;
-    EXPECT_EQ(strange.size(), transcribed().messages.size());
+    EXPECT_EQ(noncanonical.size(), expected_catalogue().messages.size());
     EXPECT_EQ(often.size(), 1u + 13u);
     for (const auto& [code, times] : often)
         EXPECT_GE(times, code == "length_below_4" ? 4 : 8) << code;

@@ -1,16 +1,16 @@
-// Byte strings, records and traces that were written out by hand, for library and reference: each of them is held
+// Byte strings, records and traces that were written out by hand, for library and model: each of them is held
 // against the other one, and both against what stands here.
 
 #include <gtest/gtest.h>
 
 #include "ntvifit.h"
-#include "tests/support/against_reference.h"
+#include "tests/support/against_model.h"
 
 namespace kesto::tests {
 
 namespace {
 
-using namespace reference;
+using namespace model;
 
 Record record_of(const Message& message, std::string_view text)
 {
@@ -129,7 +129,7 @@ TEST(WrittenOut, traces_are_met)
         if (is_left_out(each.message))
             continue;
         SCOPED_TRACE(each.what);
-        const Message& message = *transcribed().find(each.message);
+        const Message& message = *expected_catalogue().find(each.message);
         Bytes bytes = compact_form(record_of(message, each.record));
         each.spoil(bytes);
         check.faults.at = each.failing_allocation;
@@ -222,9 +222,10 @@ TEST(WrittenOut, edges_of_every_test_are_on_the_right_side)
         if (is_left_out(edge.message))
             continue;
         SCOPED_TRACE(edge.message + std::string(" ") + edge.hex);
-        const Message& message = *transcribed().find(edge.message);
+        const Message& message = *expected_catalogue().find(edge.message);
         Bytes bytes;
-        ASSERT_TRUE(parse_hex(edge.hex, bytes));
+        std::string error;
+        ASSERT_TRUE(model::from_hex(edge.hex, bytes, error)) << error;
         const bool succeeds = edge.refusal == std::string("none");
         const Record left = record_of(message, edge.left != nullptr ? edge.left : "zero");
         check.expected = succeeds ? &left : nullptr;

@@ -10,6 +10,7 @@
 
 #include "tools/print_files.h"
 
+using namespace kesto::model;
 using namespace kesto::tools;
 
 namespace {
@@ -18,20 +19,20 @@ constexpr const char first_line[] = "-- printed by ./run headers, from here\n";
 constexpr const char last_line[] = "-- to here\n";
 
 // "u32", "u8[50]", "vector:ifit_mcp_mesh", "table?:..." for a table whose refusal the message ignores: one word each.
-std::string slot_word(const SlotInfo& slot)
+std::string slot_word(const Slot& slot)
 {
     if (slot.nested == nullptr)
         return slot_text(slot);
-    const std::string kind = slot.kind == SlotKind::vector ? "vector:" : slot.fault_ends_read ? "table:" : "table?:";
+    const std::string kind = slot.kind == Kind::vector ? "vector:" : slot.lenient ? "table?:" : "table:";
     return kind + slot.nested->name;
 }
 
-std::string message_line(const MessageInfo& message)
+std::string message_line(const Message& message)
 {
     char id[11];
     std::snprintf(id, sizeof id, "0x%08" PRIx32, message.id);
     std::string line = "{ \"" + message.name + "\", " + id + ", \"";
-    for (const SlotInfo& slot : message.slots)
+    for (const Slot& slot : message.slots)
         line += (&slot == &message.slots.front() ? "" : " ") + slot.field + "=" + slot_word(slot);
     return line + "\" },\n";
 }
@@ -39,8 +40,8 @@ std::string message_line(const MessageInfo& message)
 std::string catalogue_lines()
 {
     std::string lines;
-    for (const ModuleInfo& module : modules())
-        for (const MessageInfo* message : module.messages)
+    for (const Module& module : catalogue().modules)
+        for (const Message* message : module.messages)
             lines += message_line(*message);
     return lines;
 }

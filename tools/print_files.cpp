@@ -18,13 +18,13 @@ bool write_changed(const std::string& path, const std::string& text)
     return static_cast<bool>(file);
 }
 
-int print_files(int argc, char** argv, const char* suffix, void (*print)(std::FILE* file, const ModuleInfo& module))
+int print_files(int argc, char** argv, const char* suffix, void (*print)(std::FILE* file, const model::Module& module))
 {
     if (argc != 2) {
         std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
         return 2;
     }
-    for (const ModuleInfo& module : modules()) {
+    for (const model::Module& module : model::catalogue().modules) {
         char* text = nullptr;
         std::size_t length = 0;
         std::FILE* const file = open_memstream(&text, &length);

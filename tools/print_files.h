@@ -4,7 +4,7 @@
 #include <cstdio>
 #include <string>
 
-#include "tools/catalogue.h"
+#include "model/catalogue.h"
 
 namespace kesto::tools {
 
@@ -13,6 +13,6 @@ namespace kesto::tools {
 [[nodiscard]] bool write_changed(const std::string& path, const std::string& text);
 
 // The main of a printer: writes FOLDER/<module><suffix> for every module. Returns the program's result.
-int print_files(int argc, char** argv, const char* suffix, void (*print)(std::FILE* file, const ModuleInfo& module));
+int print_files(int argc, char** argv, const char* suffix, void (*print)(std::FILE* file, const model::Module& module));
 
 }   // namespace kesto::tools

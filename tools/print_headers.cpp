@@ -10,6 +10,7 @@
 
 #include "tools/print_files.h"
 
+using namespace kesto::model;
 using namespace kesto::tools;
 
 namespace {
@@ -97,59 +98,59 @@ void print_head(std::FILE* file, const std::string& module)
     }
 }
 
-std::string field_declaration(const SlotInfo& slot)
+std::string field_declaration(const Slot& slot)
 {
     const std::string scalar = slot.width == 8 ? "kesto_u64" : "uint" + std::to_string(8 * slot.width) + "_t";
     switch (slot.kind) {
-    case SlotKind::scalar: return scalar + " " + slot.field;
-    case SlotKind::string: return "char *" + slot.field;
-    case SlotKind::bytes: return "struct { uint32_t length; uint8_t *data; } " + slot.field;
-    case SlotKind::array: return scalar + " " + slot.field + "[" + std::to_string(slot.count) + "]";
-    case SlotKind::table: return slot.nested->name + " " + slot.field;
-    case SlotKind::vector: return "struct { uint32_t count; " + slot.nested->name + " *items; } " + slot.field;
+    case Kind::scalar: return scalar + " " + slot.field;
+    case Kind::string: return "char *" + slot.field;
+    case Kind::bytes: return "struct { uint32_t length; uint8_t *data; } " + slot.field;
+    case Kind::array: return scalar + " " + slot.field + "[" + std::to_string(slot.count) + "]";
+    case Kind::table: return slot.nested->name + " " + slot.field;
+    case Kind::vector: return "struct { uint32_t count; " + slot.nested->name + " *items; } " + slot.field;
     }
     return {};
 }
 
-bool has(const MessageInfo& message, SlotKind kind)
+bool has(const Message& message, Kind kind)
 {
-    for (const SlotInfo& slot : message.slots)
-        if (slot.kind == kind || (slot.kind == SlotKind::table && has(*slot.nested, kind)))
+    for (const Slot& slot : message.slots)
+        if (slot.kind == kind || (slot.kind == Kind::table && has(*slot.nested, kind)))
             return true;
     return false;
 }
 
-std::string ownership(const MessageInfo& message)
+std::string ownership(const Message& message)
 {
     std::string parts;
-    const auto add = [&](SlotKind kind, const char* text) {
+    const auto add = [&](Kind kind, const char* text) {
         if (has(message, kind))
             parts += (parts.empty() ? "" : ", ") + std::string(text);
     };
-    add(SlotKind::string, "text");
-    add(SlotKind::bytes, "bytes");
-    add(SlotKind::vector, "elements");
-    for (const SlotInfo& slot : message.slots)
-        if (slot.kind == SlotKind::vector && slot.nested->has_heap_parts)
+    add(Kind::string, "text");
+    add(Kind::bytes, "bytes");
+    add(Kind::vector, "elements");
+    for (const Slot& slot : message.slots)
+        if (slot.kind == Kind::vector && slot.nested->owns_heap)
             parts += " and what they own";
     return parts.empty() ? "Owns no memory." : "Owns its " + parts + ".";
 }
 
-std::string lengths(const MessageInfo& message)
+std::string lengths(const Message& message)
 {
-    const std::string least = std::to_string(empty_length(message));
-    if (message.has_heap_parts)
+    const std::string least = std::to_string(message.compact_zero);
+    if (message.owns_heap)
         return "Compact form of " + least + " bytes and more.";
     return "Fixed form of " + std::to_string(message.fixed_length) + " bytes, compact form of " + least + " to " +
-           std::to_string(full_scalars_length(message)) + ".";
+           std::to_string(message.compact_full) + ".";
 }
 
-void print_message(std::FILE* file, const MessageInfo& message)
+void print_message(std::FILE* file, const Message& message)
 {
     const char* const name = message.name.c_str();
     std::fprintf(file, "\n/* %s: %s %s */\n", name, lengths(message).c_str(), ownership(message).c_str());
     std::fprintf(file, "typedef struct %s {\n", name);
-    for (const SlotInfo& slot : message.slots)
+    for (const Slot& slot : message.slots)
         std::fprintf(file, "    %s;\n", field_declaration(slot).c_str());
     std::fprintf(file, "} %s;\n\n", name);
     std::fprintf(file, "#define %s_ID UINT32_C(0x%08" PRIx32 ")\n\n", upper(message.name).c_str(), message.id);
@@ -165,10 +166,10 @@ void print_message(std::FILE* file, const MessageInfo& message)
                  name);
 }
 
-void print_module(std::FILE* file, const ModuleInfo& module)
+void print_module(std::FILE* file, const Module& module)
 {
     print_head(file, module.name);
-    for (const MessageInfo* message : module.messages)
+    for (const Message* message : module.messages)
         print_message(file, *message);
     const char* const name = module.name.c_str();
     std::fprintf(file, "\nint %s_recv_init(void);\nint %s_send_init(void);\nvoid %s__send_resource_clean(void);\n",

@@ -12,6 +12,7 @@
 
 #include "tools/print_files.h"
 
+using namespace kesto::model;
 using namespace kesto::tools;
 
 namespace {
@@ -59,35 +60,35 @@ void print_table(std::FILE* file, const std::vector<Column>& columns, const std:
 // ---- what the pages say of a message ----
 
 // Equal for messages whose records and byte strings look alike down to the last nested message.
-std::string shape(const MessageInfo& message)
+std::string shape(const Message& message)
 {
     std::string text;
-    for (const SlotInfo& slot : message.slots) {
+    for (const Slot& slot : message.slots) {
         if (slot.nested == nullptr)
             text += slot_text(slot) + " ";
         else
-            text += (slot.kind == SlotKind::vector ? "vector"
-                     : slot.fault_ends_read        ? "table"
-                                                   : "lenient table") +
+            text += (slot.kind == Kind::vector ? "vector"
+                     : slot.lenient            ? "lenient table"
+                                               : "table") +
                     std::string("(") + shape(*slot.nested) + ") ";
     }
     return text;
 }
 
 struct Relations {
-    std::map<std::string, std::vector<const MessageInfo*>> by_shape;
-    std::map<const MessageInfo*, std::vector<const MessageInfo*>> users;   // the messages that nest this one
+    std::map<std::string, std::vector<const Message*>> by_shape;
+    std::map<const Message*, std::vector<const Message*>> users;   // the messages that nest this one
 };
 
 const Relations& relations()
 {
     static const Relations found = [] {
         Relations all;
-        for (const ModuleInfo& module : modules())
-            for (const MessageInfo* message : module.messages) {
+        for (const Module& module : catalogue().modules)
+            for (const Message* message : module.messages) {
                 all.by_shape[shape(*message)].push_back(message);
-                std::set<const MessageInfo*> nested;
-                for (const SlotInfo& slot : message->slots)
+                std::set<const Message*> nested;
+                for (const Slot& slot : message->slots)
                     if (slot.nested != nullptr && nested.insert(slot.nested).second)
                         all.users[slot.nested].push_back(message);
             }
@@ -96,27 +97,26 @@ const Relations& relations()
     return found;
 }
 
-std::string id_text(const MessageInfo& message)
+std::string id_text(const Message& message)
 {
     char text[11];
     std::snprintf(text, sizeof text, "0x%08" PRIx32, message.id);
     return text;
 }
 
-std::string form_text(const MessageInfo& message)
+std::string form_text(const Message& message)
 {
-    return message.has_heap_parts ? "compact" : "fixed " + std::to_string(message.fixed_length);
+    return message.owns_heap ? "compact" : "fixed " + std::to_string(message.fixed_length);
 }
 
 // A name that leads to its message on a code host; the targets stand at the end of the page.
-std::string link(const MessageInfo& message) { return "[" + message.name + "]"; }
+std::string link(const Message& message) { return "[" + message.name + "]"; }
 
-void print_links(std::FILE* file, const char* what, const std::vector<const MessageInfo*>& messages,
-                 const MessageInfo& self)
+void print_links(std::FILE* file, const char* what, const std::vector<const Message*>& messages, const Message& self)
 {
     std::string line = std::string("- ") + what;
     bool any = false;
-    for (const MessageInfo* message : messages) {
+    for (const Message* message : messages) {
         if (message == &self)
             continue;
         const std::string item = (any ? ", " : " ") + link(*message);
@@ -133,9 +133,9 @@ void print_links(std::FILE* file, const char* what, const std::vector<const Mess
 }
 
 // The fields, in as many columns of rows as fit beside each other and are worth it.
-void print_fields(std::FILE* file, const MessageInfo& message)
+void print_fields(std::FILE* file, const Message& message)
 {
-    const RecordLayout on_32 = record_layout(message, 4), on_64 = record_layout(message, 8);
+    const RecordLayout on_32 = message.layout(4), on_64 = message.layout(8);
     const bool same = on_32.offsets == on_64.offsets;
 
     std::vector<Column> group{{"Field"}, {"Slot"}, {same ? "At" : "At/32", true}};
@@ -144,7 +144,7 @@ void print_fields(std::FILE* file, const MessageInfo& message)
     std::vector<Row> fields;
     std::vector<std::size_t> widths(group.size());
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
-        const SlotInfo& slot = message.slots[k];
+        const Slot& slot = message.slots[k];
         Row row{slot.field, slot_text(slot), std::to_string(on_32.offsets[k])};
         if (!same)
             row.push_back(std::to_string(on_64.offsets[k]));
@@ -173,22 +173,22 @@ void print_fields(std::FILE* file, const MessageInfo& message)
     print_table(file, columns, rows);
 }
 
-void print_message(std::FILE* file, const MessageInfo& message)
+void print_message(std::FILE* file, const Message& message)
 {
     std::fprintf(file, "\n## %s\n\n", message.name.c_str());
     std::fprintf(file, "- Id %s. ", id_text(message).c_str());
-    if (message.has_heap_parts)
-        std::fprintf(file, "Compact form of %u bytes and more. ", empty_length(message));
+    if (message.owns_heap)
+        std::fprintf(file, "Compact form of %u bytes and more. ", message.compact_zero);
     else
         std::fprintf(file, "Fixed form of %u bytes, compact form of %u to %u. ", message.fixed_length,
-                     empty_length(message), full_scalars_length(message));
-    const std::uint32_t on_32 = record_layout(message, 4).size, on_64 = record_layout(message, 8).size;
+                     message.compact_zero, message.compact_full);
+    const std::uint32_t on_32 = message.layout(4).size, on_64 = message.layout(8).size;
     if (on_32 == on_64)
         std::fprintf(file, "Record of %u bytes.\n", on_32);
     else
         std::fprintf(file, "Record of %u bytes, %u with 64-bit pointers.\n", on_32, on_64);
-    for (const SlotInfo& slot : message.slots)
-        if (!slot.fault_ends_read)
+    for (const Slot& slot : message.slots)
+        if (slot.lenient)
             std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on behind it.\n",
                          slot.field.c_str());
     print_links(file, "Same layout:", relations().by_shape.at(shape(message)), message);
@@ -219,7 +219,7 @@ In the order of registration. Zero: length of an all-zero record's compact form.
 
 )";
 
-void print_page(std::FILE* file, const ModuleInfo& module)
+void print_page(std::FILE* file, const Module& module)
 {
     for (const char* at = head; *at != '\0'; ++at) {
         if (*at == '@')
@@ -228,13 +228,12 @@ void print_page(std::FILE* file, const ModuleInfo& module)
             std::fputc(*at, file);
     }
     std::vector<Row> contents;
-    std::set<const MessageInfo*> elsewhere;
-    for (const MessageInfo* message : module.messages) {
+    std::set<const Message*> elsewhere;
+    for (const Message* message : module.messages) {
         contents.push_back({link(*message), id_text(*message), form_text(*message),
-                            std::to_string(empty_length(*message)), std::to_string(message->slots.size()),
-                            std::to_string(record_layout(*message, 4).size),
-                            std::to_string(record_layout(*message, 8).size)});
-        for (const MessageInfo* other : relations().by_shape.at(shape(*message)))
+                            std::to_string(message->compact_zero), std::to_string(message->slots.size()),
+                            std::to_string(message->layout(4).size), std::to_string(message->layout(8).size)});
+        for (const Message* other : relations().by_shape.at(shape(*message)))
             if (other->module != module.name)
                 elsewhere.insert(other);
     }
@@ -242,14 +241,14 @@ void print_page(std::FILE* file, const ModuleInfo& module)
                 {{"Message"}, {"Id"}, {"Form"}, {"Zero", true}, {"Slots", true}, {"Rec/32", true}, {"Rec/64", true}},
                 contents);
 
-    for (const MessageInfo* message : module.messages)
+    for (const Message* message : module.messages)
         print_message(file, *message);
 
     std::fputs("\n", file);
-    for (const MessageInfo* message : module.messages)
+    for (const Message* message : module.messages)
         std::fprintf(file, "%s: #%s\n", link(*message).c_str(), message->name.c_str());
-    for (const ModuleInfo& other : modules())
-        for (const MessageInfo* message : other.messages)
+    for (const Module& other : catalogue().modules)
+        for (const Message* message : other.messages)
             if (elsewhere.contains(message))
                 std::fprintf(file, "%s: %s.md#%s\n", link(*message).c_str(), other.name.c_str(), message->name.c_str());
 }

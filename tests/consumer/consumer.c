@@ -6,11 +6,16 @@
 #include "ntvifit.h"
 
 #ifdef __cplusplus
-extern "C"
+extern "C" {
 #endif
-void on_message(uint32_t id, uint32_t length, const void *record)
+void on_message(uint32_t id, uint32_t length, const void* record);
+#ifdef __cplusplus
+}
+#endif
+
+void on_message(uint32_t id, uint32_t length, const void* record)
 {
-    const ifit_dfx_query_glbdata_item_mesh *item = (const ifit_dfx_query_glbdata_item_mesh *)record;
+    const ifit_dfx_query_glbdata_item_mesh* item = (const ifit_dfx_query_glbdata_item_mesh*)record;
     printf("message 0x%08x of %u bytes says \"%s\"\n", (unsigned)id, (unsigned)length, item->f0);
 }
 

@@ -3,7 +3,7 @@
 
 #include "platform/mesh.h"
 
-void on_message(uint32_t id, uint32_t length, const void *record);
+void on_message(uint32_t id, uint32_t length, const void* record);
 
 enum { ROOM = 256 };
 
@@ -30,11 +30,11 @@ int MESH_RegIDLResorceCleanFuncHook(MeshClean clean)
     return 0;
 }
 
-static int deliver(const MeshSendItem *item)
+static int deliver(const MeshSendItem* item)
 {
     for (uint32_t i = 0; i < hook_count; ++i)
         if (hooks[i].id == item->id) {
-            void *record = calloc(1, hooks[i].unpack(NULL, 0, NULL)); /* a refused call tells the size */
+            void* record = calloc(1, hooks[i].unpack(NULL, 0, NULL)); /* a refused call tells the size */
             if (record == NULL)
                 return 1;
             hooks[i].unpack(item->data, item->length, record);
@@ -46,7 +46,7 @@ static int deliver(const MeshSendItem *item)
     return 1;
 }
 
-int MESH_SendMsg(uint32_t channel, const MeshSendItem *items, uint32_t count)
+int MESH_SendMsg(uint32_t channel, const MeshSendItem* items, uint32_t count)
 {
     int result = 0;
     (void)channel;
@@ -55,7 +55,7 @@ int MESH_SendMsg(uint32_t channel, const MeshSendItem *items, uint32_t count)
     return result;
 }
 
-int MESH_SendToMsg(uint32_t channel, const MeshSendItem *items, uint32_t count, uint32_t destination)
+int MESH_SendToMsg(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
 {
     (void)destination;
     return MESH_SendMsg(channel, items, count);

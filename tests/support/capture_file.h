@@ -4,11 +4,11 @@
 #include <fstream>
 #include <string>
 
-#include "reference/little_endian.h"
+#include "model/little_endian.h"
 
 namespace kesto::tests {
 
-using reference::Bytes;
+using model::Bytes;
 
 struct RawPacket {
     Bytes bytes;
@@ -19,15 +19,15 @@ inline Bytes capture_head(std::uint32_t link_type)
 {
     Bytes head;
     for (const std::uint32_t word : {0xa1b2c3d4U, 2U | 4U << 16, 0U, 0U, 262144U, link_type})
-        reference::append(head, word, 4);
+        model::append(head, word, 4);
     return head;
 }
 
 inline void add_packet(Bytes& capture, const RawPacket& packet)
 {
-    for (const std::size_t word : {std::size_t{1700000000}, std::size_t{250}, packet.bytes.size(),
-                                   std::size_t{packet.length_on_the_wire}})
-        reference::append(capture, word, 4);
+    for (const std::size_t word :
+         {std::size_t{1700000000}, std::size_t{250}, packet.bytes.size(), std::size_t{packet.length_on_the_wire}})
+        model::append(capture, word, 4);
     capture.insert(capture.end(), packet.bytes.begin(), packet.bytes.end());
 }
 
@@ -35,8 +35,8 @@ inline void add_packet(Bytes& capture, const RawPacket& packet)
 inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes, std::size_t stated_length)
 {
     RawPacket packet;
-    reference::append(packet.bytes, id, 4);
-    reference::append(packet.bytes, stated_length, 4);
+    model::append(packet.bytes, id, 4);
+    model::append(packet.bytes, stated_length, 4);
     packet.bytes.insert(packet.bytes.end(), bytes.begin(), bytes.end());
     packet.length_on_the_wire = static_cast<std::uint32_t>(packet.bytes.size());
     return packet;
@@ -46,8 +46,8 @@ inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes) { return packet
 
 inline void write_file(const std::string& path, const Bytes& bytes)
 {
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()),
-                                                static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
 }
 
 }   // namespace kesto::tests

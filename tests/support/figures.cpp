@@ -1,17 +1,16 @@
 #include "tests/support/figures.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cstdio>
 #include <cstdlib>
 #include <sstream>
 
-#include "reference/generate.h"
+#include "model/generate.h"
 
 namespace kesto::tests {
 namespace {
 
-using namespace reference;
+using namespace model;
 
 u32 number(const std::string& text) { return static_cast<u32>(std::strtoul(text.c_str(), nullptr, 0)); }
 
@@ -128,7 +127,7 @@ bool parse_figure(std::string_view rest, Figure& figure, std::string& error)
 {
     figure.kind = take_word(rest);
     const std::string name = take_word(rest);
-    figure.message = transcribed().find(name);
+    figure.message = expected_catalogue().find(name);
     if (figure.message == nullptr)
         return error = "no message " + name, false;
     const std::string form = take_word(rest);
@@ -143,30 +142,6 @@ bool parse_figure(std::string_view rest, Figure& figure, std::string& error)
 }
 
 }   // namespace
-
-const Catalogue& transcribed()
-{
-    static const Catalogue catalogue = [] {
-        Catalogue read;
-        std::string error;
-        const std::string built = " " KESTO_MODULES " ", begin = "\nmodule ";
-        for (const char* path : {KESTO_TEST_DATA "/messages.txt", KESTO_TEST_DATA "/../module/messages.txt"}) {
-            const std::string list = read_file(path);
-            for (std::size_t at = list.find(begin), next; at != std::string::npos; at = next) {
-                next = list.find(begin, at + 1);
-                const std::size_t name = at + begin.size();
-                if (built.find(" " + list.substr(name, list.find('\n', name) - name) + " ") == std::string::npos)
-                    continue;
-                if (!read.add(std::string_view(list).substr(at, next - at), error)) {
-                    std::fprintf(stderr, "%s: %s\n", path, error.c_str());
-                    std::exit(1);
-                }
-            }
-        }
-        return read;
-    }();
-    return catalogue;
-}
 
 bool load_figures(std::vector<Figure>& figures, std::string& error)
 {
@@ -228,16 +203,6 @@ std::string read_file(const std::string& path)
         std::fclose(file);
     }
     return content;
-}
-
-bool parse_hex(std::string text, Bytes& bytes)
-{
-    std::erase_if(text, [](unsigned char c) { return std::isspace(c) != 0; });
-    if (text.size() % 2 != 0 || text.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos)
-        return false;
-    for (std::size_t i = 0; i < text.size(); i += 2)
-        bytes.push_back(static_cast<u8>(std::strtoul(text.substr(i, 2).c_str(), nullptr, 16)));
-    return true;
 }
 
 }   // namespace kesto::tests

@@ -20,8 +20,8 @@ struct MallocWatch {
     bool all_after = false;               // and all that follow
 
     std::uint32_t mallocs = 0;
-    std::uint32_t frees = 0;              // of other than null
-    std::size_t sizes[8] = {};            // what the first ones asked for
+    std::uint32_t frees = 0;     // of other than null
+    std::size_t sizes[8] = {};   // what the first ones asked for
 };
 
 // Not synchronised: for tests of one thread.

@@ -9,16 +9,16 @@
 namespace kesto::tests {
 
 struct SentItem {
-    const std::uint8_t* data;             // the address that was sent; the bytes behind it are gone by now
+    const std::uint8_t* data;   // the address that was sent; the bytes behind it are gone by now
     std::uint32_t id;
     std::vector<std::uint8_t> bytes;
 };
 
 struct SendCall {
-    bool to_destination;                  // MESH_SendToMsg
+    bool to_destination;   // MESH_SendToMsg
     std::uint32_t channel;
-    std::uint32_t destination;            // 0 for MESH_SendMsg
-    const MeshSendItem* items;            // the address of the array
+    std::uint32_t destination;   // 0 for MESH_SendMsg
+    const MeshSendItem* items;   // the address of the array
     std::vector<SentItem> sent;
 };
 
@@ -29,14 +29,14 @@ struct Registered {
 };
 
 struct MeshDouble {
-    bool keeps_sends = true;              // false: counts them and allocates nothing
+    bool keeps_sends = true;   // false: counts them and allocates nothing
     void (*at_send)() = [] {};
     std::uint32_t send_calls = 0;
     std::vector<SendCall> sends;
     std::vector<Registered> registrations;
     std::vector<MeshClean> clean_hooks;
     int send_result = 0;
-    int register_result = 0;              // what the registration of number `register_fails_at` gives
+    int register_result = 0;   // what the registration of number `register_fails_at` gives
     std::uint32_t register_fails_at = 0xFFFFFFFF;
     int clean_result = 0;
 

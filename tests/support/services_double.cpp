@@ -34,7 +34,7 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
     const bool failed = faults.refuses(number, size);
     void* const block = failed ? nullptr : std::malloc(size);
     blocks_.push_back(block);
-    events_.push_back({.act = reference::Act::allocate,
+    events_.push_back({.act = model::Act::allocate,
                        .routine = caller,
                        .size = size,
                        .block = static_cast<std::int32_t>(number),
@@ -46,7 +46,7 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
 void ServicesDouble::release(void* pointer, std::uint32_t module, const char* caller)
 {
     Happened event{
-        .act = reference::Act::release, .routine = caller, .fault = module == OSAL_MEMORY_MODULE ? nullptr : "module"};
+        .act = model::Act::release, .routine = caller, .fault = module == OSAL_MEMORY_MODULE ? nullptr : "module"};
     if (pointer != nullptr) {
         const auto found = std::find(blocks_.begin(), blocks_.end(), pointer);
         if (found == blocks_.end()) {
@@ -63,7 +63,7 @@ void ServicesDouble::release(void* pointer, std::uint32_t module, const char* ca
 void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file,
                          std::uint32_t line, const char* function, const char* format, std::va_list arguments)
 {
-    Happened event{.act = reference::Act::log, .routine = function, .format = format, .code = code, .line = line};
+    Happened event{.act = model::Act::log, .routine = function, .format = format, .code = code, .line = line};
     if (lines != nullptr) {
         std::va_list copy;
         va_copy(copy, arguments);
@@ -89,40 +89,40 @@ void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint3
     events_.push_back(event);
 }
 
-std::string ServicesDouble::difference(std::size_t i, const reference::Event& expected) const
+std::string ServicesDouble::difference(std::size_t i, const model::Event& expected) const
 {
     const Happened& event = events_[i];
     if (event.fault != nullptr)
         return event.fault;
     if (event.act != expected.act)
         return "kind of event";
-    if (event.routine != reference::name_of(expected.routine))
+    if (event.routine != model::name_of(expected.routine))
         return std::string("routine ") + event.routine;
-    if (event.act == reference::Act::log) {
-        if (std::strcmp(event.format, reference::text_of(expected.format)) != 0 ||
-            event.code != reference::code_of(expected.format))
+    if (event.act == model::Act::log) {
+        if (std::strcmp(event.format, model::text_of(expected.format)) != 0 ||
+            event.code != model::code_of(expected.format))
             return "format or code";
         // What stands for a line is the format's number for good: places are told apart by it, from release to release.
         if (event.line != 1 + static_cast<std::uint32_t>(expected.format))
             return "line " + std::to_string(event.line);
-        for (std::uint32_t a = 0; a < reference::argument_count(expected.format); ++a)
+        for (std::uint32_t a = 0; a < model::argument_count(expected.format); ++a)
             if (event.arguments[a] != expected.arguments[a])
                 return "argument " + std::to_string(a) + " is " + std::to_string(event.arguments[a]);
         return {};
     }
-    if (event.act == reference::Act::allocate && (event.size != expected.size || event.failed != expected.failed))
+    if (event.act == model::Act::allocate && (event.size != expected.size || event.failed != expected.failed))
         return "size " + std::to_string(event.size);
     if (event.block != expected.block)
         return "block " + std::to_string(event.block);
     return {};
 }
 
-std::string ServicesDouble::difference(const reference::Trace& expected) const
+std::string ServicesDouble::difference(const model::Trace& expected) const
 {
     for (std::size_t i = 0; i < std::min(events_.size(), expected.size()); ++i) {
         const std::string fault = difference(i, expected[i]);
         if (!fault.empty())
-            return "event " + std::to_string(i) + ": " + fault + ", expected " + reference::to_text(expected[i]);
+            return "event " + std::to_string(i) + ": " + fault + ", expected " + model::to_text(expected[i]);
     }
     if (events_.size() != expected.size())
         return std::to_string(events_.size()) + " events, expected " + std::to_string(expected.size());

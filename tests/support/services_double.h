@@ -8,14 +8,14 @@
 #include <string>
 #include <vector>
 
-#include "reference/decode.h"
+#include "model/decode.h"
 
 namespace kesto::tests {
 
 class ServicesDouble {
 public:
     std::uint32_t use_flag = 1;                  // what RVL_OsalMemUseFlagGet answers
-    reference::AllocationFaults faults;          // which allocations give null
+    model::AllocationFaults faults;              // which allocations give null
     std::vector<std::string>* lines = nullptr;   // when set, gets every log line as a process would print it
 
     // Forgets events and allocations; what is still allocated stays so and is forgotten too.
@@ -25,7 +25,7 @@ public:
     std::uint32_t live_blocks() const;
 
     // How the events since start() differ from what is expected; empty where they do not.
-    std::string difference(const reference::Trace& expected) const;
+    std::string difference(const model::Trace& expected) const;
 
     void* allocate(std::uint32_t size, std::uint32_t module, const char* caller);
     void release(void* pointer, std::uint32_t module, const char* caller);
@@ -34,7 +34,7 @@ public:
 
 private:
     struct Happened {
-        reference::Act act;
+        model::Act act;
         const char* routine;
         const char* format = nullptr;   // of a log
         std::uint32_t code = 0;
@@ -46,7 +46,7 @@ private:
         const char* fault = nullptr;   // what is wrong with the call in itself
     };
 
-    std::string difference(std::size_t i, const reference::Event& expected) const;
+    std::string difference(std::size_t i, const model::Event& expected) const;
 
     std::vector<Happened> events_;
     std::vector<void*> blocks_;   // by number; null when failed or released

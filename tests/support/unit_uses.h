@@ -38,15 +38,19 @@ void send_with(int (*pack)(const Record*, std::uint8_t*, std::uint32_t*))
     pack(&record, nullptr, &length);   // logs
 }
 
-inline const std::vector<std::uint8_t> one_empty_text = {10, 0, 0, 0, 6, 0, 8, 0, 4, 0, 6, 0, 0, 0, 4, 0, 0, 0, 0, 0, 0, 0};
-inline const std::vector<std::uint8_t> one_byte_block = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8, 0, 0, 0,
-                                                  4,  0, 0, 0, 1, 0, 0, 0, 7};
+inline const std::vector<std::uint8_t> one_empty_text = {10, 0, 0, 0, 6, 0, 8, 0, 4, 0, 6,
+                                                         0,  0, 0, 4, 0, 0, 0, 0, 0, 0, 0};
+inline const std::vector<std::uint8_t> one_byte_block = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8,
+                                                         0,  0, 0, 4, 0, 0, 0, 1, 0, 0, 0, 7};
 // A list of one element, whose vtable is the 4 at position 16: no slots.
 inline const std::vector<std::uint8_t> one_element = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8,  0, 0, 0,
-                                               4,  0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 12, 0, 0, 0};
+                                                      4,  0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 12, 0, 0, 0};
 
 inline const Use uses[] = {
-    {[] { receive_with(ifit_dfx_query_glbdata_item_mesh__unpack, ifit_dfx_query_glbdata_item_mesh_free__unpacked, one_empty_text); },
+    {[] {
+         receive_with(ifit_dfx_query_glbdata_item_mesh__unpack, ifit_dfx_query_glbdata_item_mesh_free__unpacked,
+                      one_empty_text);
+     },
      [] { send_with(ifit_dfx_query_stat_rec_mesh__pack); }},
 #ifndef KESTO_WITHOUT_ifit
     {[] { receive_with(ifit_mcp_mesh_update__unpack, ifit_mcp_mesh_update_free__unpacked, one_element); },

@@ -8,7 +8,7 @@
 #include <new>
 #include <nlohmann/json.hpp>
 
-#include "reference/encode.h"
+#include "model/encode.h"
 #include "tools/kesto/commands.h"
 
 namespace {
@@ -42,9 +42,9 @@ namespace kesto::tests {
 namespace {
 
 using command::find_message;
-using reference::append;
-using reference::Bytes;
-using reference::Record;
+using model::append;
+using model::Bytes;
+using model::Record;
 
 constexpr std::size_t packet_length = 64 << 10;
 
@@ -64,23 +64,23 @@ Bytes many_elements(std::size_t step)
 
 Bytes one_text(std::uint8_t octet)
 {
-    Record record = reference::zero_record(*find_message("ifit_dfx_query_glbdata_item_mesh"));
+    Record record = model::zero_record(*find_message("ifit_dfx_query_glbdata_item_mesh"));
     record.fields[0].present = true;
     record.fields[0].octets.assign(1 << 20, octet);
-    return reference::compact_form(record);
+    return model::compact_form(record);
 }
 
 Bytes full_elements()
 {
-    const reference::Message& message = *find_message("ifit_flow_base_mesh_update");
-    Record record = reference::zero_record(message);
+    const model::Message& message = *find_message("ifit_flow_base_mesh_update");
+    Record record = model::zero_record(message);
     record.fields[1].present = true;
     record.fields[1].number = 5000;
-    Record element = reference::zero_record(*message.slots[1].nested);
-    for (reference::Field& field : element.fields)
+    Record element = model::zero_record(*message.slots[1].nested);
+    for (model::Field& field : element.fields)
         field.number = 0xff;
     record.fields[1].records.assign(record.fields[1].number, element);
-    return reference::compact_form(record);
+    return model::compact_form(record);
 }
 
 // The most that is held at a time beyond what was held before; what is printed goes to a file.
@@ -112,7 +112,7 @@ TEST(Memory, of_a_decode_stays_below_what_is_allowed)
     };
     constexpr std::size_t beside = 64 << 10;   // tables and the like, whatever the bytes
     for (const auto& each : cases) {
-        const reference::Message& message = *find_message(each.message);
+        const model::Message& message = *find_message(each.message);
         bool refused = false, accepted = false;
         for (std::size_t most = 1000; !accepted; most = most * 5 / 4) {
             ASSERT_LT(most, 1000000000u);
@@ -131,7 +131,7 @@ TEST(Memory, of_a_decode_stays_below_what_is_allowed)
 
 TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
 {
-    const reference::Message& message = *find_message("ifit_flow_base_mesh_update");
+    const model::Message& message = *find_message("ifit_flow_base_mesh_update");
     command::ExplainChoices as_json;
     as_json.json = true;
     for (const unsigned step : {0u, 1u}) {

@@ -18,7 +18,7 @@ namespace kesto::tests {
 namespace {
 
 using command::bytes_from_hex;
-using reference::append;
+using model::append;
 
 CommandResult kesto(const std::string& arguments, const std::string& before = "")
 {

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "fuzz/inputs.h"
-#include "reference/generate.h"
-#include "reference/strange.h"
+#include "model/generate.h"
+#include "model/noncanonical.h"
 #include "tests/support/every_message.h"
 #include "tests/support/services_double.h"
 #include "tools/kesto/explain.h"
@@ -22,36 +22,36 @@ using command::explain;
 using command::Explanation;
 using command::find_message;
 using command::Part;
-using reference::Density;
-using reference::Random;
-using reference::Record;
+using model::Density;
+using model::Random;
+using model::Record;
 
 constexpr std::uint64_t most_memory = 1 << 24;   // what the library is let take in a test
 
-// The library decodes while its log lines are kept; the reference, held against it, tells how it ended.
+// The library decodes while its log lines are kept; the model, held against it, tells how it ended.
 class Verdicts : public EveryMessageTest {
 protected:
-    void expect_true(const reference::Message& message, const ByteString& bytes)
+    void expect_true(const model::Message& message, const ByteString& bytes)
     {
         const Explanation explanation = explain(*find_message(message.name), bytes);
         if (explanation.memory > most_memory)
             return;
         std::vector<std::string> lines;
         services().lines = &lines;
-        ASSERT_EQ(check_.check(message, bytes), "") << hex(bytes);
+        ASSERT_EQ(check_.check(message, bytes), "") << model::to_hex(bytes);
         services().lines = nullptr;
 
-        const reference::Failure& failure = check_.outcome().failure;
-        ASSERT_EQ(explanation.refused.has_value(), bool(failure)) << hex(bytes);
+        const model::Failure& failure = check_.outcome().failure;
+        ASSERT_EQ(explanation.refused.has_value(), bool(failure)) << model::to_hex(bytes);
         if (explanation.refused) {
-            ASSERT_EQ(to_text(explanation.refused->failure), to_text(failure)) << hex(bytes);
+            ASSERT_EQ(to_text(explanation.refused->failure), to_text(failure)) << model::to_hex(bytes);
         }
         std::vector<std::string> expected;
         for (const auto& each : {explanation.ignored, explanation.refused})
             if (each && each->log)
                 expected.push_back(command::log_line(*each->log));
-        ASSERT_EQ(lines, expected) << hex(bytes);
-        ASSERT_EQ(explanation.allocations, services().allocations()) << hex(bytes);
+        ASSERT_EQ(lines, expected) << model::to_hex(bytes);
+        ASSERT_EQ(explanation.allocations, services().allocations()) << model::to_hex(bytes);
     }
 
     DecodeCheck check_;
@@ -63,7 +63,7 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
     std::string error;
     ASSERT_TRUE(fuzz::read_packed(KESTO_SOURCE_DIR "/tests/fuzz/corpus/decode.inputs", inputs, error)) << error;
     for (const ByteString& input : inputs) {
-        const reference::Message* const message = fuzz::message_of(transcribed(), input.data(), input.size());
+        const model::Message* const message = fuzz::message_of(expected_catalogue(), input.data(), input.size());
         if (message == nullptr || input.size() < fuzz::before_bytes)
             continue;
         ASSERT_NO_FATAL_FAILURE(expect_true(*message, {input.begin() + fuzz::before_bytes, input.end()}));
@@ -71,10 +71,10 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
 }
 
 // Those of the test module kesto does not know.
-std::vector<const reference::Message*> known_messages()
+std::vector<const model::Message*> known_messages()
 {
-    std::vector<const reference::Message*> known = all_messages();
-    std::erase_if(known, [](const reference::Message* message) { return find_message(message->name) == nullptr; });
+    std::vector<const model::Message*> known = all_messages();
+    std::erase_if(known, [](const model::Message* message) { return find_message(message->name) == nullptr; });
     return known;
 }
 
@@ -84,8 +84,8 @@ TEST_P(Verdicts, of_strange_and_of_truncated_layouts_are_the_librarys)
 {
     Random chance(message().id);
     for (int round = 0; round < 12; ++round) {
-        const Record record = reference::random_record(message(), reference::densities[round % 4], chance);
-        ByteString bytes = reference::strange_layout(record, chance);
+        const Record record = model::random_record(message(), model::densities[round % 4], chance);
+        ByteString bytes = model::noncanonical_layout(record, chance);
         ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
         bytes.resize(chance.below(static_cast<std::uint32_t>(bytes.size())));
         ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
@@ -100,24 +100,24 @@ INSTANTIATE_TEST_SUITE_P(All, Ranges, testing::ValuesIn(known_messages()), name_
 TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
 {
     Random chance(message().id);
-    for (const Density density : reference::densities)
+    for (const Density density : model::densities)
         for (const bool fixed_form : {false, true}) {
             if (fixed_form && !fixed())
                 continue;
-            const Record record = reference::random_record(message(), density, chance);
-            const ByteString bytes = fixed_form ? reference::fixed_form(record) : reference::compact_form(record);
+            const Record record = model::random_record(message(), density, chance);
+            const ByteString bytes = fixed_form ? model::fixed_form(record) : model::compact_form(record);
             const Explanation explanation = explain(*find_message(message().name), bytes);
             std::uint32_t end = 0;
             for (const command::Range& range : explanation.ranges) {
-                ASSERT_EQ(range.position, end) << hex(bytes);
-                ASSERT_NE(range.part, Part::unread) << range.position << " in " << hex(bytes);
+                ASSERT_EQ(range.position, end) << model::to_hex(bytes);
+                ASSERT_NE(range.part, Part::unread) << range.position << " in " << model::to_hex(bytes);
                 ASSERT_EQ(range.reads, 1u);
                 end += range.length;
             }
             ASSERT_EQ(end, bytes.size());
             ASSERT_LE(explanation.bytes_read, bytes.size());   // or tries of other messages would end too early
             for (const command::Note& note : explanation.notes)
-                ASSERT_STREQ(note.code, "text_not_utf8") << note.text << " in " << hex(bytes);
+                ASSERT_STREQ(note.code, "text_not_utf8") << note.text << " in " << model::to_hex(bytes);
             // A fixed form can be as long as the compact form, but never be the same.
             ASSERT_EQ(explanation.origin, fixed_form ? command::Origin::fixed : command::Origin::compact);
         }
@@ -197,7 +197,7 @@ TEST(Notes, tell_what_passes_without_a_word)
          {"slots_unknown 38 .f1[0]", "shared_table 40 .f1[0]"}},
     };
     for (const auto& each : cases)
-        EXPECT_EQ(codes_of(explain(*find_message(each.message), each.bytes)), each.codes) << hex(each.bytes);
+        EXPECT_EQ(codes_of(explain(*find_message(each.message), each.bytes)), each.codes) << model::to_hex(each.bytes);
 }
 
 TEST(Texts, cannot_steer_a_terminal)
@@ -220,10 +220,10 @@ TEST(Texts, cannot_steer_a_terminal)
 // X__pack counts 8 bytes for a block of length 0 behind a pointer and does not write them.
 TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
 {
-    Record record = reference::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));
+    Record record = model::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));
     record.fields[2].present = true;
-    ByteString bytes = reference::compact_form(record);
-    bytes.resize(reference::exact_size(record));
+    ByteString bytes = model::compact_form(record);
+    bytes.resize(model::exact_size(record));
     EXPECT_EQ(explain(*record.message, bytes).origin, command::Origin::compact_with_rest);
     bytes = one_text();
     bytes.resize(bytes.size() + 8);

@@ -14,7 +14,7 @@ using command::find_message;
 
 TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
 {
-    const reference::Message& message = *find_message("ifit_dfx_query_glbdata_item_mesh");
+    const model::Message& message = *find_message("ifit_dfx_query_glbdata_item_mesh");
     for (const char* text : {R"({"f0":null})", R"({"f0":""})", R"({"f0":"\"a\"\n\u00e9"})", R"({"f0":{"hex":"ff"}})",
                              R"({"f0":{"hex":"c0af"}})", R"({"f0":{"hex":"eda080"}})", R"({"f0":{"hex":"f4908080"}})",
                              R"({"f0":{"hex":"e282"}})", R"({"f0":{"hex":"610062"}})"}) {

@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "reference/little_endian.h"
+#include "model/little_endian.h"
 
 namespace kesto::tools {
 
@@ -30,7 +30,7 @@ PacketFault fault_of(const pcap_pkthdr& head, const u_char* bytes)
         return PacketFault::cut;
     if (head.caplen < head_length)
         return PacketFault::short_packet;
-    return reference::get32(bytes + 4) == head.caplen - head_length ? PacketFault::none : PacketFault::length_disagrees;
+    return model::get32(bytes + 4) == head.caplen - head_length ? PacketFault::none : PacketFault::length_disagrees;
 }
 
 }   // namespace
@@ -109,7 +109,7 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
         packet.seconds = static_cast<std::uint32_t>(packet.seconds);
     packet.microseconds = static_cast<std::uint32_t>(head->ts.tv_usec);
     packet.fault = fault_of(*head, bytes);
-    packet.id = head->caplen < 4 ? 0 : reference::get32(bytes);
+    packet.id = head->caplen < 4 ? 0 : model::get32(bytes);
     packet.bytes = {};
     if (head->caplen > head_length)
         packet.bytes = {bytes + head_length, head->caplen - head_length};

@@ -10,8 +10,8 @@ namespace kesto::command {
 
 namespace {
 
-using reference::Item;
-using reference::Piece;
+using model::Item;
+using model::Piece;
 
 static_assert(static_cast<int>(Part::element_cell) == static_cast<int>(Piece::element_cell));
 
@@ -28,12 +28,12 @@ bool begins_record(const Item& item)
     return item.piece == Piece::vtable_offset && (depth == 0 || item.path->steps[depth - 1].element >= 0);
 }
 
-// As the reference holds it, with all that stands in it from the start.
+// As the model holds it, with all that stands in it from the start.
 u64 record_size(const Message& message)
 {
     u64 size = sizeof(Record);
     for (const Slot& slot : message.slots) {
-        size += sizeof(reference::Field) + u64{slot.width} * slot.count;
+        size += sizeof(model::Field) + u64{slot.width} * slot.count;
         if (slot.kind == Kind::table)
             size += record_size(*slot.nested);
     }

@@ -13,14 +13,14 @@ namespace kesto::command {
 // Thrown where a byte string asks for more than the options allow.
 struct GivenUp {};
 
-class Collector final : public reference::Walk {
+class Collector final : public model::Walk {
 public:
     Collector(Explanation& explanation, Notes& notes, const ExplainOptions& options)
         : explanation_(explanation), notes_(notes), options_(options)
     {
     }
 
-    void read(const reference::Item& item) override;
+    void read(const model::Item& item) override;
     void finish();
 
 private:
@@ -32,29 +32,29 @@ private:
         bool has_table_length = false;
         u32 end = 0;   // of what belongs to the table itself
         const Message* message = nullptr;
-        reference::Path path;
+        model::Path path;
         u32 reads = 1;
     };
 
-    void count(const reference::Item& item);
-    bool is_inside_known_table(const reference::Item& item);
-    bool enter(const reference::Item& item);
-    void note_item(const reference::Item& item, Table& table);
+    void count(const model::Item& item);
+    bool is_inside_known_table(const model::Item& item);
+    bool enter(const model::Item& item);
+    void note_item(const model::Item& item, Table& table);
     void note_vtable(Table& table);
-    void note_text(const reference::Item& item, Table& table);
+    void note_text(const model::Item& item, Table& table);
     void note_table(const Table& table);
     void add(const Range& range);
-    std::string path_text(const reference::Path& path) const { return command::path_text(*explanation_.message, path); }
+    std::string path_text(const model::Path& path) const { return command::path_text(*explanation_.message, path); }
 
     Explanation& explanation_;
     Notes& notes_;
     const ExplainOptions& options_;
     std::vector<Table> tables_;
-    std::unordered_map<u64, std::size_t> known_;                      // by message and position
-    std::array<std::size_t, reference::greatest_depth + 2> open_{};   // numbers of tables by depth
-    std::array<u32, reference::greatest_depth + 2> positions_{};      // of the same
-    u32 known_depth_ = 0xffffffffU;                                   // of the table that is read again, or is not kept
-    bool is_left_out_ = false;                                        // that table
+    std::unordered_map<u64, std::size_t> known_;                  // by message and position
+    std::array<std::size_t, model::greatest_depth + 2> open_{};   // numbers of tables by depth
+    std::array<u32, model::greatest_depth + 2> positions_{};      // of the same
+    u32 known_depth_ = 0xffffffffU;                               // of the table that is read again, or is not kept
+    bool is_left_out_ = false;                                    // that table
     const Message* sized_ = nullptr;
     u64 size_ = 0;   // of its record
     Range last_;

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
-#include "reference/encode.h"
+#include "model/encode.h"
 #include "tools/kesto/json_record.h"
 #include "tools/kesto/quoting.h"
 
@@ -18,10 +18,10 @@ namespace {
 void warn_of_cut_text(const Record& record)
 {
     for (std::size_t k = 0; k < record.fields.size(); ++k) {
-        const reference::Field& field = record.fields[k];
+        const model::Field& field = record.fields[k];
         const bool is_text = record.message->slots[k].kind == Kind::string;
-        if (is_text && reference::text_length(field.octets) != field.octets.size())
-            complain(fmt::format("{} of {} holds a NUL; text ends there", field_name(*record.message, k),
+        if (is_text && model::text_length(field.octets) != field.octets.size())
+            complain(fmt::format("{} of {} holds a NUL; text ends there", record.message->slots[k].field,
                                  record.message->name));
         std::for_each(field.records.begin(), field.records.end(), warn_of_cut_text);
     }
@@ -74,8 +74,8 @@ std::string given_up_text(u64 most_memory)
 
 Record record_of(const Explanation& accepted)
 {
-    reference::Outcome outcome;
-    reference::decode(*accepted.message, accepted.bytes.data(), static_cast<u32>(accepted.bytes.size()), {}, outcome);
+    model::Outcome outcome;
+    model::decode(*accepted.message, accepted.bytes.data(), static_cast<u32>(accepted.bytes.size()), {}, outcome);
     return outcome.record;
 }
 
@@ -109,7 +109,7 @@ Bytes encoded(const Record& record, Form form)
     if (form == Form::fixed && !has_fixed)
         throw Fault(message.name + " has no fixed form: it holds a string, bytes or a vector");
     const bool fixed = form == Form::fixed || (form == Form::as_sent && has_fixed);
-    return fixed ? reference::fixed_form(record) : reference::compact_form(record);
+    return fixed ? model::fixed_form(record) : model::compact_form(record);
 }
 
 int encode_json(const Message& message, const std::string& text, const std::string& where, const EncodeChoices& choices)

@@ -6,7 +6,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
-#include "reference/encode.h"
+#include "model/encode.h"
 #include "tools/kesto/commands.h"
 #include "tools/kesto/json_record.h"
 #include "tools/kesto/quoting.h"
@@ -39,7 +39,7 @@ std::string fields_that(const Message& message, Belongs belongs)
     std::vector<std::string> names;
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         if (belongs(message.slots[k]))
-            names.push_back(field_name(message, k));
+            names.push_back(message.slots[k].field);
     return fmt::format("{}", fmt::join(names, ", "));
 }
 
@@ -83,8 +83,8 @@ void append_fixed_picture(std::string& out, const Message& message)
         const char* const head = slot.kind == Kind::array ? "a cell, the count and " : "";
         const std::string type = slot.kind == Kind::table ? fmt::format("the fixed form of {}, {} bytes",
                                                                         slot.nested->name, slot.nested->fixed_length)
-                                                          : slot_type(message, k);
-        append_line(out, 4 + message.fixed_offsets[k], fmt::format("{}: {}{}", field_name(message, k), head, type));
+                                                          : slot_text(message.slots[k]);
+        append_line(out, 4 + message.fixed_offsets[k], fmt::format("{}: {}{}", message.slots[k].field, head, type));
     }
     append_line(out, vtable,
                 fmt::format("vtable: length {}, table length {}, {}", message.vtable_length, message.fixed_table_length,
@@ -111,7 +111,7 @@ ordered_json message_json(const Message& message)
 ordered_json layout_json(const Message& message, std::size_t k, u32 pointer_width)
 {
     return {{"offset", message.layout(pointer_width).offsets[k]},
-            {"size", reference::member_size(message.slots[k], pointer_width)}};
+            {"size", model::member_size(message.slots[k], pointer_width)}};
 }
 
 std::string show_json(const Message& message)
@@ -122,8 +122,8 @@ std::string show_json(const Message& message)
                                                      {"alignment", message.layout(width).alignment}};
     json["slots"] = ordered_json::array();
     for (std::size_t k = 0; k < message.slots.size(); ++k)
-        json["slots"].push_back({{"field", field_name(message, k)},
-                                 {"type", slot_type(message, k)},
+        json["slots"].push_back({{"field", message.slots[k].field},
+                                 {"type", slot_text(message.slots[k])},
                                  {"record_32", layout_json(message, k, 4)},
                                  {"record_64", layout_json(message, k, 8)}});
     return json_text(json, 2) + "\n";
@@ -133,15 +133,15 @@ std::string fields_table(const Message& message)
 {
     std::size_t name = 5, type = 4;
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
-        name = std::max(name, field_name(message, k).size());
-        type = std::max(type, slot_type(message, k).size());
+        name = std::max(name, message.slots[k].field.size());
+        type = std::max(type, slot_text(message.slots[k]).size());
     }
     std::string out = fmt::format("slot  {:{}}  {:{}}  at/32  size/32  at/64  size/64\n", "field", name, "type", type);
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         fmt::format_to(std::back_inserter(out), "{:>4}  {:{}}  {:{}}  {:>5}  {:>7}  {:>5}  {:>7}\n", k,
-                       field_name(message, k), name, slot_type(message, k), type, message.narrow.offsets[k],
-                       reference::member_size(message.slots[k], 4), message.wide.offsets[k],
-                       reference::member_size(message.slots[k], 8));
+                       message.slots[k].field, name, slot_text(message.slots[k]), type, message.narrow.offsets[k],
+                       model::member_size(message.slots[k], 4), message.wide.offsets[k],
+                       model::member_size(message.slots[k], 8));
     return out;
 }
 
@@ -181,8 +181,8 @@ int show_message(const Message& message, bool json)
         fmt::format_to(into, "record with {}-bit pointers: {} bytes, aligned to {}\n", 8 * width,
                        message.layout(width).size, message.layout(width).alignment);
     for (std::size_t k = 0; k < message.slots.size(); ++k)
-        if (message.slots[k].outcome_ignored)
-            fmt::format_to(into, "a refusal of {} is ignored, and the read goes on\n", field_name(message, k));
+        if (message.slots[k].lenient)
+            fmt::format_to(into, "a refusal of {} is ignored, and the read goes on\n", message.slots[k].field);
     std::vector<std::string> users;
     for (const Message* user : message.users)
         users.push_back(user->name);
@@ -208,7 +208,7 @@ int show_sizes(const Message& message, bool json)
 int show_sizes(const Record& record, bool json)
 {
     const u32 fixed = record.message->fixed_length;
-    const u64 compact = reference::exact_size(record);
+    const u64 compact = model::exact_size(record);
     if (json) {
         const ordered_json sizes = {{"message", record.message->name},
                                     {"compact", compact},

@@ -20,6 +20,6 @@ nlohmann::ordered_json refused_json(const Explanation& explanation, const Refuse
 std::string explanation_html(const Explanation& explanation);   // a page that needs nothing else
 
 // The library's log line: "level 2 code 22 ifit_mcp_mesh_unpack: ...".
-std::string log_line(const reference::Event& log);
+std::string log_line(const model::Event& log);
 
 }   // namespace kesto::command

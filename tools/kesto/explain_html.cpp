@@ -137,7 +137,7 @@ void append_list(std::string& out, const Explanation& explanation)
 
 void append_refused(std::string& out, const Explanation& explanation, const Refused& refused, const char* word)
 {
-    const reference::Failure& failure = refused.failure;
+    const model::Failure& failure = refused.failure;
     const std::string comparison = comparison_text(failure);
     fmt::format_to(std::back_inserter(out),
                    "<div class=\"verdict {0}\"><p><b>{0}: {1}</b> at <code>{2}</code>, position {3}</p><p>{4}{5}{6}</p>"

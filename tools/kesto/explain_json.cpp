@@ -27,7 +27,7 @@ ordered_json range_json(const Explanation& explanation, const Range& range)
 
 ordered_json refused_json(const Explanation& explanation, const Refused& refused)
 {
-    const reference::Failure& failure = refused.failure;
+    const model::Failure& failure = refused.failure;
     ordered_json json = {
         {"code", name_of(failure.refusal)},
         {"path", path_text(*explanation.message, failure.path)},
@@ -40,7 +40,7 @@ ordered_json refused_json(const Explanation& explanation, const Refused& refused
         {"log", nullptr},
     };
     if (refused.log)
-        json["log"] = {{"level", reference::log_level},
+        json["log"] = {{"level", model::log_level},
                        {"code", code_of(refused.log->format)},
                        {"routine", name_of(refused.log->routine)},
                        {"text", log_text(*refused.log)}};

@@ -81,7 +81,7 @@ void append_range(std::string& out, const Explanation& explanation, const Range&
 }
 
 // Where the position that is refused comes from, if it does not stand there itself.
-std::string origin_of_position(const Explanation& explanation, const reference::Failure& failure)
+std::string origin_of_position(const Explanation& explanation, const model::Failure& failure)
 {
     const auto last = std::ranges::find_if(explanation.ranges, &Range::read_last);
     if (last == explanation.ranges.end() || failure.position - last->position < last->length)
@@ -95,7 +95,7 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
                     const Colours& colours)
 {
     const auto into = std::back_inserter(out);
-    const reference::Failure& failure = refused.failure;
+    const model::Failure& failure = refused.failure;
     const std::string head =
         fmt::format("{}: {} at {}, position {}", ignored ? "ignored" : "refused", name_of(failure.refusal),
                     path_text(*explanation.message, failure.path), failure.position);
@@ -113,9 +113,9 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
 
 }   // namespace
 
-std::string log_line(const reference::Event& log)
+std::string log_line(const model::Event& log)
 {
-    return fmt::format("level {} code {} {}: {}", reference::log_level, code_of(log.format), name_of(log.routine),
+    return fmt::format("level {} code {} {}: {}", model::log_level, code_of(log.format), name_of(log.routine),
                        log_text(log));
 }
 

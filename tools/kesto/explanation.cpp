@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-#include "reference/encode.h"
+#include "model/encode.h"
 #include "tools/kesto/collector.h"
 
 namespace kesto::command {
@@ -66,9 +66,9 @@ void note_packet_head(const Explanation& explanation, Notes& notes)
 {
     const std::span<const u8> bytes = explanation.bytes;
     constexpr u32 head = 8;
-    if (bytes.size() < head || reference::get32(bytes.data() + 4) != bytes.size() - head)
+    if (bytes.size() < head || model::get32(bytes.data() + 4) != bytes.size() - head)
         return;
-    if (const Message* const named = catalogue().find(reference::get32(bytes.data())))
+    if (const Message* const named = catalogue().find(model::get32(bytes.data())))
         notes.add("packet_head", 0, head, ".",
                   fmt::format("the id of {} and the length of what follows: the head of a packet? Then the byte string "
                               "begins at {}",
@@ -133,7 +133,7 @@ private:
 // each table eight besides.
 u64 most_of_written(std::size_t length)
 {
-    static_assert(sizeof(reference::Field) / 2 + sizeof(Record) / 8 <= 64);
+    static_assert(sizeof(model::Field) / 2 + sizeof(Record) / 8 <= 64);
     return u64{64} * length;
 }
 
@@ -146,21 +146,21 @@ bool holds_block(const Message& message)
 
 Origin origin_of(const Message& message, std::span<const u8> bytes)
 {
-    reference::Outcome outcome;
-    reference::decode(message, bytes.data(), static_cast<u32>(bytes.size()), {}, outcome);
+    model::Outcome outcome;
+    model::decode(message, bytes.data(), static_cast<u32>(bytes.size()), {}, outcome);
     if (!is_encodable(outcome.record))
         return Origin::other;
-    const Bytes compact = reference::compact_form(outcome.record);
+    const Bytes compact = model::compact_form(outcome.record);
     if (std::ranges::equal(bytes, compact))
         return Origin::compact;
-    if (message.fixed_length != 0 && std::ranges::equal(bytes, reference::fixed_form(outcome.record)))
+    if (message.fixed_length != 0 && std::ranges::equal(bytes, model::fixed_form(outcome.record)))
         return Origin::fixed;
     const bool begins_alike = bytes.size() > compact.size() && holds_block(message) &&
                               std::equal(compact.begin(), compact.end(), bytes.begin());
     return begins_alike && (bytes.size() - compact.size()) % 8 == 0 ? Origin::compact_with_rest : Origin::other;
 }
 
-std::optional<Refused> refused_with_log(const reference::Failure& failure, const reference::Trace& trace)
+std::optional<Refused> refused_with_log(const model::Failure& failure, const model::Trace& trace)
 {
     if (!failure)
         return {};
@@ -179,15 +179,15 @@ Explanation explain(const Message& message, std::span<const u8> bytes, const Exp
     explanation.bytes = bytes;
     Notes notes;
     Collector collector(explanation, notes, options);
-    reference::DecodeOptions decoding;
+    model::DecodeOptions decoding;
     decoding.pointer_width = options.pointer_width;
     decoding.contents = false;
     decoding.walk = &collector;
-    reference::Outcome outcome;
+    model::Outcome outcome;
     static constexpr u8 nothing = 0;   // an empty byte string is too short, not a null pointer
     try {
-        reference::decode(message, bytes.empty() ? &nothing : bytes.data(), static_cast<u32>(bytes.size()), decoding,
-                          outcome);
+        model::decode(message, bytes.empty() ? &nothing : bytes.data(), static_cast<u32>(bytes.size()), decoding,
+                      outcome);
     } catch (const GivenUp&) {
         explanation.given_up = true;
         return explanation;

@@ -9,7 +9,7 @@
 
 namespace kesto::command {
 
-// The reference's pieces in their order, then what no decoder reads.
+// The model's pieces in their order, then what no decoder reads.
 enum class Part : u8 {
     root,
     table,   // its first word, the distance to the vtable
@@ -34,7 +34,7 @@ struct Range {
     u64 value = 0;
     u32 table = 0;                      // position of the table it belongs to
     const Message* message = nullptr;   // of that table
-    reference::Path path{};
+    model::Path path{};
     u32 reads = 1;            // how often the same bytes are read as the same
     bool read_last = false;   // before the refusal
 };
@@ -49,8 +49,8 @@ struct Note {
 };
 
 struct Refused {
-    reference::Failure failure;
-    std::optional<reference::Event> log;   // the line that the library writes
+    model::Failure failure;
+    std::optional<model::Event> log;   // the line that the library writes
 };
 
 // Which writer leaves just these bytes of the record that they decode to.
@@ -73,14 +73,14 @@ struct Explanation {
     u64 memory = 0;   // what the decoder asks for, in all
     u32 allocations = 0;
     u64 bytes_read = 0;      // those that are read again counted again
-    u64 record_memory = 0;   // what the reference's record takes here; texts and blocks counted four times
+    u64 record_memory = 0;   // what the model's record takes here; texts and blocks counted four times
     bool given_up = false;   // for the limits of the options; there is no verdict then
     Origin origin = Origin::unknown;
     std::vector<std::string> written_for;   // other messages whose writers leave just these bytes, if somebody looked
 };
 
 struct ExplainOptions {
-    u32 pointer_width = reference::host_pointer_width;
+    u32 pointer_width = model::host_pointer_width;
     std::size_t most_ranges = 50000;   // and as many tables
     u64 most_memory = 64 << 20;        // of a record that is compared with what the writers write
     u64 most_read = unlimited;         // bytes, those that are read again counted again
@@ -98,8 +98,8 @@ std::string path_text(const Explanation& explanation, const Range& range);
 std::string kind_text(const Range& range);
 std::string value_text(const Explanation& explanation, const Range& range);
 
-std::string rule_text(const reference::Failure& failure);         // what the check demands
-std::string comparison_text(const reference::Failure& failure);   // the numbers, empty if there are none
+std::string rule_text(const model::Failure& failure);         // what the check demands
+std::string comparison_text(const model::Failure& failure);   // the numbers, empty if there are none
 std::string origin_text(Origin origin);
 std::string place_text(const Note& note);   // " at 18, .f0", or empty
 

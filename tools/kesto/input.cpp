@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::size_t most_bytes = 256 << 20;
 constexpr std::string_view separators = " \t\r\n,;:(){}[]";
-constexpr std::string_view word_ends = " \t\r\n,;:(){}[]\\";
 
 struct Close {
     void operator()(std::FILE* file) const { std::fclose(file); }
@@ -33,40 +32,15 @@ bool looks_like_hex(std::string_view text)
     return std::all_of(text.begin(), text.end(), plain) && std::count_if(text.begin(), text.end(), is_hex_digit) >= 8;
 }
 
-void append_word(Bytes& bytes, std::string_view word)
-{
-    const std::string_view whole = word;
-    const bool marked = word.starts_with("0x") || word.starts_with("0X") || word.starts_with("\\x");
-    if (marked)
-        word.remove_prefix(2);
-    const std::string digits = (marked && word.size() == 1 ? "0" : "") + std::string(word);
-    if (digits.empty() || digits.size() % 2 != 0 || !std::all_of(digits.begin(), digits.end(), is_hex_digit))
-        throw Fault(fmt::format("'{}' is no hex text: pairs of digits are needed, as in 04 00 or 0x04, 0x00",
-                                whole.substr(0, 40)));
-    for (std::size_t i = 0; i < digits.size(); i += 2)
-        bytes.push_back(static_cast<u8>(std::stoul(digits.substr(i, 2), nullptr, 16)));
-}
-
 }   // namespace
 
 Bytes bytes_from_hex(std::string_view text)
 {
     Bytes bytes;
-    for (;;) {
-        const std::size_t start = text.find_first_not_of(separators);
-        if (start == std::string_view::npos)
-            return bytes;
-        text.remove_prefix(start);
-        // "\x04\x00" is two words. Nothing after a word's end may be looked at for it: there may be millions of words.
-        const std::size_t end = std::min(text.find_first_of(word_ends, 1), text.size());
-        append_word(bytes, text.substr(0, end));
-        text.remove_prefix(end);
-    }
-}
-
-std::string to_hex(const u8* bytes, std::size_t count, const char* between)
-{
-    return fmt::format("{:02x}", fmt::join(bytes, bytes + count, between));
+    std::string error;
+    if (!model::from_hex(text, bytes, error))
+        throw Fault(error);
+    return bytes;
 }
 
 std::string read_text(const std::string& path)

@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "model/hex.h"
 #include "tools/kesto/messages.h"
 
 namespace kesto::command {
@@ -18,7 +19,7 @@ enum class InputFormat { automatic, bytes, hex };
 
 // Hex digits in pairs, with blanks, commas, braces, colons, 0x and \x between them; "0x4" is a byte of its own.
 Bytes bytes_from_hex(std::string_view text);
-std::string to_hex(const u8* bytes, std::size_t count, const char* between = "");
+using model::to_hex;
 
 // `path` is a file, or "-" for standard input. Automatic takes text of hex digits for hex: no byte string begins like
 // that, as its root would lead hundreds of megabytes on.

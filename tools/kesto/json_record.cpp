@@ -15,10 +15,10 @@ namespace kesto::command {
 
 namespace {
 
+using model::Field;
 using nlohmann::ordered_json;
-using reference::Field;
 
-constexpr int most_depth = 2 * reference::greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
+constexpr int most_depth = 2 * model::greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
 
 // ---- to JSON ----
 
@@ -28,7 +28,7 @@ ordered_json text_json(const Field& field)
         return nullptr;
     const u8* const text = field.octets.data();
     const std::size_t length = field.octets.size();
-    if (is_utf8(text, length) && reference::text_length(field.octets) == length)
+    if (is_utf8(text, length) && model::text_length(field.octets) == length)
         return std::string(field.octets.begin(), field.octets.end());
     return {{"hex", to_hex(text, length)}};
 }
@@ -163,7 +163,7 @@ void read_record(const ordered_json& json, Record& record, const std::string& pa
         refuse(path, fmt::format("an object with the fields of {} is needed", message.name));
     for (const auto& [name, value] : json.items()) {
         std::size_t k = 0;
-        while (k < message.slots.size() && field_name(message, k) != name)
+        while (k < message.slots.size() && message.slots[k].field != name)
             ++k;
         if (k == message.slots.size())
             refuse(path + "." + name,
@@ -178,7 +178,7 @@ ordered_json record_json(const Record& record)
 {
     ordered_json json = ordered_json::object();
     for (std::size_t k = 0; k < record.fields.size(); ++k)
-        json[field_name(*record.message, k)] = field_json(record.message->slots[k], record.fields[k]);
+        json[record.message->slots[k].field] = field_json(record.message->slots[k], record.fields[k]);
     return json;
 }
 

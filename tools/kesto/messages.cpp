@@ -5,46 +5,10 @@
 #include <algorithm>
 #include <charconv>
 #include <numeric>
-#include <stdexcept>
 
 namespace kesto::command {
 
 namespace {
-
-std::string slot_word(const tools::SlotInfo& slot)
-{
-    if (slot.nested == nullptr)
-        return tools::slot_text(slot);
-    const char* const head = slot.kind == tools::SlotKind::vector ? "vector"
-                             : slot.fault_ends_read               ? "table"
-                                                                  : "table?";
-    return fmt::format("{}:{}", head, slot.nested->name);
-}
-
-// The text form of a catalogue, which tests/data/messages.txt explains.
-std::string catalogue_text()
-{
-    std::string text;
-    for (const tools::ModuleInfo& module : tools::modules()) {
-        text += fmt::format("module {}\n", module.name);
-        for (const tools::MessageInfo* message : module.messages) {
-            text += fmt::format("{} {:#010x} ", message->name, message->id);
-            text += message->has_heap_parts ? "compact :" : fmt::format("fixed {} :", message->fixed_length);
-            for (const tools::SlotInfo& slot : message->slots)
-                text += " " + slot_word(slot);
-            text += "\n";
-        }
-    }
-    return text;
-}
-
-std::vector<const tools::MessageInfo*> infos_in_order()
-{
-    std::vector<const tools::MessageInfo*> all;
-    for (const tools::ModuleInfo& module : tools::modules())
-        all.insert(all.end(), module.messages.begin(), module.messages.end());
-    return all;
-}
 
 // Letters to insert, delete or replace that make `left` the beginning of `right`.
 std::size_t distance_to_beginning(std::string_view left, std::string_view right)
@@ -64,45 +28,6 @@ std::size_t distance_to_beginning(std::string_view left, std::string_view right)
 }
 
 }   // namespace
-
-const reference::Catalogue& catalogue()
-{
-    static const reference::Catalogue built = [] {
-        reference::Catalogue empty;
-        std::string error;
-        if (!empty.add(catalogue_text(), error))
-            throw std::logic_error("the catalogue, " + error);
-        return empty;
-    }();
-    return built;
-}
-
-const tools::MessageInfo& info_of(const Message& message)
-{
-    static const std::vector<const tools::MessageInfo*> by_number = infos_in_order();
-    return *by_number[message.index];
-}
-
-const std::string& field_name(const Message& message, std::size_t slot) { return info_of(message).slots[slot].field; }
-
-std::string slot_type(const Message& message, std::size_t slot)
-{
-    return tools::slot_text(info_of(message).slots[slot]);
-}
-
-std::string path_text(const Message& root, const reference::Path& path)
-{
-    std::string text;
-    const Message* message = &root;
-    for (u32 i = 0; i < path.length; ++i) {
-        const reference::Path::Step& step = path.steps[i];
-        text += "." + field_name(*message, step.slot);
-        if (step.element >= 0)
-            text += fmt::format("[{}]", step.element);
-        message = message->slots[step.slot].nested;
-    }
-    return text.empty() ? "." : text;
-}
 
 const Message* find_message(std::string_view name_or_id)
 {

@@ -38,7 +38,7 @@ public:
 
 private:
     bool fits(u64 at, u64 count) const { return at + count <= bytes_.size(); }
-    u32 number(u32 at, u32 width) const { return static_cast<u32>(reference::get(bytes_.data() + at, width)); }
+    u32 number(u32 at, u32 width) const { return static_cast<u32>(model::get(bytes_.data() + at, width)); }
     bool open(u32 position, Table& table) const;
     bool is_written_alike(const Table& table) const;
     bool may_be_table(u64 position) const;
@@ -164,7 +164,7 @@ void Guesser::show_slot(const Table& table, std::size_t slot, u32 room, u32 dept
         return line(depth, position, fmt::format("slot {}: behind the end", slot));
     std::string text = fmt::format("slot {}: u{} {}", slot, 8 * width, number(position, width));
     if (room == 8 && fits(position, 8))
-        text += fmt::format(", u64 {}", reference::get(bytes_.data() + position, 8));
+        text += fmt::format(", u64 {}", model::get(bytes_.data() + position, 8));
     const u64 target = width < 4 ? 0 : u64{position} + number(position, 4);
     const bool leads = target >= position + u64{4} && may_be_target(target);
     line(depth, position, leads ? text + fmt::format("; or a cell to {}", target) : text);

@@ -7,8 +7,8 @@ namespace kesto::command {
 
 namespace {
 
-using reference::Failure;
-using reference::Refusal;
+using model::Failure;
+using model::Refusal;
 
 struct Rule {
     const char* demand;
@@ -96,7 +96,7 @@ std::string payload_text(const Explanation& explanation, const Range& range)
     for (u32 i = 0; i < range.length; i += 4) {
         if (text.size() > most_in_a_value)
             return text + ", ...";
-        text += fmt::format("{}{}", i == 0 ? "" : ", ", reference::get32(bytes + i));
+        text += fmt::format("{}{}", i == 0 ? "" : ", ", model::get32(bytes + i));
     }
     return text;
 }
@@ -122,7 +122,7 @@ std::string kind_text(const Range& range)
     case Part::table_length: return "table length";
     case Part::slot: return "slot";
     case Part::scalar:
-    case Part::payload: return slot_type(*range.message, slot_number(range));
+    case Part::payload: return slot_text(range.message->slots[slot_number(range)]);
     case Part::cell:
     case Part::element_cell: return "cell";
     case Part::count: {

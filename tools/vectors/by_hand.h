@@ -8,11 +8,11 @@
 
 namespace kesto::vectors {
 
-using reference::Bytes;
+using model::Bytes;
 
 struct Sample {
     std::string about;
-    const reference::Message* message = nullptr;
+    const model::Message* message = nullptr;
     Bytes bytes;
 };
 

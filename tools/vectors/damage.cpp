@@ -13,8 +13,8 @@ namespace {
 
 using command::Part;
 using command::Range;
-using reference::u32;
-using reference::u64;
+using model::u32;
+using model::u64;
 
 // Positions about the end and the start, where a reader may go wrong by a few bytes.
 std::vector<u64> targets(u32 length)
@@ -66,8 +66,8 @@ std::vector<u64> values_of(const Range& range, u32 length)
 
 std::string verdict_of(const Sample& sample)
 {
-    reference::Outcome outcome;
-    reference::decode(*sample.message, sample.bytes.data(), reference::position_of_end(sample.bytes), {}, outcome);
+    model::Outcome outcome;
+    model::decode(*sample.message, sample.bytes.data(), model::position_of_end(sample.bytes), {}, outcome);
     return fmt::format("{} {} {}", name_of(outcome.failure.refusal), to_text(outcome.failure.path),
                        name_of(outcome.ignored.refusal));
 }
@@ -102,7 +102,7 @@ private:
 std::vector<Sample> damaged(const Sample& whole)
 {
     Collection collection(whole.bytes);
-    const u32 length = reference::position_of_end(whole.bytes);
+    const u32 length = model::position_of_end(whole.bytes);
     const command::Explanation explanation = command::explain(*whole.message, whole.bytes);
     for (const Range& range : explanation.ranges) {
         std::vector<Sample> neighbours;
@@ -110,7 +110,7 @@ std::vector<Sample> damaged(const Sample& whole)
             fmt::format("{} of {} at {}", kind_text(range), path_text(explanation, range), range.position);
         for (const u64 value : values_of(range, length)) {
             Sample sample = whole;
-            reference::put(&sample.bytes[range.position], value, range.length);
+            model::put(&sample.bytes[range.position], value, range.length);
             sample.about += fmt::format(", {}: {:#x} instead of {:#x}", place, value, range.value);
             neighbours.push_back(std::move(sample));
         }

@@ -1,5 +1,5 @@
 // Prints byte strings with what a decoder has to make of them, for those who write a codec of their own. What they say
-// comes from the reference. vectors/README.md explains the files.
+// comes from the model. vectors/README.md explains the files.
 //
 //   print_vectors FOLDER
 
@@ -8,8 +8,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
-#include "reference/encode.h"
-#include "reference/strange.h"
+#include "model/encode.h"
+#include "model/noncanonical.h"
 #include "tools/kesto/explain.h"
 #include "tools/kesto/json_record.h"
 #include "tools/print_files.h"
@@ -20,19 +20,19 @@ namespace kesto::vectors {
 namespace {
 
 using command::Fault;
+using model::Density;
+using model::Message;
+using model::Random;
+using model::Record;
+using model::u32;
+using model::u8;
 using nlohmann::ordered_json;
-using reference::Density;
-using reference::Message;
-using reference::Random;
-using reference::Record;
-using reference::u32;
-using reference::u8;
 
 constexpr std::size_t most_written = 4000;   // bytes of a record, so that the files stay small
 constexpr std::size_t most_strange = 700;
 constexpr int most_draws = 1000;   // then a message that is never so short is taken as it comes
 
-std::string hex(const Bytes& bytes) { return command::to_hex(bytes.data(), bytes.size()); }
+using model::to_hex;
 
 ordered_json line_of(const Message& message)
 {
@@ -45,7 +45,7 @@ ordered_json line_of(const Message& message)
 void make_readable(Record& record)
 {
     for (std::size_t k = 0; k < record.fields.size(); ++k) {
-        if (record.message->slots[k].kind == reference::Kind::string)
+        if (record.message->slots[k].kind == model::Kind::string)
             for (u8& octet : record.fields[k].octets)
                 octet = static_cast<u8>(' ' + octet % 95);
         for (Record& nested : record.fields[k].records)
@@ -57,9 +57,9 @@ void make_readable(Record& record)
 Record drawn_record(const Message& message, Density density, Random& random, std::size_t most)
 {
     for (int draw = 0;; ++draw) {
-        Record record = reference::as_decoded(reference::random_record(message, density, random));
-        const bool says_little = density != Density::zero && reference::is_default(record);
-        if ((says_little || reference::exact_size(record) > most) && draw < most_draws)
+        Record record = model::as_decoded(model::random_record(message, density, random));
+        const bool says_little = density != Density::zero && model::is_default(record);
+        if ((says_little || model::exact_size(record) > most) && draw < most_draws)
             continue;
         if (density == Density::full)
             make_readable(record);
@@ -67,24 +67,24 @@ Record drawn_record(const Message& message, Density density, Random& random, std
     }
 }
 
-std::vector<ordered_json> record_lines(const tools::ModuleInfo& module)
+std::vector<ordered_json> record_lines(const model::Module& module)
 {
     const struct {
         const char* name;
         Density density;
     } cases[] = {{"empty", Density::zero}, {"full", Density::full}, {"boundary", Density::edge}};
     std::vector<ordered_json> lines;
-    for (const tools::MessageInfo* info : module.messages) {
-        const Message& message = *command::find_message(info->name);
+    for (const Message* each_message : module.messages) {
+        const Message& message = *each_message;
         Random random(message.id);
         for (const auto& each : cases) {
             const Record record = drawn_record(message, each.density, random, most_written);
             ordered_json line = line_of(message);
             line["case"] = each.name;
-            line["compact"] = hex(reference::compact_form(record));
+            line["compact"] = to_hex(model::compact_form(record));
             line["fixed"] = nullptr;
             if (message.fixed_length != 0)
-                line["fixed"] = hex(reference::fixed_form(record));
+                line["fixed"] = to_hex(model::fixed_form(record));
             line["record"] = command::record_json(record);
             lines.push_back(std::move(line));
         }
@@ -92,9 +92,9 @@ std::vector<ordered_json> record_lines(const tools::ModuleInfo& module)
     return lines;
 }
 
-// ---- hostile and strange byte strings ----
+// ---- hostile and noncanonical byte strings ----
 
-ordered_json refusal_json(const Message& root, const reference::Failure& failure)
+ordered_json refusal_json(const Message& root, const model::Failure& failure)
 {
     if (!failure)
         return nullptr;
@@ -107,18 +107,17 @@ ordered_json hostile_line(const Sample& sample)
 {
     static constexpr u8 nothing = 0;   // no bytes are not a null pointer
     const Bytes& bytes = sample.bytes;
-    reference::Outcome outcome;
-    reference::decode(*sample.message, bytes.empty() ? &nothing : bytes.data(), reference::position_of_end(bytes), {},
-                      outcome);
+    model::Outcome outcome;
+    model::decode(*sample.message, bytes.empty() ? &nothing : bytes.data(), model::position_of_end(bytes), {}, outcome);
 
     ordered_json line = line_of(*sample.message);
     line["about"] = sample.about;
-    line["hex"] = hex(bytes);
+    line["hex"] = to_hex(bytes);
     line["refused"] = refusal_json(*sample.message, outcome.failure);
     line["ignored"] = refusal_json(*sample.message, outcome.ignored);
     line["log"] = ordered_json::array();
-    for (const reference::Event& event : outcome.trace)
-        if (event.act == reference::Act::log)
+    for (const model::Event& event : outcome.trace)
+        if (event.act == model::Act::log)
             line["log"].push_back(command::log_line(event));
     line["record"] = nullptr;
     if (!outcome.untouched)
@@ -144,14 +143,14 @@ void add_damaged(std::vector<ordered_json>& lines)
          {"ifit_mcp_mesh_delete", "ifit_smooth_end_mesh", "ifit_dfx_query_comm_rec_mesh",
           "ifit_dfx_query_glbdata_rec_mesh", "ifit_dfx_query_stat_rec_mesh", "ifit_flow_tuplev6_mesh",
           "ifit_sync_flow_tuplev6_mesh_update", "ntvifit_flow_tuples", "ntvifit_stats_info_list"}) {
-        const Message& message = *command::find_message(name);
+        const Message& message = *model::catalogue().find(name);
         Random random(message.id);
         const Record record = drawn_record(message, Density::full, random, most_strange);
         for (const bool fixed : {false, true}) {
             if (fixed && message.fixed_length == 0)
                 continue;
             const Sample whole = {fixed ? "fixed form" : "compact form", &message,
-                                  fixed ? reference::fixed_form(record) : reference::compact_form(record)};
+                                  fixed ? model::fixed_form(record) : model::compact_form(record)};
             for (const Sample& sample : damaged(whole))
                 lines.push_back(hostile_line(sample));
         }
@@ -161,16 +160,16 @@ void add_damaged(std::vector<ordered_json>& lines)
 void add_strange(std::vector<ordered_json>& lines)
 {
     constexpr Density densities[] = {Density::full, Density::sparse, Density::edge};
-    for (const Message& message : command::catalogue().messages) {
+    for (const Message& message : model::catalogue().messages) {
         Random random(message.id);
         const Record record = drawn_record(message, densities[message.id % 3], random, most_strange);
         Sample sample = {"strange layout", &message, {}};
         for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
-            sample.bytes = reference::strange_layout(record, random);
+            sample.bytes = model::noncanonical_layout(record, random);
         lines.push_back(hostile_line(sample));
         const ordered_json& line = lines.back();
         if (!line["refused"].is_null() || line["record"] != command::record_json(record))
-            throw Fault(message.name + ": a strange layout is not what it was made from");
+            throw Fault(message.name + ": a noncanonical layout is not what it was made from");
     }
 }
 
@@ -219,7 +218,7 @@ public:
     void write_manifest() const
     {
         const std::string text =
-            ordered_json{{"messages", command::catalogue().messages.size()}, {"files", files_}}.dump(2) + "\n";
+            ordered_json{{"messages", model::catalogue().messages.size()}, {"files", files_}}.dump(2) + "\n";
         write_file(path_ + "/manifest.json", text);
     }
 
@@ -231,7 +230,7 @@ private:
 void print(const std::string& path)
 {
     Folder folder(path);
-    for (const tools::ModuleInfo& module : tools::modules())
+    for (const model::Module& module : model::catalogue().modules)
         folder.write(module.name + ".jsonl", record_lines(module));
     folder.write("hostile.jsonl", hostile_lines());
     folder.write_manifest();
