@@ -9,23 +9,23 @@
 struct block;
 typedef uint64_t Id;
 
-void qemu_plugin_register_vcpu_tb_trans_cb(Id id, void (*callback)(Id id, struct block *block));
+void qemu_plugin_register_vcpu_tb_trans_cb(Id id, void (*callback)(Id id, struct block* block));
 void qemu_plugin_register_vcpu_syscall_cb(Id id, void (*callback)(Id id, unsigned cpu, int64_t number, uint64_t a1,
                                                                   uint64_t a2, uint64_t a3, uint64_t a4, uint64_t a5,
                                                                   uint64_t a6, uint64_t a7, uint64_t a8));
-size_t qemu_plugin_tb_n_insns(const struct block *block);
-void qemu_plugin_register_vcpu_tb_exec_inline(struct block *block, int operation, void *to, uint64_t value);
-void qemu_plugin_outs(const char *text);
+size_t qemu_plugin_tb_n_insns(const struct block* block);
+void qemu_plugin_register_vcpu_tb_exec_inline(struct block* block, int operation, void* to, uint64_t value);
+void qemu_plugin_outs(const char* text);
 
 EXPORTED int qemu_plugin_version = 1;
-EXPORTED int qemu_plugin_install(Id id, const void *info, int argc, char **argv);
+EXPORTED int qemu_plugin_install(Id id, const void* info, int argc, char** argv);
 
 enum { add = 0, system_write = 4 };
 
 static uint64_t instructions;
 static int counting;
 
-static void translated(Id id, struct block *block)
+static void translated(Id id, struct block* block)
 {
     (void)id;
     qemu_plugin_register_vcpu_tb_exec_inline(block, add, &instructions, qemu_plugin_tb_n_insns(block));
@@ -47,7 +47,7 @@ static void called(Id id, unsigned cpu, int64_t number, uint64_t a1, uint64_t a2
     instructions = 0;
 }
 
-int qemu_plugin_install(Id id, const void *info, int argc, char **argv)
+int qemu_plugin_install(Id id, const void* info, int argc, char** argv)
 {
     (void)info, (void)argc, (void)argv;
     qemu_plugin_register_vcpu_tb_trans_cb(id, translated);

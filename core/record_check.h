@@ -22,13 +22,14 @@ struct FieldOffset {
         static constexpr u32 value = static_cast<u32>(offsetof(Record, field)); \
     };
 
-#define KESTO_TEN_FIELD_NAMES(tens)                                                                                   \
-    KESTO_FIELD_NAME(tens##0, f##tens##0)                                                                             \
-    KESTO_FIELD_NAME(tens##1, f##tens##1)                                                                             \
-    KESTO_FIELD_NAME(tens##2, f##tens##2) KESTO_FIELD_NAME(tens##3, f##tens##3) KESTO_FIELD_NAME(tens##4, f##tens##4) \
-        KESTO_FIELD_NAME(tens##5, f##tens##5) KESTO_FIELD_NAME(tens##6, f##tens##6)                                   \
-            KESTO_FIELD_NAME(tens##7, f##tens##7) KESTO_FIELD_NAME(tens##8, f##tens##8)                               \
-                KESTO_FIELD_NAME(tens##9, f##tens##9)
+// clang-format off
+#define KESTO_TEN_FIELD_NAMES(tens) \
+    KESTO_FIELD_NAME(tens##0, f##tens##0) KESTO_FIELD_NAME(tens##1, f##tens##1) \
+    KESTO_FIELD_NAME(tens##2, f##tens##2) KESTO_FIELD_NAME(tens##3, f##tens##3) \
+    KESTO_FIELD_NAME(tens##4, f##tens##4) KESTO_FIELD_NAME(tens##5, f##tens##5) \
+    KESTO_FIELD_NAME(tens##6, f##tens##6) KESTO_FIELD_NAME(tens##7, f##tens##7) \
+    KESTO_FIELD_NAME(tens##8, f##tens##8) KESTO_FIELD_NAME(tens##9, f##tens##9)
+// clang-format on
 
 KESTO_FIELD_NAME(0, f0)
 KESTO_FIELD_NAME(1, f1)

@@ -16,9 +16,9 @@ extern "C" {
 
 /* Each returns 0 after filling or copying `count` bytes, and another value, doing no more than clearing the
  * destination, when `count` exceeds `limit`. The codecs never look at the result. */
-int memset_s(void *destination, size_t limit, int value, size_t count);
-int memcpy_s(void *destination, size_t limit, const void *source, size_t count);
-int memcpy_sOptAsm(void *destination, size_t limit, const void *source, size_t count);
+int memset_s(void* destination, size_t limit, int value, size_t count);
+int memcpy_s(void* destination, size_t limit, const void* source, size_t count);
+int memcpy_sOptAsm(void* destination, size_t limit, const void* source, size_t count);
 
 #ifdef __cplusplus
 }

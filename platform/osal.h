@@ -13,8 +13,8 @@ extern "C" {
 
 /* The first argument of every log call. */
 typedef struct OsalLogDescriptor {
-    const char *tag;
-    const char *sub_tag;
+    const char* tag;
+    const char* sub_tag;
     uint32_t value; /* passed along, never interpreted here */
     uint32_t spare;
 } OsalLogDescriptor;
@@ -28,14 +28,14 @@ enum {
 uint32_t RVL_OsalMemUseFlagGet(uint32_t module);
 
 /* Null when there is no memory. `caller` is the name of the asking routine, a text that lives as long as the library. */
-void *RVL_OsalMemCacheAlloc(uint32_t size, uint32_t module, const char *caller);
+void* RVL_OsalMemCacheAlloc(uint32_t size, uint32_t module, const char* caller);
 
 /* Must accept a null pointer. */
-void RVL_OsalMemFree(void *pointer, uint32_t module, const char *caller);
+void RVL_OsalMemFree(void* pointer, uint32_t module, const char* caller);
 
 /* Writes one log record: printf-style `format` and its arguments. The result is not looked at. */
-uint32_t RVL_OsalLogWrite(const OsalLogDescriptor *descriptor, uint32_t level, uint32_t code, const char *file,
-                          uint32_t line, const char *function, const char *format, ...)
+uint32_t RVL_OsalLogWrite(const OsalLogDescriptor* descriptor, uint32_t level, uint32_t code, const char* file,
+                          uint32_t line, const char* function, const char* format, ...)
     __attribute__((format(printf, 7, 8)));
 
 #ifdef __cplusplus

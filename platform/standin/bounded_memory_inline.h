@@ -13,7 +13,7 @@
 #define KESTO_BOUNDED_MEMORY_LINKAGE static inline
 #endif
 
-KESTO_BOUNDED_MEMORY_LINKAGE int memset_s(void *destination, size_t limit, int value, size_t count)
+KESTO_BOUNDED_MEMORY_LINKAGE int memset_s(void* destination, size_t limit, int value, size_t count)
 {
     if (count > limit)
         return ERANGE;
@@ -21,7 +21,7 @@ KESTO_BOUNDED_MEMORY_LINKAGE int memset_s(void *destination, size_t limit, int v
     return 0;
 }
 
-KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_s(void *destination, size_t limit, const void *source, size_t count)
+KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_s(void* destination, size_t limit, const void* source, size_t count)
 {
     if (count > limit)
         return ERANGE;
@@ -30,7 +30,7 @@ KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_s(void *destination, size_t limit, const
 }
 
 /* The closed library's copy for small counts known at compile time; plain memcpy is exactly that here. */
-KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_sOptAsm(void *destination, size_t limit, const void *source, size_t count)
+KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_sOptAsm(void* destination, size_t limit, const void* source, size_t count)
 {
     return memcpy_s(destination, limit, source, count);
 }

@@ -67,22 +67,22 @@ enum {
 };
 
 /* The result as an English text; never null. */
-const char *mesh_standin_text(int result);
+const char* mesh_standin_text(int result);
 
 /* Called for every delivered item. `record` and `bytes` end with the call. */
-typedef void (*MeshStandinConsumer)(void *context, uint32_t channel, uint32_t id, const void *record,
-                                    uint32_t record_size, const uint8_t *bytes, uint32_t length);
+typedef void (*MeshStandinConsumer)(void* context, uint32_t channel, uint32_t id, const void* record,
+                                    uint32_t record_size, const uint8_t* bytes, uint32_t length);
 
 /* The consumer of one channel, or with MESH_STANDIN_EVERY_CHANNEL of those that have none of their own. Null takes it
  * away. Without any, items are decoded and freed all the same. */
-int mesh_standin_set_consumer(uint32_t channel, MeshStandinConsumer consumer, void *context);
+int mesh_standin_set_consumer(uint32_t channel, MeshStandinConsumer consumer, void* context);
 
 /* Binds the channel to a socket at `path`, which must not exist yet, and returns at once. The first process that connects
  * becomes the peer; the path is removed then, or by mesh_standin_close. */
-int mesh_standin_listen(uint32_t channel, const char *path);
+int mesh_standin_listen(uint32_t channel, const char* path);
 
 /* Binds the channel to the socket that another process listens on, waiting up to `timeout_ms` for it to appear. */
-int mesh_standin_connect(uint32_t channel, const char *path, uint32_t timeout_ms);
+int mesh_standin_connect(uint32_t channel, const char* path, uint32_t timeout_ms);
 
 /* Waits up to `timeout_ms` for one packet on a bound channel (for the peer, too, if it is still to come) and delivers
  * it. A packet that cannot be delivered is dropped; the channel goes on. */
@@ -104,7 +104,7 @@ void mesh_standin_check_initialised(int on);
 
 /* Captures to the file at `path` from now on, instead of to another one; null ends the capture. MESH_STANDIN_BAD_PATH, with
  * errno, when that file cannot be written: there is no capture then. */
-int mesh_standin_capture(const char *path);
+int mesh_standin_capture(const char* path);
 
 typedef struct MeshStandinCounters {
     uint64_t sent;        /* items that left on a socket or were tried on a loopback */
@@ -115,7 +115,7 @@ typedef struct MeshStandinCounters {
     uint32_t waiting;     /* calls that now wait for a peer or a packet on a socket; a close from here on wakes them */
 } MeshStandinCounters;
 
-void mesh_standin_counters(MeshStandinCounters *counters);
+void mesh_standin_counters(MeshStandinCounters* counters);
 
 /* Forgets hooks, consumers and counters and closes all channels; a capture goes on. For tests: no other thread may be in a
  * call. */

@@ -45,14 +45,14 @@ typedef struct OsalStandinCounters {
     uint64_t log_records;
 } OsalStandinCounters;
 
-void osal_standin_counters(OsalStandinCounters *counters);
+void osal_standin_counters(OsalStandinCounters* counters);
 
 /* The plan in force, to be changed and set again. */
-void osal_standin_plan(OsalStandinPlan *plan);
+void osal_standin_plan(OsalStandinPlan* plan);
 
 /* Puts a plan in force and starts counting from zero: allocations for fail_at and fail_from, and every counter except the
  * live ones, from which the peaks start. */
-void osal_standin_set_plan(const OsalStandinPlan *plan);
+void osal_standin_set_plan(const OsalStandinPlan* plan);
 
 /* Sets the plan that the environment asks for now. */
 void osal_standin_read_environment(void);
