@@ -34,7 +34,7 @@ struct Moves {
     }
 };
 
-// Both give the place behind what was written, or read.
+// Both give the place after what was written, or read.
 template <class Copy>
 [[gnu::always_inline]] inline u8* put(u8* to, const void* from, std::size_t bytes)
 {

@@ -17,7 +17,7 @@ namespace {
 
 using Messages = std::vector<const Message*>;
 
-// A message behind those it nests, each once.
+// A message after those it nests, each once.
 void add(const Message& message, Messages& all)
 {
     for (const Slot& slot : message.slots)

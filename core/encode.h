@@ -209,7 +209,7 @@ struct SlotWords {
         words[K / in_word].template set<K % in_word>(offset);
     }
 
-    // Slot K will not change any more. Behind the last slots the head of the table may be written over, which comes
+    // Slot K will not change any more. After the last slots the head of the table may be written over, which comes
     // later.
     template <u32 K>
     [[gnu::always_inline]] void known() const
@@ -234,12 +234,12 @@ struct SlotWords {
     }
 };
 
-// Writes one table, its vtable in front of it, and all beneath it from `vtable` on. Returns the end of what was
+// Writes one table, its vtable before it, and all beneath it from `vtable` on. Returns the end of what was
 // written.
 template <class L>
 [[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
-// The same, slot by slot. With a tail, when something else is written behind the table afterwards, scalars are written
+// The same, slot by slot. With a tail, when something else is written after the table afterwards, scalars are written
 // without a branch; without one no byte is written that is not the table's.
 enum class Tail : bool { none, follows };
 
@@ -255,7 +255,7 @@ struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    // A vector register does not pay behind branches, which set few slots.
+    // A vector register does not pay after branches, which set few slots.
     SlotWords<L, std::conditional_t<tail == Tail::follows, BranchlessWord, SlotWord<std::size_t>>> slots;
     std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
 

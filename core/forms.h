@@ -46,7 +46,7 @@ constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record 
     });
 }
 
-// A place in a picture, and how many bodies stand in front of it.
+// A place in a picture, and how many bodies stand before it.
 struct Place {
     u32 position = 0;
     u32 bodies = 0;

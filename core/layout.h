@@ -151,7 +151,7 @@ struct Layout {
     // Whether it costs more even in a loop over elements. Never where code is larger and its size matters more.
     static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
 
-    // Whether every table, in any form, has at least 8 bytes behind its scalars: a cell and a body or another table.
+    // Whether every table, in any form, has at least 8 bytes after its scalars: a cell and a body or another table.
     static constexpr bool has_tail = [] {
         bool any = false;
         ((any = any || Slots::kind == Kind::array || Slots::kind == Kind::table), ...);
@@ -169,7 +169,7 @@ struct Layout {
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
-    // How many tables and vectors stand in front of slot k: the index of its entry in a message's list of them.
+    // How many tables and vectors stand before slot k: the index of its entry in a message's list of them.
     static constexpr std::array<u32, slots + 1> nested_before = [] {
         std::array<u32, slots + 1> before{};
         for (u32 i = 0; i < slots; ++i)

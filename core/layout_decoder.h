@@ -198,7 +198,7 @@ template <class L, class Slot>
 enum class Reading : u8 { none, refused, done };   // none: nothing was done
 
 // A table whose scalars all lie inside, into a record that is clear or, where `clear` says so, is cleared first; on a
-// fault it is released. In slot order, as a fault leaves unset what is behind it.
+// fault it is released. In slot order, as a fault leaves unset what is after it.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline Reading
 read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
@@ -282,7 +282,7 @@ template <class Form, class L, u32 base>
 
 enum class Behind : u8 { nothing, anything };
 
-// A table in compact form in which nothing is zero, with all beneath it. With nothing behind it, as in a message of its
+// A table in compact form in which nothing is zero, with all beneath it. With nothing after it, as in a message of its
 // own, most others are told from it by their length.
 template <class L>
 [[nodiscard, gnu::noinline]] Reading read_full_heap_table(Input in, u32 table, u8* record, const Decoder& decoder,

@@ -26,7 +26,7 @@ struct Run {
     u32 width;
 };
 
-// Stands in front of the picture's byte at `position`, right behind its count.
+// Stands before the picture's byte at `position`, right after its count.
 struct Body {
     Kind kind;
     u32 record_offset;   // of its field

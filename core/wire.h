@@ -52,7 +52,7 @@ constexpr u32 table_head_bytes = 4;    // u32, table position minus vtable posit
 constexpr u32 vtable_head_bytes = 4;   // u16 vtable length, u16 table length
 constexpr u32 slot_bytes = 2;          // u16, field position minus table position; 0 for an absent field
 constexpr u32 cell_bytes = 4;          // u32, distance from the cell to what it leads to
-constexpr u32 count_bytes = 4;         // u32, in front of every text, block, array and vector
+constexpr u32 count_bytes = 4;         // u32, before every text, block, array and vector
 constexpr u32 least_length = 4;        // a byte string that can hold a root
 
 // ---- reading foreign bytes ----
@@ -142,7 +142,7 @@ template <class In>
     view.room = in.length - table;
     if (table < root_bytes || table > last)
         return TableFault::table_position;
-    // Subtracts modulo 2^32, so that a vtable behind its table passes the same test.
+    // Subtracts modulo 2^32, so that a vtable after its table passes the same test.
     view.vtable = table - in.template load_unchecked<u32>(table);   // table <= length - 4
     if (view.vtable < root_bytes || view.vtable > last)
         return TableFault::vtable_position;
@@ -159,7 +159,7 @@ template <class In>
     return static_cast<bool>(in.length >= n);
 }
 
-// Where n bytes start of which `before` stand in front of the table; false unless all of them lie inside, behind the
+// Where n bytes start of which `before` stand before the table; false unless all of them lie inside, after the
 // root. n is at least `before`, and small.
 template <class In>
 [[nodiscard]] inline bool picture_fits(const In& in, typename In::Word table, typename In::Word before,
@@ -175,7 +175,7 @@ template <class In>
     return true;
 }
 
-// The same for a table whose vtable has just so many slots and stands right in front of it, as we write it in compact
+// The same for a table whose vtable has just so many slots and stands right before it, as we write it in compact
 // form. False for any other, be it well formed or not.
 template <class In>
 [[nodiscard]] inline bool open_compact_table(const In& in, typename In::Word table, typename In::Word slots,
@@ -217,7 +217,7 @@ inline typename In::Word slot_offset(const In& in, const TableView<In>& view, ty
     return slot_unchecked(in, view, k);
 }
 
-// Whether the n bytes at `offset` behind the table's start lie inside. n is 8 at the most and an offset has 16 bits.
+// Whether the n bytes at `offset` after the table's start lie inside. n is 8 at the most and an offset has 16 bits.
 template <class In>
 [[nodiscard]] inline bool field_fits(const TableView<In>& view, typename In::Word offset, u32 n)
 {
@@ -372,14 +372,14 @@ template <class In>
     return true;
 }
 
-// Whether `count` items of `width` bytes lie inside behind `payload`, which open_body gave. No product, no wrap.
+// Whether `count` items of `width` bytes lie inside after `payload`, which open_body gave. No product, no wrap.
 template <class In>
 [[nodiscard]] inline bool payload_fits(const In& in, typename In::Word payload, typename In::Word count, u32 width)
 {
     return static_cast<bool>(count <= (in.length - payload) / width);
 }
 
-// A picture's own bytes lie inside, and `room` bytes behind them are left for its bodies: whether the one whose count
+// A picture's own bytes lie inside, and `room` bytes after them are left for its bodies: whether the one whose count
 // is at the position `at` finds room there. Takes it from the room.
 template <class In>
 [[nodiscard]] inline bool take_body(const In& in, typename In::Word at, typename In::Word& room,
@@ -423,7 +423,7 @@ template <class In>
         return false;
     const Word cell = view.table + offset;
     const Word target = cell + in.template load_unchecked<u32>(cell);   // field_fits
-    // The distance is unsigned and may carry the sum past 2^32; a target in front of its own cell has wrapped.
+    // The distance is unsigned and may carry the sum past 2^32; a target before its own cell has wrapped.
     if (target < cell)
         return false;
     table = target;

@@ -5,14 +5,14 @@
 -- It reads a byte string as the decoder does, makes the decoder's tests in the decoder's order, and stops where the
 -- decoder stops. A size of 4 GiB, from which a vector's block wraps, is out of reach: a packet here has at most 256 KiB.
 --
--- Positions count from the start of the byte string, which stands behind the packet's head. Numbers are Lua numbers:
+-- Positions count from the start of the byte string, which stands after the packet's head. Numbers are Lua numbers:
 -- u32 sums are exact in all versions of Lua and cut to 32 bits by hand.
 
 local head_length = 8
 local most_shown = 20000 -- items in a packet's tree; a text or a block counts once more for each 64 bytes
 local two_to_32 = 4294967296
 
--- Messages: name, id, slots as field:slot. In the order of the catalogue, so that a nested message stands in front.
+-- Messages: name, id, slots as field:slot. In the order of the catalogue, so that a nested message comes first.
 local catalogue = {
 -- printed by ./run headers, from here
 { "ifit_dfx_query_stat_cond_mesh", 0x00631cc8, "f0=u32 f1=u32 f2=u32" },
@@ -453,7 +453,7 @@ local function as_u64(number)
     return UInt64(number % two_to_32, math.floor(number / two_to_32))
 end
 
--- At the refused number; where that would lie behind the bytes, at the word that led there.
+-- At the refused number; where that would lie past the bytes, at the word that led there.
 function Reader:show_failure(stop)
     local failure = self.failure
     local at, width = failure.position, 4
@@ -643,7 +643,7 @@ function Reader:read_slots(tree, message, position, vtable)
     for k, slot in ipairs(message.slots) do
         local word = vtable + 2 + 2 * k -- k counts from 1 here
         if vtable_length < 4 + 2 * k then
-            break -- this slot and all behind it are absent
+            break -- this slot and all after it are absent
         end
         local offset, item = self:word_at(vtable_item, "slot", word, 2)
         if offset == 0 then

@@ -8,7 +8,7 @@
 #include "ifit_dfx.h"
 #include "platform/osal.h"
 
-enum { BUDGET = 64, HEAD = 16 }; /* 64 bytes for all decoded records; a block's size stands in front of it */
+enum { BUDGET = 64, HEAD = 16 }; /* 64 bytes for all decoded records; a block's size stands before it */
 
 static uint32_t live;
 

@@ -33,7 +33,7 @@ static uint32_t read_interfaces(Interface* list, uint32_t room)
     while (count < room && fgets(line, sizeof line, file) != NULL) {
         Interface at;
         memset(&at, 0, sizeof at); /* all 50 bytes of the name travel */
-        /* Eight columns are about receiving; the first one behind them is the bytes sent. Title lines do not match. */
+        /* Eight columns are about receiving; the first one after them is the bytes sent. Title lines do not match. */
         if (sscanf(line, " %49[^: ]: %" SCNu64 " %*u %*u %*u %*u %*u %*u %*u %" SCNu64, at.name, &at.received,
                    &at.sent) == 3)
             list[count++] = at;

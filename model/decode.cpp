@@ -249,7 +249,7 @@ bool Decoder::read_slots(const Table& table, Record& record)
     for (u32 k = 0; k < slots.size(); ++k) {
         step() = {k, -1};
         if (table.vtable_length <= 5 + 2 * k)
-            break;   // this slot and all behind it are absent
+            break;   // this slot and all after it are absent
         const u32 offset = number_at(Piece::slot, table.vtable + 4 + 2 * k, 2, table);
         if (offset == 0)
             continue;

@@ -58,7 +58,7 @@ bool is_written(const TreeView& view, std::size_t k)
     return true;
 }
 
-// The distance from a cell to its target, which always lies behind it.
+// The distance from a cell to its target, which always lies after it.
 void fill_cell(Bytes& out, u32 cell, u32 target) { put(&out[cell], target - cell, 4); }
 
 void append_array(Bytes& out, const TreeView& view, std::size_t k)
@@ -94,7 +94,7 @@ void append_body(Bytes& out, const TreeView& view, std::size_t k)
     }
 }
 
-// Where slot k of the table at `table` begins; its vtable stands right in front of it.
+// Where slot k of the table at `table` begins; its vtable stands right before it.
 u32 slot_position(const Bytes& out, const Message& message, u32 table, std::size_t k)
 {
     return table + get16(&out[table - message.vtable_length + 4 + 2 * k]);

@@ -5,7 +5,7 @@
 
 namespace kesto::model {
 
-// What the size routine adds up, without its limit of 32 bits. It counts 8 bytes for octets of length 0 behind a
+// What the size routine adds up, without its limit of 32 bits. It counts 8 bytes for octets of length 0 after a
 // pointer that is not null, which the writer then leaves out. Beyond 32 bits for a vector with a count and no pointer.
 u64 exact_size(const Record& record);
 u64 exact_size(const Message& message, const void* memory);

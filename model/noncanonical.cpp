@@ -45,7 +45,7 @@ struct Canvas {
             add(random.one_in(3) ? 0xff : random.octet(), 1);
     }
 
-    // The first place at or behind `from` where settled bytes happen to read like `wanted`.
+    // The first place at or after `from` where settled bytes happen to read like `wanted`.
     u32 find(const Bytes& wanted, u32 from) const
     {
         for (std::size_t at = from; at + wanted.size() <= bytes.size(); ++at) {
@@ -321,7 +321,7 @@ void NoncanonicalWriter::place(const Pending& next)
     case Pending::What::vtable: return place_vtable(next.word, next.bytes);
     case Pending::What::body: break;
     }
-    // Anywhere behind the cell that happens to read right will do.
+    // Anywhere after the cell that happens to read right will do.
     const u32 found = random_.one_in(3) ? canvas_.find(next.bytes, next.word) : nowhere;
     lead(next.word, found == nowhere ? canvas_.end() : found);
     for (std::size_t i = 0; found == nowhere && i < next.bytes.size(); ++i)

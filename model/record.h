@@ -43,7 +43,7 @@ bool is_default(const Record& record);
 // False for a count beside a null vector, which the size routine would walk through the null pointer.
 bool is_encodable(const Record& record);
 
-// Number of text bytes in front of the first NUL, which is what a writer sees.
+// Number of text bytes before the first NUL, which is what a writer sees.
 u32 text_length(const std::vector<u8>& octets);
 
 // Text form: {FIELD ...} with a number, "text", h'octets', <element ...>, [{...} ...]; `null` for a null pointer and

@@ -1,4 +1,4 @@
-/* The bounds-checked memory operations: fill and copy with a destination limit in front of the value or source.
+/* The bounds-checked memory operations: fill and copy with a destination limit before the value or source.
  *
  * By default they are our own inline layer, platform/standin/bounded_memory_inline.h, because a call across a library
  * boundary costs about as much as packing a small table. With KESTO_CLOSED_BOUNDED_MEMORY defined (CMake option of the

@@ -202,7 +202,7 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
 }
 
 // Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left
-// behind.
+// after.
 TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
 {
     Random chance = random(5);

@@ -102,10 +102,10 @@ TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
         {capture_head(1), 0, "link type EN10MB (1), not USER0 (147)"},
         {capture_head(148), 0, "link type 148, not USER0"},
         {one, 1, ""},
-        {up_to(one.size() + 1), 1, "behind packet 1: truncated"},
-        {up_to(one.size() + 16), 1, "behind packet 1: truncated"},
-        {up_to(two.size() - 1), 1, "behind packet 1: truncated"},
-        {enormous, 1, "behind packet 1: "},
+        {up_to(one.size() + 1), 1, "after packet 1: truncated"},
+        {up_to(one.size() + 16), 1, "after packet 1: truncated"},
+        {up_to(two.size() - 1), 1, "after packet 1: truncated"},
+        {enormous, 1, "after packet 1: "},
         {two, 2, ""},
     };
     for (const auto& [file, packets, reason] : cases) {

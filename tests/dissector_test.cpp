@@ -52,7 +52,7 @@ public:
         bytes_.push_back(0);   // of no bytes there is no null pointer then
         decode(message, bytes_.data(), length, options, outcome);
         shown.refused = text_of(outcome.failure);
-        if (outcome.failure)   // a number behind the end is shown at the word that leads there
+        if (outcome.failure)   // a number past the end is shown at the word that leads there
             shown.refused_at = 8 + (outcome.failure.position < length ? outcome.failure.position : last_word_);
         shown.ignored = text_of(outcome.ignored);
         std::sort(shown.fields.begin(), shown.fields.end());
@@ -161,7 +161,7 @@ void take_tag(const std::string& tag, Shown& shown)
     std::string* const stop = name.starts_with("kesto.refused")   ? &shown.refused
                               : name.starts_with("kesto.ignored") ? &shown.ignored
                                                                   : nullptr;
-    // Below the refusal and with its range. The refusal itself may stand in front of the table that shows it, and the
+    // Below the refusal and with its range. The refusal itself may stand before the table that shows it, and the
     // analyser prints another `pos` for such items.
     if (name == "kesto.refused.position")
         shown.refused_at = std::stoull(attribute(tag, "pos"));

@@ -189,7 +189,7 @@ void print_message(std::FILE* file, const Message& message)
         std::fprintf(file, "Record of %u bytes, %u with 64-bit pointers.\n", on_32, on_64);
     for (const Slot& slot : message.slots)
         if (slot.lenient)
-            std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on behind it.\n",
+            std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on after it.\n",
                          slot.field.c_str());
     print_links(file, "Same layout:", relations().by_shape.at(shape(message)), message);
     if (const auto users = relations().users.find(&message); users != relations().users.end())

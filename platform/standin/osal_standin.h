@@ -5,7 +5,7 @@
  *     KESTO/KESTO_MARLOCK_SERIAL level 2 code 22 ifit_mcp_mesh_unpack: [KESTO]:Table offset(3) is out of range(4 - 22)
  * - a memory service that counts what it gives, can refuse by a plan, and aborts with a message when something is released
  *   that is not a live block of its own (released twice, or taken elsewhere). Blocks are 16-byte aligned, exactly as long
- *   as asked for, and carry nothing in front of them, so that memory checkers see every access outside.
+ *   as asked for, and carry nothing before them, so that memory checkers see every access outside.
  *
  * Environment, read when the library is loaded; a value that is not understood is reported and ignored:
  *   OSAL_STANDIN_MEMORY=0|1    RVL_OsalMemUseFlagGet answers 1 for the codecs' module (default 1)

@@ -167,7 +167,7 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
     if (returned != library.record_size || returned != outcome_.record_size)
         return "returned " + std::to_string(returned);
     if (std::any_of(record - 8, record, [](std::uint8_t byte) { return byte != untouched; }))
-        return "wrote in front of the record";
+        return "wrote before the record";
     std::string fault = services().difference(outcome_.trace);
     if (!fault.empty())
         return "decoding: " + fault;

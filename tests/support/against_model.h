@@ -21,7 +21,7 @@ using ByteString = std::vector<std::uint8_t>;
 // The compact form, and the fixed one where there is one.
 std::vector<ByteString> both_forms(const model::Record& record);
 
-// A buffer that ends where memory does, so that a read behind it ends the process.
+// A buffer that ends where memory does, so that a read after it ends the process.
 class GuardedBuffer {
 public:
     explicit GuardedBuffer(std::size_t most);
@@ -29,7 +29,7 @@ public:
     GuardedBuffer(const GuardedBuffer&) = delete;
     GuardedBuffer& operator=(const GuardedBuffer&) = delete;
 
-    // The last `size` bytes in front of the end.
+    // The last `size` bytes before the end.
     std::uint8_t* place(std::size_t size) const { return end_ - size; }
     std::size_t most() const { return most_; }
 

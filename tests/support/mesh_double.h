@@ -9,7 +9,7 @@
 namespace kesto::tests {
 
 struct SentItem {
-    const std::uint8_t* data;   // the address that was sent; the bytes behind it are gone by now
+    const std::uint8_t* data;   // the address that was sent; the bytes after it are gone by now
     std::uint32_t id;
     std::vector<std::uint8_t> bytes;
 };

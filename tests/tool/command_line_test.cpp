@@ -289,7 +289,7 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
         {"decode --pcap " + file + " --message ifit_mcp_mesh", 1, 1, "no such packet among 6"},
         {"decode --pcap " + file + " --packet 7", 1, 1, "no such packet among 6"},
         {"decode --pcap " + file + " --message ifit_mpc_mesh", 2, 0, "ifit_mcp_mesh"},
-        {"decode --pcap " + broken, 2, 6, "behind packet 5: truncated"},
+        {"decode --pcap " + broken, 2, 6, "after packet 5: truncated"},
         {"explain --pcap " + broken + " --packet 1", 0, 0, "accepted: compact form"},
         {"explain --pcap " + file + " --packet 2", 1, 0, "refused: body_end at .f0, position 18"},
         {"explain --pcap " + file + " --packet 4", 1, 2,

@@ -179,7 +179,7 @@ TEST(Notes, tell_what_passes_without_a_word)
     } cases[] = {
         {keys, one_element(), {}},
         {keys, damaged(one_element(), 6, "11"), {"table_length 6 ."}},
-        // Without slots nothing behind the table's first word is read.
+        // Without slots nothing after the table's first word is read.
         {keys, damaged(one_element(), 4, "03"), {"vtable_short 4 .", "not_read 6 .", "not_read 16 ."}},
         {keys, damaged(one_element(), 28, "05"), {"vtable_odd 28 .f1[0]", "slots_missing 28 .f1[0]", "not_read 38 ."}},
         // The field begins within the table's first word.
@@ -217,7 +217,7 @@ TEST(Texts, cannot_steer_a_terminal)
         EXPECT_EQ(command::quoted(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), '"' + shown + '"');
 }
 
-// X__pack counts 8 bytes for a block of length 0 behind a pointer and does not write them.
+// X__pack counts 8 bytes for a block of length 0 after a pointer and does not write them.
 TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
 {
     Record record = model::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));

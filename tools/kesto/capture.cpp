@@ -97,7 +97,7 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
     const int result = pcap_next_ex(handle_.get(), &head, &bytes);
     if (result != 1) {
         error = result == PCAP_ERROR
-                    ? name_ + ": behind packet " + std::to_string(number_) + ": " + pcap_geterr(handle_.get())
+                    ? name_ + ": after packet " + std::to_string(number_) + ": " + pcap_geterr(handle_.get())
                     : "";
         return false;
     }

@@ -16,7 +16,7 @@ enum class PacketFault : std::uint8_t {
     none,
     cut,                // the capture kept only the first bytes of the packet
     short_packet,       // no room for id and length
-    length_disagrees,   // with the bytes behind the two
+    length_disagrees,   // with the bytes after the two
 };
 
 const char* name_of(PacketFault fault);   // the words of dissector/kesto.lua
@@ -28,7 +28,7 @@ struct CapturedPacket {
     std::uint32_t microseconds = 0;
     PacketFault fault = PacketFault::none;
     std::uint32_t id = 0;                  // 0 where there is no room for it
-    std::span<const std::uint8_t> bytes;   // behind id and length; until the next packet is read
+    std::span<const std::uint8_t> bytes;   // after id and length; until the next packet is read
 };
 
 class CaptureReader {

@@ -141,7 +141,7 @@ void Collector::note_item(const Item& item, Table& table)
     case Piece::slot:
         if (item.value != 0 && item.value < 4)
             notes_.add("field_in_table_head", item.position, 2, path_text(*item.path),
-                       fmt::format("the field begins {} behind the table's first byte, inside its first word",
+                       fmt::format("the field begins {} after the table's first byte, inside its first word",
                                    counted(item.value, "byte")));
         break;
     case Piece::scalar:
@@ -185,7 +185,7 @@ void Collector::note_text(const Item& item, Table& table)
         table.end = std::max(table.end, end + 1);
     else
         notes_.add("text_without_nul", item.position, item.length, path_text(*item.path),
-                   "no NUL behind the text; every writer leaves one, no reader looks for it");
+                   "no NUL after the text; every writer leaves one, no reader looks for it");
     const u32 visible = static_cast<u32>(std::find(text, text + item.length, u8{0}) - text);
     if (visible != item.length)
         notes_.add(

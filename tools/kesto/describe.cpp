@@ -68,7 +68,7 @@ void append_compact_picture(std::string& out, const Message& message)
                 fields_that(message, [](const Slot& slot) { return slot.kind != Kind::scalar; }));
     append_more(out, "counts and contents, in slot order",
                 fields_that(message, [](const Slot& slot) { return slot.kind == Kind::array || is_heap(slot); }));
-    append_more(out, "behind the table, each with its vtable in front",
+    append_more(out, "after the table, each with its vtable before it",
                 fields_that(message, [](const Slot& slot) { return slot.nested != nullptr; }));
     append_more(out, "left out with all its parts if null or empty", fields_that(message, is_heap));
 }

@@ -108,7 +108,7 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
                    refused.log ? "the library logs " + log_line(*refused.log)
                                : std::string("the library logs nothing"));
     if (ignored)
-        fmt::format_to(into, "    the read goes on behind this table, whose fields keep what was read so far\n");
+        fmt::format_to(into, "    the read goes on after this table, whose fields keep what was read so far\n");
 }
 
 }   // namespace

@@ -17,7 +17,7 @@ bool stands_before(const Range& left, const Range& right)
 {
     if (left.position != right.position)
         return left.position < right.position;
-    if (left.length != right.length)   // an empty text in front of its NUL, else the longer one first
+    if (left.length != right.length)   // an empty text before its NUL, else the longer one first
         return left.length == 0 || (right.length != 0 && left.length > right.length);
     return left.part < right.part;
 }
@@ -75,7 +75,7 @@ void note_packet_head(const Explanation& explanation, Notes& notes)
                               named->name, head));
 }
 
-// What stands behind a text, between two ranges or behind the last.
+// What stands after a text, between two ranges or after the last.
 class Gaps {
 public:
     Gaps(Explanation& explanation, Notes& notes) : explanation_(explanation), notes_(notes) {}
@@ -110,7 +110,7 @@ private:
         if (at >= next)
             return;
         const bool zero = std::all_of(bytes.begin() + at, bytes.begin() + next, [](u8 byte) { return byte == 0; });
-        // The fixed form rounds up to 8, and right behind that a table around it to 4.
+        // The fixed form rounds up to 8, and right after that a table around it to 4.
         const bool padding = zero && next - at <= 7 + 3;
         add(padding ? Part::padding : Part::unread, at, next - at, {});
         if (!padding && !explanation_.refused && explanation_.left_out == 0)

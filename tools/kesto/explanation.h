@@ -21,7 +21,7 @@ enum class Part : u8 {
     count,
     payload,
     element_cell,
-    vtable_rest,   // behind the slots that the message has, and an odd byte
+    vtable_rest,   // after the slots that the message has, and an odd byte
     text_end,
     padding,
     unread,

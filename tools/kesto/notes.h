@@ -16,7 +16,7 @@ public:
             notes_.push_back({code, position, length, path, text});
     }
 
-    // By position; behind them, how many of a kind are left out.
+    // By position; after them, how many of a kind are left out.
     std::vector<Note> all() const;
 
 private:

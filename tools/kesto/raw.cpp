@@ -161,7 +161,7 @@ void Guesser::show_slot(const Table& table, std::size_t slot, u32 room, u32 dept
     const u32 position = table.position + table.offsets[slot];
     const u32 width = room >= 4 ? 4 : room >= 2 ? 2 : 1;
     if (!fits(position, width))
-        return line(depth, position, fmt::format("slot {}: behind the end", slot));
+        return line(depth, position, fmt::format("slot {}: past the end", slot));
     std::string text = fmt::format("slot {}: u{} {}", slot, 8 * width, number(position, width));
     if (room == 8 && fits(position, 8))
         text += fmt::format(", u64 {}", model::get(bytes_.data() + position, 8));

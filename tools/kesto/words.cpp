@@ -25,10 +25,10 @@ Rule rule_of(Refusal refusal)
     case Refusal::record_null: return {"there is a record", ""};
     case Refusal::length_below_4: return {"a byte string has 4 bytes or more, and less than 2^31", "it has {0}"};
     case Refusal::table_position:
-        return {"a table begins behind the root and 4 bytes before the end or earlier",
+        return {"a table begins after the root and 4 bytes before the end or earlier",
                 "it begins at {0}, which has to be from 4 to {1}"};
     case Refusal::vtable_position:
-        return {"a vtable begins behind the root and 4 bytes before the end or earlier",
+        return {"a vtable begins after the root and 4 bytes before the end or earlier",
                 "it begins at {0}, which has to be from 4 to {1}"};
     case Refusal::vtable_length:
         return {"a vtable ends within the byte string", "its length is {0}, the byte string has {1} from there"};
@@ -36,7 +36,7 @@ Rule rule_of(Refusal refusal)
     case Refusal::cell_end: return {"a cell ends within the byte string", ends};
     case Refusal::reference_wrap:
     case Refusal::nested_wrap:
-    case Refusal::element_wrap: return {"a cell leads to a position behind it and below 2^32", leads};
+    case Refusal::element_wrap: return {"a cell leads to a position after it and below 2^32", leads};
     case Refusal::reference_range:
         return {"the length or count that a cell leads to ends within the byte string", ends};
     case Refusal::array_count:
@@ -157,7 +157,7 @@ std::string value_text(const Explanation& explanation, const Range& range)
     case Part::count: return value < 0x10000 ? fmt::format("{}", value) : fmt::format("{0} = {0:#010x}", value);
     case Part::payload: return payload_text(explanation, range);
     case Part::vtable_rest: return "not read: the message has no such slot";
-    case Part::text_end: return "behind the text, not counted";
+    case Part::text_end: return "after the text, not counted";
     case Part::padding: return "not read";
     case Part::unread: break;
     }
@@ -186,7 +186,7 @@ std::string origin_text(Origin origin)
     switch (origin) {
     case Origin::unknown: break;
     case Origin::compact: return "compact form, just as it is written";
-    case Origin::compact_with_rest: return "compact form, with 8 bytes more for each empty block behind a pointer";
+    case Origin::compact_with_rest: return "compact form, with 8 bytes more for each empty block after a pointer";
     case Origin::fixed: return "fixed form, just as it is sent";
     case Origin::other: return "neither form as this library writes it";
     }

@@ -45,7 +45,7 @@ std::vector<u64> values_of(const Range& range, u32 length)
         for (const u64 target : targets(length))
             if (target >= range.position)
                 values.push_back(target - range.position);
-        for (const u64 target : {0xffffffffU, 0U})   // the last in front of 2^32, and the first behind
+        for (const u64 target : {0xffffffffU, 0U})   // the last before 2^32, and the first after
             values.push_back(target - range.position);
         values.push_back(0xffffffff);
         break;
