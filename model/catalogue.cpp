@@ -74,7 +74,7 @@ void measure_compact_form(Message& message)
         }
     }
     message.compact_zero = zero;
-    if (!message.owns_heap)
+    if (!message.owns_blocks)
         message.compact_full = zero + message.scalar_bytes + nested_growth;
 }
 
@@ -82,13 +82,13 @@ void derive(Message& message)
 {
     message.vtable_length = static_cast<u32>(4 + 2 * message.slots.size());
     for (const Slot& slot : message.slots) {
-        message.owns_heap |= slot.kind == Kind::string || slot.kind == Kind::bytes || slot.kind == Kind::vector;
+        message.owns_blocks |= slot.kind == Kind::string || slot.kind == Kind::bytes || slot.kind == Kind::vector;
         if (slot.nested == nullptr)
             continue;
-        message.owns_heap |= slot.nested->owns_heap;
+        message.owns_blocks |= slot.nested->owns_blocks;
         message.depth = std::max(message.depth, slot.nested->depth + 1);
     }
-    if (!message.owns_heap)
+    if (!message.owns_blocks)
         measure_fixed_form(message);
     measure_compact_form(message);
     message.narrow = record_layout(message, 4);

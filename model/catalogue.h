@@ -40,15 +40,15 @@ struct Message {
     u32 index = 0;   // in the catalogue
     std::vector<Slot> slots;
 
-    bool owns_heap = false;   // holds a string, bytes or a vector at some depth, and so has no fixed form
-    u32 depth = 1;            // tables on the longest way down, this one included
+    bool owns_blocks = false;   // holds a string, bytes or a vector at some depth, and so has no fixed form
+    u32 depth = 1;              // tables on the longest way down, this one included
 
     u32 vtable_length = 0;            // as every writer writes it
     u32 fixed_length = 0;             // 0 without a fixed form, like the next two
     u32 fixed_table_length = 0;       // not rounded
     std::vector<u32> fixed_offsets;   // of each slot from the table
     u32 compact_zero = 0;             // bytes of an all-zero record as root
-    u32 compact_full = 0;             // bytes of a record without a zero scalar; 0 if the message owns heap parts
+    u32 compact_full = 0;             // bytes of a record without a zero scalar; 0 if the message owns blocks
     u32 scalar_bytes = 0;             // widths of the table's own scalars together
 
     RecordLayout narrow;   // 4-byte pointers

@@ -5,7 +5,7 @@
 namespace kesto::model {
 namespace {
 
-// Releases the heap parts of a record. A null `record` stands for an all-zero one, such as an element never reached.
+// Releases the owned blocks of a record. A null `record` stands for an all-zero one, such as an element never reached.
 void release_parts(const Message& message, Record* record, Trace& trace);
 
 void add_release(const Message& message, i32 block, Trace& trace)
@@ -28,7 +28,7 @@ void drop(Field& field)
 // The elements from 0 to `count` and then their array, whose pointer is not null.
 void release_vector(const Message& message, const Slot& slot, Field& field, u32 count, Trace& trace)
 {
-    for (u32 i = 0; slot.nested->owns_heap && i < count; ++i) {
+    for (u32 i = 0; slot.nested->owns_blocks && i < count; ++i) {
         release_parts(*slot.nested, i < field.records.size() ? &field.records[i] : nullptr, trace);
     }
     add_release(message, field.block, trace);
@@ -44,7 +44,7 @@ void release_parts(const Message& message, Record* record, Trace& trace)
             add_release(message, field == nullptr ? -1 : field->block, trace);   // null as well
             if (field != nullptr)
                 drop(*field);
-        } else if (slot.kind == Kind::table && slot.nested->owns_heap) {
+        } else if (slot.kind == Kind::table && slot.nested->owns_blocks) {
             release_parts(*slot.nested, field == nullptr ? nullptr : &field->records[0], trace);
         } else if (slot.kind == Kind::vector && field != nullptr && field->present) {
             release_vector(message, slot, *field, static_cast<u32>(field->number), trace);
@@ -163,7 +163,7 @@ bool Decoder::allocate(const Routine& routine, u32 size, i32& block)
 
 void Decoder::release(const Message& message, Record& record)
 {
-    if (message.owns_heap && options_.contents)
+    if (message.owns_blocks && options_.contents)
         release_parts(message, &record, outcome_.trace);
 }
 
@@ -446,7 +446,7 @@ void decode(const Message& message, const u8* bytes, u32 length, const DecodeOpt
 
 void free_unpacked(Record& record, Trace& trace)
 {
-    if (record.message->owns_heap)
+    if (record.message->owns_blocks)
         release_parts(*record.message, &record, trace);
 }
 

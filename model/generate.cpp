@@ -64,7 +64,7 @@ void fill_array(const Slot& slot, Density density, Field& field, Random& random)
         word = static_cast<u32>(random_value(slot.width, density, random));
 }
 
-void fill_heap_part(const Slot& slot, Density density, Field& field, Random& random)
+void fill_owned_block(const Slot& slot, Density density, Field& field, Random& random)
 {
     if (density == Density::zero)
         return;
@@ -91,7 +91,7 @@ void fill_heap_part(const Slot& slot, Density density, Field& field, Random& ran
 }
 
 // `part` belongs to `whole`.
-void without_each_heap_part(Record& whole, Record& part, std::vector<Record>& made)
+void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& made)
 {
     for (std::size_t k = 0; k < part.fields.size(); ++k) {
         const Kind kind = part.message->slots[k].kind;
@@ -110,16 +110,16 @@ void without_each_heap_part(Record& whole, Record& part, std::vector<Record>& ma
             field = kept;
         }
         for (Record& inner : field.records)
-            without_each_heap_part(whole, inner, made);
+            without_each_owned_block(whole, inner, made);
     }
 }
 
 }   // namespace
 
-std::vector<Record> without_each_heap_part(Record record)
+std::vector<Record> without_each_owned_block(Record record)
 {
     std::vector<Record> made;
-    without_each_heap_part(record, record, made);
+    without_each_owned_block(record, record, made);
     return made;
 }
 
@@ -136,7 +136,7 @@ Record random_record(const Message& message, Density density, Random& random)
         } else if (slot.kind == Kind::array) {
             fill_array(slot, density, field, random);
         } else {
-            fill_heap_part(slot, density, field, random);
+            fill_owned_block(slot, density, field, random);
         }
     }
     return record;

@@ -25,8 +25,8 @@ struct Random {
 
 enum class Density : u8 {
     zero,     // nothing set
-    sparse,   // about a quarter of everything set; heap parts null, empty or short
-    full,     // no zero scalar, no zero array, no null or empty heap part
+    sparse,   // about a quarter of everything set; owned blocks null, empty or short
+    full,     // no zero scalar, no zero array, no null or empty owned block
     edge,     // values and lengths at the borders of their ranges
 };
 
@@ -36,6 +36,6 @@ inline constexpr Density densities[] = {Density::zero, Density::sparse, Density:
 Record random_record(const Message& message, Density density, Random& random);
 
 // The record with one string, bytes or vector absent or empty, for each one in it, those of tables and elements too.
-std::vector<Record> without_each_heap_part(Record record);
+std::vector<Record> without_each_owned_block(Record record);
 
 }   // namespace kesto::model

@@ -29,7 +29,7 @@ void store_scalar(u8* at, u64 value, u32 width)
 
 Record tree_of(const MemoryView& view);
 
-void read_heap_part(const MemoryView& view, std::size_t k, Field& field)
+void read_owned_block(const MemoryView& view, std::size_t k, Field& field)
 {
     const Slot& slot = view.message().slots[k];
     field.present = view.present(k);
@@ -62,7 +62,7 @@ Record tree_of(const MemoryView& view)
             for (u32 i = 0; i < slot.count; ++i)
                 field.words[i] = view.word(k, i);
         } else {
-            read_heap_part(view, k, field);
+            read_owned_block(view, k, field);
         }
     }
     return record;
@@ -80,7 +80,7 @@ std::string difference_in_octets(const std::vector<u8>& expected, const u8* octe
     return {};
 }
 
-std::string difference_in_heap_part(const Slot& slot, const Field& expected, const MemoryView& view, std::size_t k)
+std::string difference_in_owned_block(const Slot& slot, const Field& expected, const MemoryView& view, std::size_t k)
 {
     if (expected.present != view.present(k))
         return expected.present ? " is null" : " is not null";
@@ -117,7 +117,7 @@ std::string difference_in_field(const Slot& slot, const Field& expected, const M
         return found.empty() ? found : join({".", found});
     }
     if (slot.kind != Kind::array)
-        return difference_in_heap_part(slot, expected, view, k);
+        return difference_in_owned_block(slot, expected, view, k);
     if (slot.width == 1)
         return difference_in_octets(expected.octets, view.octets(k));
     for (u32 i = 0; i < slot.count; ++i) {
@@ -191,12 +191,12 @@ void RecordMemory::fill(const Record& record, u8* at)
             for (std::size_t i = 0; i < field.words.size(); ++i)
                 store(member + 4 * i, field.words[i]);
         } else {
-            fill_heap_part(slot, field, member);
+            fill_owned_block(slot, field, member);
         }
     }
 }
 
-void RecordMemory::fill_heap_part(const Slot& slot, const Field& field, u8* at)
+void RecordMemory::fill_owned_block(const Slot& slot, const Field& field, u8* at)
 {
     u8* content = nullptr;
     if (field.present && slot.kind == Kind::vector) {

@@ -1,5 +1,5 @@
 #pragma once
-// Records as the library's callers hold them: C structures of the host, with heap parts from malloc.
+// Records as the library's callers hold them: C structures of the host, with owned blocks from malloc.
 
 #include <vector>
 
@@ -23,7 +23,7 @@ private:
     RecordMemory(const Record* records, std::size_t count);
     u8* block(std::size_t size);
     void fill(const Record& record, u8* at);
-    void fill_heap_part(const Slot& slot, const Field& field, u8* at);
+    void fill_owned_block(const Slot& slot, const Field& field, u8* at);
 
     void* data_ = nullptr;
     std::vector<void*> blocks_;

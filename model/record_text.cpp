@@ -123,7 +123,7 @@ struct Reader {
         return true;
     }
 
-    bool heap_part(const Slot& slot, Field& field)
+    bool owned_block(const Slot& slot, Field& field)
     {
         if (take("null*"))
             return slot.kind == Kind::string ? fail("text has no length") : number(field.number);
@@ -157,7 +157,7 @@ struct Reader {
         case Kind::bytes:
         case Kind::vector: break;
         }
-        return heap_part(slot, field);
+        return owned_block(slot, field);
     }
 };
 

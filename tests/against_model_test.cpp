@@ -58,10 +58,10 @@ TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
 }
 
 // Nothing but one text, block or vector keeps such a record from the fast paths.
-TEST_P(EveryMessage, without_one_heap_part_is_no_dense_record)
+TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
 {
     Random chance = random(7);
-    for (const Record& record : model::without_each_heap_part(random_record(message(), Density::full, chance)))
+    for (const Record& record : model::without_each_owned_block(random_record(message(), Density::full, chance)))
         ASSERT_NO_FATAL_FAILURE(expect_both_ways(record));
 }
 

@@ -57,7 +57,7 @@ TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
         const model::Bytes bytes = model::compact_form(records[0]);
         std::vector<std::uint64_t> record(library.record_size / 8 + 1);
         library.unpack(bytes.data(), static_cast<std::uint32_t>(bytes.size()), record.data());
-        EXPECT_EQ(calls > 4, message.owns_heap) << message.name;
+        EXPECT_EQ(calls > 4, message.owns_blocks) << message.name;
         library.free_unpacked(record.data());
         EXPECT_EQ(calls_from_main, calls) << message.name;
     }

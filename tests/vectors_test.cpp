@@ -9,10 +9,10 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
+#include "model/json.h"
 #include "tests/support/against_model.h"
 #include "tests/support/services_double.h"
 #include "tools/kesto/commands.h"
-#include "tools/kesto/json_record.h"
 
 namespace kesto::tests {
 
@@ -75,7 +75,7 @@ TEST(Vectors, say_what_the_library_does_with_each)
             const std::string code = !is_hostile || line["refused"].is_null() ? "" : line["refused"]["code"];
             Record record;
             if (code.empty())
-                record = command::record_from_json(message, line["record"]);
+                record = model::record_from_json(message, line["record"]);
             check.expected = code.empty() ? &record : nullptr;
             std::vector<std::string> log;
             for (const char* form : {"compact", "fixed", "hex"}) {

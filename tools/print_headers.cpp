@@ -131,7 +131,7 @@ std::string ownership(const Message& message)
     add(Kind::bytes, "bytes");
     add(Kind::vector, "elements");
     for (const Slot& slot : message.slots)
-        if (slot.kind == Kind::vector && slot.nested->owns_heap)
+        if (slot.kind == Kind::vector && slot.nested->owns_blocks)
             parts += " and what they own";
     return parts.empty() ? "Owns no memory." : "Owns its " + parts + ".";
 }
@@ -139,7 +139,7 @@ std::string ownership(const Message& message)
 std::string lengths(const Message& message)
 {
     const std::string least = std::to_string(message.compact_zero);
-    if (message.owns_heap)
+    if (message.owns_blocks)
         return "Compact form of " + least + " bytes and more.";
     return "Fixed form of " + std::to_string(message.fixed_length) + " bytes, compact form of " + least + " to " +
            std::to_string(message.compact_full) + ".";

@@ -106,7 +106,7 @@ std::string id_text(const Message& message)
 
 std::string form_text(const Message& message)
 {
-    return message.owns_heap ? "compact" : "fixed " + std::to_string(message.fixed_length);
+    return message.owns_blocks ? "compact" : "fixed " + std::to_string(message.fixed_length);
 }
 
 // A name that leads to its message on a code host; the targets stand at the end of the page.
@@ -177,7 +177,7 @@ void print_message(std::FILE* file, const Message& message)
 {
     std::fprintf(file, "\n## %s\n\n", message.name.c_str());
     std::fprintf(file, "- Id %s. ", id_text(message).c_str());
-    if (message.owns_heap)
+    if (message.owns_blocks)
         std::fprintf(file, "Compact form of %u bytes and more. ", message.compact_zero);
     else
         std::fprintf(file, "Fixed form of %u bytes, compact form of %u to %u. ", message.fixed_length,

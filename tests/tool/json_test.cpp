@@ -4,7 +4,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "tools/kesto/json_record.h"
+#include "model/json.h"
+#include "tools/kesto/messages.h"
 
 namespace kesto::tests {
 
@@ -18,8 +19,8 @@ TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
     for (const char* text : {R"({"f0":null})", R"({"f0":""})", R"({"f0":"\"a\"\n\u00e9"})", R"({"f0":{"hex":"ff"}})",
                              R"({"f0":{"hex":"c0af"}})", R"({"f0":{"hex":"eda080"}})", R"({"f0":{"hex":"f4908080"}})",
                              R"({"f0":{"hex":"e282"}})", R"({"f0":{"hex":"610062"}})"}) {
-        const nlohmann::ordered_json json = command::parse_json(text, "text");
-        EXPECT_EQ(command::record_json(command::record_from_json(message, json)), json) << text;
+        const nlohmann::ordered_json json = model::parse_json(text, "text");
+        EXPECT_EQ(model::record_json(model::record_from_json(message, json)), json) << text;
     }
 }
 
@@ -55,9 +56,9 @@ TEST(JsonText, that_is_wrong_is_refused_with_the_place)
     };
     for (const auto& wrong : cases) {
         try {
-            (void)command::record_from_json(*find_message(wrong.message), command::parse_json(wrong.text, "text"));
+            (void)model::record_from_json(*find_message(wrong.message), model::parse_json(wrong.text, "text"));
             ADD_FAILURE() << "taken: " << wrong.text;
-        } catch (const command::Fault& fault) {
+        } catch (const model::JsonFault& fault) {
             EXPECT_TRUE(std::string_view(fault.what()).starts_with(wrong.place)) << wrong.text << ": " << fault.what();
         }
     }

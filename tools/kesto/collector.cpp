@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "model/utf8.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -191,7 +192,7 @@ void Collector::note_text(const Item& item, Table& table)
         notes_.add(
             "text_with_nul", item.position + visible, 1, path_text(*item.path),
             fmt::format("a NUL within the text: C code sees {} of its {}", visible, counted(item.length, "byte")));
-    if (!is_utf8(text, item.length))
+    if (!model::is_utf8(text, item.length))
         notes_.add("text_not_utf8", item.position, item.length, path_text(*item.path), "the text is not UTF-8");
 }
 

@@ -7,7 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include "model/encode.h"
-#include "tools/kesto/json_record.h"
+#include "model/json.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -98,7 +98,7 @@ int decode_bytes(const Message& message, std::span<const u8> bytes, const Decode
     const std::optional<Record> record = decoded(message, bytes, choices.most_memory, "");
     if (!record)
         return refused;
-    print(json_text(record_json(*record), choices.compact_json ? -1 : 2) + "\n");
+    print(json_text(model::record_json(*record), choices.compact_json ? -1 : 2) + "\n");
     return accepted;
 }
 
@@ -114,7 +114,7 @@ Bytes encoded(const Record& record, Form form)
 
 int encode_json(const Message& message, const std::string& text, const std::string& where, const EncodeChoices& choices)
 {
-    const Record record = record_from_json(message, parse_json(text, where));
+    const Record record = model::record_from_json(message, model::parse_json(text, where));
     warn_of_cut_text(record);
     const Bytes bytes = encoded(record, choices.form);
     const bool to_terminal = choices.output == "-" && is_terminal_output();

@@ -7,8 +7,8 @@
 #include <nlohmann/json.hpp>
 
 #include "model/encode.h"
+#include "model/json.h"
 #include "tools/kesto/commands.h"
-#include "tools/kesto/json_record.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -19,7 +19,7 @@ using nlohmann::ordered_json;
 
 std::string id_text(const Message& message) { return fmt::format("{:#010x}", message.id); }
 
-bool is_heap(const Slot& slot)
+bool is_owned(const Slot& slot)
 {
     return slot.kind == Kind::string || slot.kind == Kind::bytes || slot.kind == Kind::vector;
 }
@@ -67,10 +67,10 @@ void append_compact_picture(std::string& out, const Message& message)
     append_more(out, "cells of all others, in slot order",
                 fields_that(message, [](const Slot& slot) { return slot.kind != Kind::scalar; }));
     append_more(out, "counts and contents, in slot order",
-                fields_that(message, [](const Slot& slot) { return slot.kind == Kind::array || is_heap(slot); }));
+                fields_that(message, [](const Slot& slot) { return slot.kind == Kind::array || is_owned(slot); }));
     append_more(out, "after the table, each with its vtable before it",
                 fields_that(message, [](const Slot& slot) { return slot.nested != nullptr; }));
-    append_more(out, "left out with all its parts if null or empty", fields_that(message, is_heap));
+    append_more(out, "left out with all its parts if null or empty", fields_that(message, is_owned));
 }
 
 void append_fixed_picture(std::string& out, const Message& message)

@@ -4,8 +4,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
+#include "model/json.h"
 #include "tools/kesto/commands.h"
-#include "tools/kesto/json_record.h"
 #include "tools/kesto/packets.h"
 #include "tools/kesto/quoting.h"
 
@@ -261,7 +261,7 @@ struct Size {
         const Message& meant = message_named(message);
         if (file.empty())
             return show_sizes(meant, json);
-        return show_sizes(record_from_json(meant, parse_json(read_text(file), file)), json);
+        return show_sizes(kesto::model::record_from_json(meant, kesto::model::parse_json(read_text(file), file)), json);
     }
 };
 

@@ -17,8 +17,6 @@ std::string quoted(const u8* text, std::size_t length);
 // As dump() has it, with \uXXXX for the same characters. An indent of -1 puts all in one line.
 std::string json_text(const nlohmann::ordered_json& json, int indent);
 
-bool is_utf8(const u8* text, std::size_t length);
-
 // One line on standard error, whatever stands in `text`.
 void complain(std::string_view text);
 

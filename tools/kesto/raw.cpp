@@ -7,6 +7,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "model/utf8.h"
 #include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
 
@@ -113,7 +114,7 @@ bool Guesser::may_be_text(u64 body) const
     u32 tested = std::min(length, most_text_tested);   // many slots may lead to one long text
     while (tested < length && tested != 0 && text[tested] >> 6 == 2)
         --tested;   // not into the middle of a character
-    return is_utf8(text, tested) &&
+    return model::is_utf8(text, tested) &&
            std::none_of(text, text + tested, [](u8 byte) { return byte < ' ' && byte != '\n' && byte != '\t'; });
 }
 

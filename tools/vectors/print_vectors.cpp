@@ -9,9 +9,9 @@
 #include <nlohmann/json.hpp>
 
 #include "model/encode.h"
+#include "model/json.h"
 #include "model/noncanonical.h"
 #include "tools/kesto/explain.h"
-#include "tools/kesto/json_record.h"
 #include "tools/print_files.h"
 #include "tools/vectors/damage.h"
 
@@ -85,7 +85,7 @@ std::vector<ordered_json> record_lines(const model::Module& module)
             line["fixed"] = nullptr;
             if (message.fixed_length != 0)
                 line["fixed"] = to_hex(model::fixed_form(record));
-            line["record"] = command::record_json(record);
+            line["record"] = model::record_json(record);
             lines.push_back(std::move(line));
         }
     }
@@ -121,7 +121,7 @@ ordered_json hostile_line(const Sample& sample)
             line["log"].push_back(command::log_line(event));
     line["record"] = nullptr;
     if (!outcome.untouched)
-        line["record"] = command::record_json(outcome.record);
+        line["record"] = model::record_json(outcome.record);
     return line;
 }
 
@@ -163,12 +163,12 @@ void add_strange(std::vector<ordered_json>& lines)
     for (const Message& message : model::catalogue().messages) {
         Random random(message.id);
         const Record record = drawn_record(message, densities[message.id % 3], random, most_strange);
-        Sample sample = {"strange layout", &message, {}};
+        Sample sample = {"noncanonical layout", &message, {}};
         for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
             sample.bytes = model::noncanonical_layout(record, random);
         lines.push_back(hostile_line(sample));
         const ordered_json& line = lines.back();
-        if (!line["refused"].is_null() || line["record"] != command::record_json(record))
+        if (!line["refused"].is_null() || line["record"] != model::record_json(record))
             throw Fault(message.name + ": a noncanonical layout is not what it was made from");
     }
 }

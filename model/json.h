@@ -1,3 +1,4 @@
+#pragma once
 // Records as JSON and back, without loss.
 //
 //   u8 u16 u32     a number
@@ -7,22 +8,27 @@
 //   u32[N]         an array of N numbers
 //   table          an object by field names
 //   vector         an array of objects
-#pragma once
 
 #include <nlohmann/json_fwd.hpp>
+#include <stdexcept>
+#include <string>
 
-#include "tools/kesto/input.h"
+#include "model/record.h"
 
-namespace kesto::command {
+namespace kesto::model {
+
+struct JsonFault : std::runtime_error {
+    using std::runtime_error::runtime_error;
+};
 
 // A record that a successful decode left.
 nlohmann::ordered_json record_json(const Record& record);
 
-// Throws a Fault that names the place, as in ".f1[0].f3: ...". What is missing is zero or null, as in a record that
+// Throws a JsonFault that names the place, as in ".f1[0].f3: ...". What is missing is zero or null, as in a record that
 // starts zeroed; what the message does not have is refused.
 Record record_from_json(const Message& message, const nlohmann::ordered_json& json);
 
-// JSON text; a name that stands twice in an object is refused.
+// Throws a JsonFault too, which begins with `where`. A name that stands twice in an object is refused.
 nlohmann::ordered_json parse_json(const std::string& text, const std::string& where);
 
-}   // namespace kesto::command
+}   // namespace kesto::model

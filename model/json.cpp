@@ -1,4 +1,4 @@
-#include "tools/kesto/json_record.h"
+#include "model/json.h"
 
 #include <fmt/format.h>
 
@@ -8,17 +8,16 @@
 #include <nlohmann/json.hpp>
 #include <set>
 
-#include "tools/kesto/explanation.h"
-#include "tools/kesto/quoting.h"
+#include "model/hex.h"
+#include "model/utf8.h"
 
-namespace kesto::command {
+namespace kesto::model {
 
 namespace {
 
-using model::Field;
 using nlohmann::ordered_json;
 
-constexpr int most_depth = 2 * model::greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
+constexpr int most_depth = 2 * greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
 
 // ---- to JSON ----
 
@@ -28,7 +27,7 @@ ordered_json text_json(const Field& field)
         return nullptr;
     const u8* const text = field.octets.data();
     const std::size_t length = field.octets.size();
-    if (is_utf8(text, length) && model::text_length(field.octets) == length)
+    if (is_utf8(text, length) && text_length(field.octets) == length)
         return std::string(field.octets.begin(), field.octets.end());
     return {{"hex", to_hex(text, length)}};
 }
@@ -58,7 +57,7 @@ ordered_json field_json(const Slot& slot, const Field& field)
 
 [[noreturn]] void refuse(const std::string& path, const std::string& what)
 {
-    throw Fault(fmt::format("{}: {}", path.empty() ? "." : path, what));
+    throw JsonFault(fmt::format("{}: {}", path.empty() ? "." : path, what));
 }
 
 u64 number_from(const ordered_json& json, u32 width, const std::string& path)
@@ -74,8 +73,11 @@ u64 number_from(const ordered_json& json, u32 width, const std::string& path)
         if (fault != std::errc() || stop != end)
             refuse(path, fmt::format("\"{}\" is no number from 0 to {}", digits, most));
     } else {
-        refuse(path, fmt::format("{} stands where a number from 0 to {} is needed",
-                                 json.is_structured() ? json.type_name() : json_text(json, -1), most));
+        refuse(path,
+               fmt::format("{} stands where a number from 0 to {} is needed",
+                           json.is_structured() ? json.type_name()
+                                                : json.dump(-1, ' ', false, ordered_json::error_handler_t::replace),
+                           most));
     }
     if (number > most)
         refuse(path, fmt::format("{} does not fit u{}, which ends at {}", number, 8 * width, most));
@@ -86,11 +88,11 @@ Bytes octets_from(const ordered_json& json, const std::string& path)
 {
     if (!json.is_string())
         refuse(path, "hex digits in a string are needed, as in \"0a1b\"");
-    try {
-        return bytes_from_hex(json.get_ref<const std::string&>());
-    } catch (const Fault& fault) {
-        refuse(path, fault.what());
-    }
+    Bytes octets;
+    std::string error;
+    if (!from_hex(json.get_ref<const std::string&>(), octets, error))
+        refuse(path, error);
+    return octets;
 }
 
 void read_text(const ordered_json& json, Field& field, const std::string& path)
@@ -110,7 +112,7 @@ void read_array(const Slot& slot, const ordered_json& json, Field& field, const 
 {
     const auto check_count = [&](std::size_t count) {
         if (count != slot.count)
-            refuse(path, fmt::format("{} instead of {}", counted(count, "element"), slot.count));
+            refuse(path, fmt::format("{} {} instead of {}", count, count == 1 ? "element" : "elements", slot.count));
     };
     if (slot.width == 1) {
         field.octets = octets_from(json, path);
@@ -166,8 +168,8 @@ void read_record(const ordered_json& json, Record& record, const std::string& pa
         while (k < message.slots.size() && message.slots[k].field != name)
             ++k;
         if (k == message.slots.size())
-            refuse(path + "." + name,
-                   fmt::format("{} has no such field; `kesto show {}` lists them", message.name, message.name));
+            refuse(path + "." + name, fmt::format("{} has no such field, but {} to {}", message.name,
+                                                  message.slots.front().field, message.slots.back().field));
         read_field(message.slots[k], value, record.fields[k], path + "." + name);
     }
 }
@@ -196,16 +198,16 @@ ordered_json parse_json(const std::string& text, const std::string& where)
     std::set<std::string> names[most_depth + 1];   // of the object that is open at each depth
     const auto watch = [&](int depth, ordered_json::parse_event_t event, const ordered_json& parsed) {
         if (depth > most_depth)
-            throw Fault(fmt::format("{}: nested deeper than any record", where));
+            throw JsonFault(fmt::format("{}: nested deeper than any record", where));
         if (event == ordered_json::parse_event_t::object_start)
             names[depth].clear();
         if (event != ordered_json::parse_event_t::key)
             return false;
         std::set<std::string>& known = names[depth - 1];
         if (!known.insert(parsed.get<std::string>()).second)
-            throw Fault(fmt::format("{}: \"{}\" stands twice in an object", where, parsed.get<std::string>()));
+            throw JsonFault(fmt::format("{}: \"{}\" stands twice in an object", where, parsed.get<std::string>()));
         if (known.size() > most_names)
-            throw Fault(fmt::format("{}: an object has more names than any message has fields", where));
+            throw JsonFault(fmt::format("{}: an object has more names than any message has fields", where));
         return false;
     };
     try {
@@ -215,10 +217,10 @@ ordered_json parse_json(const std::string& text, const std::string& where)
         parsed = ordered_json::parse(text);
         return parsed;
     } catch (const ordered_json::parse_error& error) {
-        throw Fault(fmt::format("{}: no JSON, at byte {}", where, error.byte));
+        throw JsonFault(fmt::format("{}: no JSON, at byte {}", where, error.byte));
     } catch (const ordered_json::out_of_range&) {
-        throw Fault(fmt::format("{}: a number is out of range", where));
+        throw JsonFault(fmt::format("{}: a number is out of range", where));
     }
 }
 
-}   // namespace kesto::command
+}   // namespace kesto::model
