@@ -20,7 +20,7 @@ void release_block(const Unit& unit, const char* routine, u8* pointer)
 
 void release_elements(const Decoder& element, u8* records, u32 count)
 {
-    if (element.heap_part_count != 0)
+    if (element.owned_block_count != 0)
         for (u32 i = 0; i < count; ++i)
             release_record(element, records + std::size_t{i} * element.record_size);
 }
@@ -79,8 +79,8 @@ bool decode_slots(const Frame& frame, u8* record)
 void release_record(const Decoder& decoder, u8* record)
 {
     ensure_memory_services(*decoder.unit);
-    for (u32 i = 0; i < decoder.heap_part_count; ++i) {
-        const HeapPart& part = decoder.heap_parts[i];
+    for (u32 i = 0; i < decoder.owned_block_count; ++i) {
+        const OwnedBlock& part = decoder.owned_blocks[i];
         u8* const pointer = record + part.pointer;
         if (part.element != nullptr) {
             u8* const records = field_pointer(pointer);
@@ -101,7 +101,7 @@ TableView<Input> open_table_of(Input in, u32 table, u32 slots)
     return view;
 }
 
-bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
+bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
 {
     u8* const copy = allocate(owner, routine, length + 1);   // length < 2^31, as it fits
     set_field<u8*>(field, copy);
@@ -113,7 +113,7 @@ bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 le
     return true;
 }
 
-bool take_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field)
+bool copy_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field)
 {
     u8* const copy = allocate(owner, routine, length);
     set_field<u8*>(field + counted_pointer, copy);
@@ -129,7 +129,7 @@ bool decode_text(const Frame& frame, u32 offset, u8* field)
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
     const u8* const text = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
-    return take_text(*frame.decoder, frame.routine, text, length, field);
+    return copy_text(*frame.decoder, frame.routine, text, length, field);
 }
 
 bool decode_block(const Frame& frame, u32 offset, u8* field)
@@ -141,7 +141,7 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     if (length == 0)
         return true;
     const u8* const block = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
-    return take_block(*frame.decoder, frame.routine, block, length, field);
+    return copy_block(*frame.decoder, frame.routine, block, length, field);
 }
 
 bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder, const char* routine,
@@ -185,12 +185,12 @@ bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& mes
     }
     if (decode_slots(frame, record)) [[likely]]
         return true;
-    if (decoder.heap_part_count != 0)
+    if (decoder.owned_block_count != 0)
         release_record(decoder, record);
     return false;
 }
 
-bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message)
+bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     std::memset(record, 0, message.decoder->record_size);
     return decode_any_nested(in, table, record, message);
@@ -210,7 +210,7 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
     }
     ensure_memory_services(*decoder.unit);
     std::memset(record, 0, decoder.record_size);
-    if (!decode_slots(frame, record) && decoder.heap_part_count != 0)
+    if (!decode_slots(frame, record) && decoder.owned_block_count != 0)
         release_record(decoder, record);
 }
 

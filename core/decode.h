@@ -1,5 +1,5 @@
 // From byte string to record: the decoder for any message and any byte string, as ordinary functions over a message's
-// constants. layout_decoder.h has the fast ways for what is well formed.
+// constants. decode_fast.h has the fast ways for what is well formed.
 //
 // Whatever goes wrong, the record stays safe to release: counts are stored first, pointers are null or own a block.
 #pragma once
@@ -25,7 +25,7 @@ struct SlotInfo {
 struct Decoder;
 
 // A part of a record that lies on the heap; the record's own, or that of a table within it.
-struct HeapPart {
+struct OwnedBlock {
     const char* free_routine;   // of the message whose field it is
     const Decoder* element;     // vectors: of what; null for texts and blocks
     u32 pointer;                // its offset from the record's start
@@ -39,8 +39,8 @@ struct Decoder {
     const NestedDecoder* nested;   // one for each table and vector, in slot order
     const SlotInfo* slots;
     u32 slot_count;
-    u32 heap_part_count;
-    const HeapPart* heap_parts;   // in slot order
+    u32 owned_block_count;
+    const OwnedBlock* owned_blocks;   // in slot order
     u32 record_size;
 };
 
@@ -75,7 +75,7 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 [[nodiscard]] bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 // Into a record that need not be clear.
-[[nodiscard]] bool decode_nested_anew(Input in, u32 table, u8* record, const NestedDecoder& message);
+[[nodiscard]] bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 // The view of a table that has at least so many slots; its vtable is at 0, where none can be, when it has not.
 [[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
@@ -91,8 +91,8 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 
 // Each of these makes a field own a copy of what has been found for it: of a text with a NUL added, of a block that is
 // not empty. False, after a log line, when there is no memory.
-[[nodiscard]] bool take_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field);
-[[nodiscard]] bool take_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field);
+[[nodiscard]] bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field);
+[[nodiscard]] bool copy_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field);
 
 // Each of these decodes one field whose slot is present, and refuses in silence unless it says otherwise.
 [[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
@@ -102,7 +102,7 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 [[nodiscard, gnu::cold]] bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder,
                                                     const char* routine, const NestedDecoder& element);
 
-// Logs a failed allocation too. Inline, as most messages with heap parts are little more than a vector.
+// Logs a failed allocation too. Inline, as most messages with owned blocks are little more than a vector.
 [[nodiscard, gnu::always_inline]] inline bool decode_vector(const Input& in, const TableView<Input>& view, u32 offset,
                                                             u8* field, const Decoder& decoder, const char* routine,
                                                             const NestedDecoder& element)
@@ -128,7 +128,7 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 // Gives back what the record's pointers reach, nulls them and leaves counts and lengths as they are.
 void release_record(const Decoder& decoder, u8* record);
 
-// The body of X_free__unpacked for a message with heap parts.
+// The body of X_free__unpacked for a message with owned blocks.
 void free_unpacked(void* record, const Decoder& decoder);
 
 }   // namespace kesto

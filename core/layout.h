@@ -2,14 +2,14 @@
 // long tables and forms are.
 //
 // Messages of equal layout share their code: a Layout says nothing about names and ids, and an element of a vector is
-// data (see layout_decoder.h, encode.h).
+// data (see decode_fast.h, encode.h).
 #pragma once
 
 #include <array>
 #include <cstddef>
 #include <tuple>
 
-#include "core/run.h"
+#include "core/wire.h"
 
 namespace kesto {
 
@@ -138,7 +138,7 @@ struct Layout {
     static constexpr u32 record_size =
         rounded_up(record_offset[slots - 1] + Slot<slots - 1>::record_size, record_align);
 
-    static constexpr bool has_heap_parts = [] {
+    static constexpr bool has_owned_blocks = [] {
         bool any = false;
         ((any = any || Slots::fixed_bytes == 0), ...);
         return any;
@@ -163,9 +163,9 @@ struct Layout {
     // Those of all tables beneath included.
     static constexpr u32 all_slots = (slots_of<Slots>() + ...);
 
-    // Whether a record without zeros is taken for a picture. Of a vector it is the elements that are dear, and a short
-    // table with heap parts is not worth the look.
-    static constexpr bool has_picture = !has_heap_parts || (!has_vectors && all_slots > 16);
+    // Whether a record without zeros is taken for an image. Of a vector it is the elements that are dear, and a short
+    // table with owned blocks is not worth the look.
+    static constexpr bool has_image = !has_owned_blocks || (!has_vectors && all_slots > 16);
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
@@ -192,7 +192,7 @@ struct Layout {
 
     static constexpr u32 fixed_table_bytes = (table_head_bytes + ... + Slots::fixed_bytes);
     static constexpr u32 fixed_vtable = root_bytes + rounded_up(fixed_table_bytes, 4);   // its position
-    static constexpr u32 fixed_length = has_heap_parts ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
+    static constexpr u32 fixed_length = has_owned_blocks ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
 
     // Calls visit<Slot>(k) for each slot, k being its number; stops and gives false when one of the calls does.
     template <class Visit>

@@ -4,7 +4,7 @@
 #include <span>
 
 #include "core/catalogue.h"
-#include "core/layout_decoder.h"
+#include "core/decode_fast.h"
 #include "core/record_check.h"
 #include "core/routine_name.h"
 #include "platform/mesh.h"
@@ -32,8 +32,8 @@ struct Receiving {
     }();
 
     // In slot order, those of a table where it stands.
-    static constexpr auto heap_parts = [] {
-        std::array<HeapPart, heap_part_count<L>> parts{};
+    static constexpr auto owned_blocks = [] {
+        std::array<OwnedBlock, owned_block_count<L>> parts{};
         u32 next = 0;
         L::each_slot([&]<class Slot>(u32 k) {
             constexpr Kind kind = Slot::kind;
@@ -46,8 +46,8 @@ struct Receiving {
                 parts[next++] = {free_routine.data(), nested[L::nested_before[k]].decoder, offset + counted_pointer};
             } else if constexpr (kind == Kind::table) {
                 const Decoder& inner = *nested[L::nested_before[k]].decoder;
-                for (u32 i = 0; i < inner.heap_part_count; ++i, ++next) {
-                    parts[next] = inner.heap_parts[i];
+                for (u32 i = 0; i < inner.owned_block_count; ++i, ++next) {
+                    parts[next] = inner.owned_blocks[i];
                     parts[next].pointer += offset;
                 }
             }
@@ -59,12 +59,12 @@ struct Receiving {
     static constexpr Decoder decoder{
         .unit = unit,
         .unpack_routine = unpack_routine.data(),
-        .free_routine = L::has_heap_parts ? free_routine.data() : nullptr,
+        .free_routine = L::has_owned_blocks ? free_routine.data() : nullptr,
         .nested = nested.data(),
         .slots = slot_infos<L>.data(),
         .slot_count = L::slots,
-        .heap_part_count = heap_part_count<L>,
-        .heap_parts = heap_parts.data(),
+        .owned_block_count = owned_block_count<L>,
+        .owned_blocks = owned_blocks.data(),
         .record_size = L::record_size,
     };
 };

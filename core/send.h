@@ -1,7 +1,7 @@
 // Encoding as callers see it: packing into their buffer, and sending through MESH, singly and in batches.
 #pragma once
 
-#include "core/encode.h"
+#include "core/pack.h"
 #include "platform/mesh.h"
 
 namespace kesto {
@@ -54,15 +54,15 @@ template <class L>
 template <class L>
 [[gnu::noinline]] int send_single(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
 {
-    if constexpr (L::has_heap_parts) {
+    if constexpr (L::has_owned_blocks) {
         return send_single_compact(channel, record, destination, encoder);
     } else {
         u8 buffer[L::fixed_length];
         ensure_memory_services(*encoder.unit);
         if constexpr (L::is_small)
-            FixedForm<L>::write_here({buffer}, record);
+            FixedImage<L>::write_here({buffer}, record);
         else
-            FixedForm<L>::write(buffer, record);
+            FixedImage<L>::write(buffer, record);
         const MeshSendItem item{buffer, encoder.id, L::fixed_length};
         return hand_over(channel, &item, 1, destination);
     }
@@ -72,8 +72,8 @@ template <class L>
 constexpr LayoutEncoder layout_encoder = [] {
     LayoutEncoder made{measure_message<L>, write_message<L>, bound_message<L>, nullptr, send_single<L>, 0,
                        L::record_size};
-    if constexpr (!L::has_heap_parts) {
-        made.write_fixed = FixedForm<L>::write;
+    if constexpr (!L::has_owned_blocks) {
+        made.write_fixed = FixedImage<L>::write;
         made.fixed_length = L::fixed_length;
     }
     return made;

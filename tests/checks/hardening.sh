@@ -25,7 +25,7 @@ if [[ $library = */libifit_codec.so* ]]; then
     require "flag that keeps it mapped" NODELETE "$dynamic"
     of_codecs=", kept mapped"
     if [ "$objdump" != none ]; then
-        # Copies and clears of a size known when compiled are moves, never string instructions; see core/run.h.
+        # Copies and clears of a size known when compiled are moves, never string instructions; see core/copy.h.
         if $objdump -d "$library" | grep 'rep \(stos\|movs\)' >/dev/null; then
             echo "$library: string instructions"
             missing=1

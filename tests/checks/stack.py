@@ -16,7 +16,7 @@ NODE = re.compile(r'node: \{ title: "(.*?)" label: ".*\\n(\d+) bytes \((.*?)\)')
 EDGE = re.compile(r'edge: \{ sourcename: "(.*?)" targetname: "(.*?)"(?: label: "(.*?):(\d+):\d+")?')
 SERVICE = re.compile(r"\b(allocate|release)\(")
 # These, and what is called through a pointer, may lead to one another. The catalogue bounds how often: by its nesting.
-NESTED = re.compile(r"_ZN5kesto\d+(decode_any_nested|decode_nested_anew|release_record)E")
+NESTED = re.compile(r"_ZN5kesto\d+(decode_any_nested|clear_and_decode_nested|release_record)E")
 ANY = "__indirect_call"
 
 

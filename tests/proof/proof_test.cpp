@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/lanes.h"
 #include "core/wire.h"
 #include "tests/proof/symbolic.h"
 
@@ -28,7 +29,8 @@ void opened_view(SymbolicWorld& world, Role role, const View& view)
     world.state(role, wide(view.vtable) + vtable_head_bytes <= length, "the vtable's head lies inside");
     world.state(role, view.vtable_length <= 0xffff, "a vtable length has 16 bits");
     world.state(role, wide(view.vtable) + wide(view.vtable_length) <= length, "the vtable lies inside");
-    world.state(role, wide(view.table) + wide(view.room) == length, "the room is all from the table's start on");
+    world.state(role, wide(view.table) + wide(view.bytes_after_table) == length,
+                "the room is all from the table's start on");
 }
 
 View any_opened_view(SymbolicWorld& world)
@@ -68,8 +70,8 @@ void fitting_payload(SymbolicWorld& world, Role role, const Word& payload, const
     world.state(role, wide(payload) + wide(count) * width <= wide(world.input().length), "the payload lies inside");
 }
 
-// Of a picture whose own bytes lie inside: what they leave for its bodies is `room`.
-void room_is_left(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& room)
+// Of an image whose own bytes lie inside: what they leave for its bodies is `room`.
+void bytes_are_left(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& room)
 {
     world.state(role, wide(at) + wide(n) + wide(room) <= wide(world.input().length), "all that is left lies inside");
 }
@@ -177,18 +179,18 @@ int bytes_are_held(SymbolicWorld& world)
     return held;
 }
 
-// For any picture of up to 64 KiB, and any part of it before the table.
-int picture_lies_inside(SymbolicWorld& world)
+// For any image of up to 64 KiB, and any part of it before the table.
+int image_lies_inside(SymbolicWorld& world)
 {
     const SymbolicInput in = world.input();
     const Word table = world.any(), before = world.any(), n = world.any(), at_before = world.any();
-    world.rely(n <= 0xffff, "a picture is small");
-    world.rely(before <= n, "the table is in the picture");
+    world.rely(n <= 0xffff, "an image is small");
+    world.rely(before <= n, "the table is in the image");
     Word at = at_before;
-    const bool accepted = picture_fits(in, table, before, n, at);
+    const bool accepted = image_fits(in, table, before, n, at);
     const Truth fits =
         (wide(table) >= wide(before) + root_bytes) & (wide(table) + wide(n) <= wide(in.length) + wide(before));
-    world.promise(accepted == fits, "a picture is looked at if and only if it lies inside");
+    world.promise(accepted == fits, "an image is looked at if and only if it lies inside");
     if (!accepted) {
         world.promise(at == at_before, "a refusal writes nothing");
         return 0;
@@ -202,17 +204,17 @@ int body_is_taken(SymbolicWorld& world)
 {
     const SymbolicInput in = world.input();
     const Word at = world.any(), n = world.any(), position = world.any(), room_before = world.any();
-    room_is_left(world, Role::relied_on, at, n, room_before);
-    world.rely(wide(position) + count_bytes <= wide(n), "the count is in the picture");
+    bytes_are_left(world, Role::relied_on, at, n, room_before);
+    world.rely(wide(position) + count_bytes <= wide(n), "the count is in the image");
     Word room = room_before, length = world.any();
-    const bool accepted = take_body(in, at + position, room, length);
+    const bool accepted = consume_body(in, at + position, room, length);
     const Word count = in.content<u32>(wide(at) + wide(position));
     world.promise(accepted == (count <= room_before), "a body is taken if and only if there is room for it");
     if (!accepted)
         return 0;
     world.promise(length == count, "it is as long as its count says");
     in.touch(wide(at) + wide(position) + count_bytes, wide(length));
-    room_is_left(world, Role::promised, at + length, n, room);
+    bytes_are_left(world, Role::promised, at + length, n, room);
     return 1;
 }
 
@@ -331,8 +333,8 @@ const Contract contracts[] = {
     {"holds_slots, slot_unchecked", slots_are_held, 2},
     {"slot_offset", slot_has_an_offset, 2},
     {"holds_bytes", bytes_are_held, 2},
-    {"picture_fits", picture_lies_inside, 2},
-    {"take_body", body_is_taken, 2},
+    {"image_fits", image_lies_inside, 2},
+    {"consume_body", body_is_taken, 2},
     {"read_scalar<u8>", scalar_is_read<u8>, 2},
     {"read_scalar<u16>", scalar_is_read<u16>, 2},
     {"read_scalar<u32>", scalar_is_read<u32>, 2},

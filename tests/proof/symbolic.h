@@ -82,16 +82,16 @@ struct SymbolicInput {
     Word length;
 
     template <class T>
-    Word load_unchecked(const Word& at, const Word& behind = 0) const
+    Word load_unchecked(const Word& at, const Word& offset = 0) const
     {
-        touch(wide(at) + wide(behind), sizeof(T));
-        return content<T>(wide(at) + wide(behind));
+        touch(wide(at) + wide(offset), sizeof(T));
+        return content<T>(wide(at) + wide(offset));
     }
 
     template <class T>
-    void copy_value_unchecked(const Word& at, const Word& behind, void*) const
+    void copy_value_unchecked(const Word& at, const Word& offset, void*) const
     {
-        touch(wide(at) + wide(behind), sizeof(T));
+        touch(wide(at) + wide(offset), sizeof(T));
     }
 
     template <class T>

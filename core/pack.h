@@ -1,150 +1,14 @@
-// From record to compact form: a size routine that says how many bytes are needed, then a packer without bounds tests.
+// Writes the compact form of a record, without bounds tests: the size was computed before, see measure.h.
 //
 // Both walk the slots of a layout by the same rules, but for the one case in which they are required to differ: a block
-// with a pointer and length 0. Where there is room for the largest table of a layout, its bound, the packer runs alone,
-// and its end gives the size.
+// with a pointer and length 0.
 #pragma once
 
-#include "core/forms.h"
+#include "core/measure.h"
 #include "core/unit.h"
 #include "platform/bounded_memory.h"
 
 namespace kesto {
-
-struct NestedEncoder;
-
-enum class Measure : bool { exactly, bound };
-
-// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32
-// bits.
-using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
-
-// Writes `count` tables from `at` on and fills their cells. Returns the end of what was written.
-using WriteElements = u8* (*)(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested);
-
-// A message inside another one, as far as encoding goes. The routines are null for a table.
-struct NestedEncoder {
-    MeasureElements measure_elements;
-    MeasureElements bound_elements;
-    WriteElements write_elements;
-    const NestedEncoder* nested;   // the messages inside that one
-};
-
-constexpr u64 largest_size = 0xFFFFFFFF;
-constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits stays there
-
-// ---- the size routine ----
-
-// A bound of the size of a table with a picture.
-template <class L>
-[[gnu::always_inline]] inline u64 bound_picture(const u8* record)
-{
-    using Form = FullForm<L>;
-    u64 size = Form::length;
-    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
-        constexpr Body body = Form::bodies[b];
-        const u8* const field = record + body.record_offset;
-        if constexpr (body.kind == Kind::text) {
-            if (field_pointer(field) != nullptr)
-                size += std::strlen(reinterpret_cast<const char*>(field_pointer(field)));
-        } else if (field_pointer(field + counted_pointer) != nullptr) {
-            const u32 length = field_value<u32>(field);
-            size += length != 0 ? length : too_large;
-        }
-        return true;
-    });
-    return size <= largest_size ? size : too_large;
-}
-
-// The size of one table and all beneath it, without a root; too_large for a vector with a count and no pointer. A bound
-// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's
-// end for the size there.
-template <class L, Measure how>
-[[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
-{
-    constexpr bool exactly = how == Measure::exactly;
-    u64 size = L::empty_table;
-    const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
-        const u8* const field = record + L::record_offset[K];
-        if constexpr (Slot::kind == Kind::scalar) {
-            size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
-        } else if constexpr (Slot::kind == Kind::array) {
-            size += cell_bytes + count_bytes + Slot::payload;
-        } else if constexpr (Slot::kind == Kind::text) {
-            const u8* const text = field_pointer(field);
-            if (text != nullptr)
-                size += u64{cell_bytes + count_bytes} + std::strlen(reinterpret_cast<const char*>(text)) + 1;
-        } else if constexpr (Slot::kind == Kind::block) {
-            // required: the pointer alone decides, so a block of length 0 counts 8 bytes that nobody writes
-            if (field_pointer(field + counted_pointer) != nullptr) {
-                const u32 length = field_value<u32>(field);
-                size += u64{cell_bytes + count_bytes} + length;
-                if (!exactly && length == 0)
-                    size = too_large;
-            }
-        } else if constexpr (Slot::kind == Kind::vector) {
-            const u32 count = field_value<u32>(field);
-            if (count != 0) {
-                const u8* const records = field_pointer(field + counted_pointer);
-                if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
-                    return false;
-                const NestedEncoder& element = nested[L::nested_before[K]];
-                const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
-                size += cell_bytes + count_bytes + u64{cell_bytes} * count;
-                size += measure(records, count, element.nested);
-            }
-        } else {
-            using Inner = typename Slot::Layout;
-            size += cell_bytes;
-            if constexpr (exactly || Inner::has_heap_parts)
-                size += measure_table<Inner, how>(field, nested[L::nested_before[K]].nested);
-            else
-                size += FullForm<Inner>::length;
-        }
-        return size <= largest_size;   // so that no sum ever wraps
-    });
-    return fits ? size : too_large;
-}
-
-template <class L, Measure how>
-u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
-{
-    if constexpr (how == Measure::bound && !L::has_heap_parts) {
-        return u64{count} * FullForm<L>::length;
-    } else {
-        u64 size = 0;
-        for (u32 i = 0; i < count && size <= largest_size; ++i) {
-            const u8* const record = records + std::size_t{i} * L::record_size;
-            if constexpr (how == Measure::bound && L::has_picture)
-                size += bound_picture<L>(record);
-            else
-                size += measure_table<L, how>(record, nested);
-        }
-        return size;
-    }
-}
-
-// The size of a whole message, or 0 for a null record and for a size beyond 32 bits.
-template <class L>
-u32 measure_message(const u8* record, const NestedEncoder* nested)
-{
-    if (record == nullptr)
-        return 0;
-    const u64 size = root_bytes + measure_table<L, Measure::exactly>(record, nested);
-    return size <= largest_size ? static_cast<u32>(size) : 0;
-}
-
-// Where there is room for so many bytes the packer may run without a measure before it. Beyond 32 bits there never is.
-template <class L>
-[[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
-{
-    if constexpr (L::has_picture)
-        return root_bytes + bound_picture<L>(record);
-    else
-        return root_bytes + measure_table<L, Measure::bound>(record, nested);
-}
-
-// ---- the packer ----
 
 // Some slots of a vtable in one register.
 template <class Word>
@@ -335,7 +199,7 @@ struct TableWriter {
             using Value = typename Slot<K>::Value;
             open_body<K>(Slot<K>::count);
             if constexpr (host_has_wire_order || sizeof(Value) == 1)
-                copy_run<Slot<K>::payload>(table + at, field<K>());
+                copy_bytes<Slot<K>::payload>(table + at, field<K>());
             else
                 for (u32 i = 0; i < Slot<K>::payload; i += sizeof(Value))
                     store(table + at + i, field_value<Value>(field<K>() + i));
@@ -410,35 +274,35 @@ u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 }
 
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool write_full_table_here(u8* vtable, const u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_write_dense_table_here(u8* vtable, const u8* record)
 {
-    if (!has_full_form<L>(record))
+    if (!is_dense<L>(record))
         return false;
-    FullForm<L>::write_here({vtable}, record);
+    DenseImage<L>::write_here({vtable}, record);
     return true;
 }
 
 template <class L>
 [[nodiscard, gnu::noinline]] bool write_large_full_table(u8* vtable, const u8* record)
 {
-    return write_full_table_here<L>(vtable, record);
+    return try_write_dense_table_here<L>(vtable, record);
 }
 
 // The fast way: a record without a zero scalar. False, and nothing is done, when it is not such a one.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool write_full_table(u8* vtable, const u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_write_dense_table(u8* vtable, const u8* record)
 {
     if constexpr (L::is_small)
-        return write_full_table_here<L>(vtable, record);
+        return try_write_dense_table_here<L>(vtable, record);
     else
         return write_large_full_table<L>(vtable, record);
 }
 
-// The same for a record that has a picture with bodies. Returns the end of what was written.
+// The same for a record that has an image with bodies. Returns the end of what was written.
 template <class L>
-[[nodiscard, gnu::noinline]] u8* write_full_heap_table(u8* vtable, const u8* record)
+[[nodiscard, gnu::noinline]] u8* write_dense_owning_table(u8* vtable, const u8* record)
 {
-    using Form = FullForm<L>;
+    using Form = DenseImage<L>;
     std::array<u32, Form::bodies.size()> lengths;
     typename Form::template Places<u8> to{vtable};
     each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
@@ -464,17 +328,17 @@ template <class L>
 template <class L>
 u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (!L::has_heap_parts) {
-        if (write_full_table<L>(vtable, record))
-            return vtable + FullForm<L>::length;
-    } else if constexpr (L::has_picture) {
-        if (has_full_form<L>(record))
-            return write_full_heap_table<L>(vtable, record);
+    if constexpr (!L::has_owned_blocks) {
+        if (try_write_dense_table<L>(vtable, record))
+            return vtable + DenseImage<L>::length;
+    } else if constexpr (L::has_image) {
+        if (is_dense<L>(record))
+            return write_dense_owning_table<L>(vtable, record);
     }
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
-// Elements: pictures as long as they are, then any. A branch per scalar is cheap where the zeros are where they were in
+// Elements: images as long as they are, then any. A branch per scalar is cheap where the zeros are where they were in
 // the row before, and dear where they are not. That two rows in turn came to the same size is the sign for it.
 template <class L>
 u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
@@ -482,23 +346,23 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
     const u8* record = records;
     u8* cell = cells;
     const u8* const end = records + std::size_t{count} * L::record_size;
-    const auto lead = [&] { store(cell, static_cast<u32>(at + L::vtable_bytes - cell)); };
-    if constexpr (!L::has_heap_parts) {
-        for (; record != end && write_full_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
-            lead();
-            at += FullForm<L>::length;
+    const auto link_cell = [&] { store(cell, static_cast<u32>(at + L::vtable_bytes - cell)); };
+    if constexpr (!L::has_owned_blocks) {
+        for (; record != end && try_write_dense_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
+            link_cell();
+            at += DenseImage<L>::length;
         }
     }
-    if constexpr (L::has_heap_parts && L::has_picture) {
-        for (; record != end && has_full_form<L>(record); record += L::record_size, cell += cell_bytes) {
-            lead();
-            at = write_full_heap_table<L>(at, record);
+    if constexpr (L::has_owned_blocks && L::has_image) {
+        for (; record != end && is_dense<L>(record); record += L::record_size, cell += cell_bytes) {
+            link_cell();
+            at = write_dense_owning_table<L>(at, record);
         }
     }
     std::ptrdiff_t size = 0;
     bool alike = false;
     for (; record != end; record += L::record_size, cell += cell_bytes) {
-        lead();
+        link_cell();
         u8* const vtable = at;
         if (own_tail<L> == Tail::none && (alike || record + L::record_size == end))
             at = write_any_table<L, own_tail<L>>(at, record, nested);

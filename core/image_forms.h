@@ -1,7 +1,7 @@
-// The two pictures of a layout: its fixed form, if it has one, and its compact form when nothing in the record is zero.
+// The two images of a layout: its fixed form, if it has one, and its compact form when nothing in the record is zero.
 #pragma once
 
-#include "core/picture.h"
+#include "core/image.h"
 
 namespace kesto {
 
@@ -23,7 +23,7 @@ constexpr void describe_vtable(const Constants& constant, u32 vtable, const std:
 // The fixed form of a record that stands at `record` in the whole one, from `root` on. Of a nested form the root word
 // is its slot's cell, and leads just as far.
 template <class L>
-constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record = 0, u32 root = 0)
+constexpr void describe_fixed(Constants& constant, List<FieldRun>& field, u32 record = 0, u32 root = 0)
 {
     const u32 table = root + root_bytes;
     constant(root, root_bytes, 4);
@@ -38,15 +38,15 @@ constexpr void describe_fixed(Constants& constant, List<Run>& field, u32 record 
         } else if constexpr (Slot::kind == Kind::array) {
             constant(at, cell_bytes, cell_bytes);
             constant(at + cell_bytes, Slot::count, count_bytes);
-            field(Run{from, at + cell_bytes + count_bytes, Slot::payload, sizeof(typename Slot::Value)});
+            field(FieldRun{from, at + cell_bytes + count_bytes, Slot::payload, sizeof(typename Slot::Value)});
         } else {
-            field(Run{from, at, Slot::record_size, Slot::record_size});
+            field(FieldRun{from, at, Slot::record_size, Slot::record_size});
         }
         return true;
     });
 }
 
-// A place in a picture, and how many bodies stand before it.
+// A place in an image, and how many bodies stand before it.
 struct Place {
     u32 position = 0;
     u32 bodies = 0;
@@ -66,8 +66,8 @@ constexpr void describe_distance(const Constants& constant, List<Sum>& sum, u32 
 // The compact form, without the root, of a record in which no scalar is zero, no text or block is absent and no block
 // empty: what write_table makes of it. Returns its end.
 template <class L>
-constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>& body, List<Sum>& sum, u32 record = 0,
-                              const Place& vtable = {})
+constexpr Place describe_dense(Constants& constant, List<FieldRun>& field, List<Body>& body, List<Sum>& sum,
+                               u32 record = 0, const Place& vtable = {})
 {
     static_assert(!L::has_vectors);
     const Place table{vtable.position + L::vtable_bytes, vtable.bodies};
@@ -77,7 +77,7 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
     L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::scalar) {
             offset[K] = at.position - table.position;
-            field(Run{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
+            field(FieldRun{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
             at.position += Slot::record_size;
         }
         return true;
@@ -88,7 +88,7 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
             at.position += cell_bytes;
         }
     }
-    const auto lead = [&](u32 k, const Place& to) {
+    const auto link_cell = [&](u32 k, const Place& to) {
         const Place cell{table.position + offset[k], table.bodies};
         describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
     };
@@ -96,17 +96,17 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
         constexpr Kind kind = Slot::kind;
         const u32 from = record + L::record_offset[K];
         if constexpr (kind == Kind::array) {
-            lead(K, at);
+            link_cell(K, at);
             constant(at.position, Slot::count, count_bytes);
             at.position += count_bytes;
-            field(Run{from, at.position, Slot::payload, sizeof(typename Slot::Value)});
+            field(FieldRun{from, at.position, Slot::payload, sizeof(typename Slot::Value)});
             at.position += Slot::payload;
         } else if constexpr (kind == Kind::text || kind == Kind::block) {
-            lead(K, at);
+            link_cell(K, at);
             if (kind == Kind::text)
                 sum(Sum{at.position, count_bytes, 0, at.bodies, at.bodies + 1, false});
             else
-                field(Run{from, at.position, count_bytes, count_bytes});
+                field(FieldRun{from, at.position, count_bytes, count_bytes});
             at.position += count_bytes;
             body(Body{kind, from, at.position});
             ++at.bodies;
@@ -122,8 +122,8 @@ constexpr Place describe_full(Constants& constant, List<Run>& field, List<Body>&
     L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::table) {
             using Inner = typename Slot::Layout;
-            lead(K, {at.position + Inner::vtable_bytes, at.bodies});
-            at = describe_full<Inner>(constant, field, body, sum, record + L::record_offset[K], at);
+            link_cell(K, {at.position + Inner::vtable_bytes, at.bodies});
+            at = describe_dense<Inner>(constant, field, body, sum, record + L::record_offset[K], at);
         }
         return true;
     });
@@ -142,38 +142,38 @@ struct FixedDescription {
 };
 
 template <class L>
-struct FullDescription {
+struct DenseDescription {
     static constexpr void describe(Description& form)
     {
-        form.length = describe_full<L>(form.constant, form.field, form.body, form.sum).position;
+        form.length = describe_dense<L>(form.constant, form.field, form.body, form.sum).position;
     }
 };
 
 }   // namespace detail
 
 template <class L>
-using FixedForm = Picture<L, detail::FixedDescription<L>>;
+using FixedImage = Image<L, detail::FixedDescription<L>>;
 
 template <class L>
-using FullForm = Picture<L, detail::FullDescription<L>>;
+using DenseImage = Image<L, detail::DenseDescription<L>>;
 
-// Calls visit<b>() for each body of a picture, b being its number; stops and gives false when one of the calls does.
+// Calls visit<b>() for each body of an image, b being its number; stops and gives false when one of the calls does.
 template <class Form, class Visit>
 [[gnu::always_inline]] inline bool each_body(Visit&& visit)
 {
     return detail::each_number(visit, std::make_integer_sequence<u32, Form::bodies.size()>());
 }
 
-// Whether FullForm is the compact form of this record.
+// Whether DenseImage is the compact form of this record.
 template <class L>
-[[gnu::always_inline]] inline bool has_full_form(const u8* record)
+[[gnu::always_inline]] inline bool is_dense(const u8* record)
 {
     return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar)
             return field_value<typename Slot::Value>(field) != 0;
         else if constexpr (Slot::kind == Kind::table)
-            return has_full_form<typename Slot::Layout>(field);
+            return is_dense<typename Slot::Layout>(field);
         else if constexpr (Slot::kind == Kind::text)
             return field_pointer(field) != nullptr;
         else if constexpr (Slot::kind == Kind::block)

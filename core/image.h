@@ -1,32 +1,32 @@
-// A picture: a form of a message in which every byte is either constant or a byte of the record, at a place known when
+// An image: a form of a message in which every byte is either constant or a byte of the record, at a place known when
 // compiled. The fixed form is one, and the compact form of a record without a zero another.
 //
-// To write a picture is to copy, without a look at the values; to read one is to compare the constants and to copy.
+// To write an image is to copy, without a look at the values; to read one is to compare the constants and to copy.
 // Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece where a later piece is
 // written over it, so that few moves are narrow ones.
 //
-// Texts and blocks, its bodies, are of any length. They stand between the parts of a picture and have no place in it: a
-// position counts the picture's own bytes. So a number that leads past a body, or counts one, is not constant but a
+// Texts and blocks, its bodies, are of any length. They stand between the parts of an image and have no place in it: a
+// position counts the image's own bytes. So a number that leads past a body, or counts one, is not constant but a
 // sum.
 #pragma once
 
 #include <algorithm>
 #include <bit>
 
+#include "core/copy.h"
 #include "core/layout.h"
-#include "core/run.h"
 
 namespace kesto {
 
 // A stretch of a record that stands on the wire just so; `width` is that of its values.
-struct Run {
+struct FieldRun {
     u32 record_offset;
     u32 position;
     u32 bytes;
     u32 width;
 };
 
-// Stands before the picture's byte at `position`, right after its count.
+// Stands before the image's byte at `position`, right after its count.
 struct Body {
     Kind kind;
     u32 record_offset;   // of its field
@@ -52,14 +52,14 @@ constexpr void put(u8* at, u32 value, u32 width)
         at[i] = static_cast<u8>(value >> (8 * i));
 }
 
-// Stores constants in an image, if there is one.
+// Stores constants in their places, if there are any.
 struct Constants {
-    u8* image;
+    u8* bytes;
 
     constexpr void operator()(u32 position, u32 value, u32 width) const
     {
-        if (image != nullptr)
-            put(image + position, value, width);
+        if (bytes != nullptr)
+            put(bytes + position, value, width);
     }
 };
 
@@ -80,14 +80,14 @@ struct List {
 // Takes the description of a form. With null pointers it only counts.
 struct Description {
     Constants constant;
-    List<Run> field;
+    List<FieldRun> field;
     List<Body> body;
     List<Sum> sum;
     u32 length;
 };
 
 // Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
-constexpr bool joins(const Run& run, const Run& next)
+constexpr bool joins(const FieldRun& run, const FieldRun& next)
 {
     return host_has_wire_order && run.record_offset + run.bytes == next.record_offset &&
            run.position + run.bytes == next.position;
@@ -159,10 +159,11 @@ constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 so
 // Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
 // are in that order too; `to` and `from` say which side of a run is which.
 template <std::size_t N, class Visit>
-constexpr void each_piece(const std::array<Run, N>& runs, u32 Run::*to, u32 Run::*from, u32 target_end, Visit&& visit)
+constexpr void each_piece(const std::array<FieldRun, N>& runs, u32 FieldRun::*to, u32 FieldRun::*from, u32 target_end,
+                          Visit&& visit)
 {
     u32 at = 0;
-    for (const Run& run : runs) {
+    for (const FieldRun& run : runs) {
         if (run.*to > at)
             visit(Piece{at, at, run.*to - at, true});
         visit(Piece{run.*to, run.*from, run.bytes, false});
@@ -205,10 +206,10 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form::describe(description) describes a picture by calls of constant(position, value,
+// `L` is the record's layout. Form::describe(description) describes an image by calls of constant(position, value,
 // width), field(run), body(body) and sum(sum), and sets its length; runs and bodies come in the order of the wire.
 template <class L, class Form>
-struct Picture {
+struct Image {
 private:
     // A first walk over the form counts, a second one stores.
     static constexpr detail::Description counted = [] {
@@ -218,8 +219,8 @@ private:
     }();
 
     struct Described {
-        std::array<u8, counted.length> image;
-        std::array<Run, counted.field.count> fields;
+        std::array<u8, counted.length> constants;
+        std::array<FieldRun, counted.field.count> fields;
         std::array<Body, counted.body.count> bodies;
         std::array<Sum, counted.sum.count> sums;
     };
@@ -227,20 +228,20 @@ private:
     static constexpr Described described = [] {
         Described all{};
         detail::Description description{
-            {all.image.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}, counted.length};
+            {all.constants.data()}, {all.fields.data()}, {all.bodies.data()}, {all.sums.data()}, counted.length};
         Form::describe(description);
         return all;
     }();
 
 public:
     static constexpr u32 length = counted.length;
-    static_assert(length <= 0xFFFF);   // picture_fits relies on it
+    static_assert(length <= 0xFFFF);   // image_fits relies on it
 
-    static constexpr auto image = described.image;   // the picture of an all-zero record
+    static constexpr auto constants = described.constants;   // the image of an all-zero record
     static constexpr auto bodies = described.bodies;
     static constexpr auto sums = described.sums;
 
-    // Where the parts are that the bodies leave of a picture: of each, the address that position 0 would have if the
+    // Where the parts are that the bodies leave of an image: of each, the address that position 0 would have if the
     // part began there. So the byte at a position of a part is at the part's address plus the position.
     static constexpr u32 parts = bodies.size() + 1;
     template <class Byte>
@@ -270,9 +271,9 @@ public:
     }
 
     // Joined, in the order of the wire.
-    static constexpr auto runs = detail::collected<Run, [](auto& visit) {
-        Run open{};
-        for (const Run& field : described.fields) {
+    static constexpr auto runs = detail::collected<FieldRun, [](auto& visit) {
+        FieldRun open{};
+        for (const FieldRun& field : described.fields) {
             if (open.bytes != 0 && detail::joins(open, field) && part_of(open.position) == part_of(field.position)) {
                 open.bytes += field.bytes;
                 continue;
@@ -293,13 +294,13 @@ public:
                                   [](const detail::Move& move) { return move.to + move.bytes <= part_end(move.to); }));
         if constexpr (!host_has_wire_order) {
             for (u32 at = 0; at < length; at = part_end(at))
-                std::memcpy(to[part_of(at)] + at, image.data() + at, part_end(at) - at);
-            for (const Run& run : runs)
+                std::memcpy(to[part_of(at)] + at, constants.data() + at, part_end(at) - at);
+            for (const FieldRun& run : runs)
                 copy_turned(to[part_of(run.position)] + run.position, record + run.record_offset, run);
         } else {
             make_moves<writing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
-                const u8* const from = (move.constant ? image.data() : record) + move.from;
+                const u8* const from = (move.constant ? constants.data() : record) + move.from;
                 u8* const at = to[part_of(move.to)] + move.to;
                 if constexpr (move.bytes > detail::move_bytes)
                     detail::copy_long(at, from, move.bytes);
@@ -321,7 +322,7 @@ public:
 
     [[gnu::noinline]] static void write(u8* to, const u8* record) { write_here({to}, record); }
 
-    // Whether the bytes are a picture of some record, which they can be with bodies of any content.
+    // Whether the bytes are an image of some record, which they can be with bodies of any content.
     [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
         static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
@@ -338,7 +339,7 @@ public:
         make_moves<comparing>([&]<u32 m>() __attribute__((always_inline)) {
             constexpr detail::Move move = comparing[m];
             const u8* const left = bytes[part_of(move.to)] + move.to;
-            const u8* const right = image.data() + move.to;
+            const u8* const right = constants.data() + move.to;
             if constexpr (move.bytes > detail::move_bytes)
                 narrow |= detail::differ_long(left, right, move.bytes);
             else if constexpr (move.bytes == detail::move_bytes)
@@ -358,7 +359,7 @@ public:
         return (narrow | halves[0] | halves[1]) == 0;
     }
 
-    // Writes the whole record, pointers and gaps between its fields as zeros, from a picture that matches.
+    // Writes the whole record, pointers and gaps between its fields as zeros, from an image that matches.
     [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
         static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
@@ -366,8 +367,8 @@ public:
             return move.constant || move.from + move.bytes <= part_end(move.from);
         }));
         if constexpr (!host_has_wire_order) {
-            clear_run<L::record_size>(record);
-            for (const Run& run : runs)
+            clear_bytes<L::record_size>(record);
+            for (const FieldRun& run : runs)
                 copy_turned(record + run.record_offset, bytes[part_of(run.position)] + run.position, run);
         } else {
             make_moves<reading>([&]<u32 m>() __attribute__((always_inline)) {
@@ -389,33 +390,34 @@ public:
 private:
     static constexpr auto runs_by_record = [] {
         auto sorted = runs;
-        std::ranges::sort(sorted.begin(), sorted.end(), {}, &Run::record_offset);
+        std::ranges::sort(sorted.begin(), sorted.end(), {}, &FieldRun::record_offset);
         return sorted;
     }();
 
     // What is not compared as it stands: the record's bytes and the sums.
     static constexpr auto not_constant = [] {
-        std::array<Run, runs.size() + sums.size()> all{};
+        std::array<FieldRun, runs.size() + sums.size()> all{};
         std::copy(runs.begin(), runs.end(), all.begin());
         std::transform(sums.begin(), sums.end(), all.begin() + runs.size(), [](const Sum& sum) {
-            return Run{0, sum.position, sum.width, sum.width};
+            return FieldRun{0, sum.position, sum.width, sum.width};
         });
-        std::ranges::sort(all.begin(), all.end(), {}, &Run::position);
+        std::ranges::sort(all.begin(), all.end(), {}, &FieldRun::position);
         return all;
     }();
 
     // Calls visit(piece) for the pieces of each part, in the order of the wire.
     template <std::size_t N, class Visit>
-    static constexpr void each_wire_piece(const std::array<Run, N>& from_record, Visit&& visit)
+    static constexpr void each_wire_piece(const std::array<FieldRun, N>& from_record, Visit&& visit)
     {
-        detail::each_piece(from_record, &Run::position, &Run::record_offset, length, [&](detail::Piece piece) {
-            for (u32 end = piece.to + piece.bytes; piece.to < end; piece.to += piece.bytes) {
-                piece.bytes = std::min(end, part_end(piece.to)) - piece.to;
-                if (piece.constant)
-                    piece.from = piece.to;
-                visit(piece);
-            }
-        });
+        detail::each_piece(from_record, &FieldRun::position, &FieldRun::record_offset, length,
+                           [&](detail::Piece piece) {
+                               for (u32 end = piece.to + piece.bytes; piece.to < end; piece.to += piece.bytes) {
+                                   piece.bytes = std::min(end, part_end(piece.to)) - piece.to;
+                                   if (piece.constant)
+                                       piece.from = piece.to;
+                                   visit(piece);
+                               }
+                           });
     }
 
     static constexpr auto writing = detail::collected<detail::Move, [](auto&& visit) {
@@ -432,7 +434,7 @@ private:
     }>;
 
     static constexpr auto reading = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(runs_by_record, &Run::record_offset, &Run::position, L::record_size,
+        detail::each_piece(runs_by_record, &FieldRun::record_offset, &FieldRun::position, L::record_size,
                            [&](const detail::Piece& piece) {
                                detail::each_move_of(piece, L::record_size,
                                                     piece.constant ? L::record_size : part_end(piece.from), visit);
@@ -459,7 +461,7 @@ private:
     }
 
     // From the record to the wire and back are the same here.
-    static void copy_turned(u8* to, const u8* from, const Run& run)
+    static void copy_turned(u8* to, const u8* from, const FieldRun& run)
     {
         for (u32 i = 0; i < run.bytes; i += run.width)
             for (u32 j = 0; j < run.width; ++j)

@@ -4,11 +4,16 @@
 // take longer than everything else that a codec does to a record.
 #pragma once
 
+#include <cstdint>
+#include <cstring>
 #include <utility>
 
-#include "core/wire.h"
-
 namespace kesto {
+
+using u8 = std::uint8_t;
+using u16 = std::uint16_t;
+using u32 = std::uint32_t;
+using u64 = std::uint64_t;
 
 namespace detail {
 
@@ -56,7 +61,7 @@ template <u32 N>
 }   // namespace detail
 
 template <u32 N>
-inline void copy_run(void* to, const void* from)
+inline void copy_bytes(void* to, const void* from)
 {
     if constexpr (N < detail::move_bytes)
         std::memcpy(to, from, N);
@@ -67,12 +72,26 @@ inline void copy_run(void* to, const void* from)
 }
 
 template <u32 N>
-inline void clear_run(void* to)
+inline void clear_bytes(void* to)
 {
     if constexpr (N < detail::move_bytes)
         std::memset(to, 0, N);
     else
         detail::each_move<N>([&](u32 at) { std::memset(static_cast<u8*>(to) + at, 0, detail::move_bytes); });
+}
+
+// A copy whose size may be known when compiled. In cold code the compiler would make a `rep` instruction of it then,
+// which takes longer than the rest of a table.
+inline void copy_some(u8* to, const u8* from, std::size_t n)
+{
+    constexpr std::size_t step = 16;
+    if (!__builtin_constant_p(n) || n < step || n % step != 0) {
+        std::memcpy(to, from, n);
+        return;
+    }
+#pragma GCC unroll 32
+    for (std::size_t i = 0; i < n; i += step)
+        std::memcpy(to + i, from + i, step);
 }
 
 }   // namespace kesto

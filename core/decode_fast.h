@@ -1,26 +1,27 @@
 // The decoder's fast ways, one of each for a layout. They take what is well formed; what is not, they leave to the
 // decoder for anything, which comes to the same records, logs and refusals.
 //
-// A layout without heap parts has no effect but on its record, so that a fast way may give up at any point. The decoder
-// then begins anew. One with heap parts gives up before it has had an effect, or not at all.
+// A layout without owned blocks has no effect but on its record, so that a fast way may give up at any point. The decoder
+// then begins anew. One with owned blocks gives up before it has had an effect, or not at all.
 #pragma once
 
 #include "core/decode.h"
-#include "core/forms.h"
+#include "core/image_forms.h"
+#include "core/lanes.h"
 #include "platform/bounded_memory.h"
 
 namespace kesto {
 
-// ---- pictures: what our own writers make of most records is recognised as a whole and copied ----
+// ---- images: what our own writers make of most records is recognised as a whole and copied ----
 
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool read_full_table_here(Input in, u32 table, u8* record)
 {
-    using Form = FullForm<L>;
+    using Form = DenseImage<L>;
     u32 at = 0;
-    if (!picture_fits(in, table, L::vtable_bytes, Form::length, at))
+    if (!image_fits(in, table, L::vtable_bytes, Form::length, at))
         return false;
-    const u8* const bytes = in.bytes_unchecked(at, 0, Form::length);   // picture_fits
+    const u8* const bytes = in.bytes_unchecked(at, 0, Form::length);   // image_fits
     if (!Form::matches({bytes}))
         return false;
     Form::read(record, {bytes});
@@ -33,21 +34,21 @@ template <class L>
     return read_full_table_here<L>(in, table, record);
 }
 
-// A table in compact form, with all beneath it. False, and nothing is written, when it is not such a picture.
+// A table in compact form, with all beneath it. False, and nothing is written, when it is not such an image.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_full_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_dense_table(Input in, u32 table, u8* record)
 {
     if constexpr (L::is_small)
         return read_full_table_here<L>(in, table, record);
     else   // a message that is too short for it is spared the call
-        return holds_bytes(in, FullForm<L>::length) && read_large_full_table<L>(in, table, record);
+        return holds_bytes(in, DenseImage<L>::length) && read_large_full_table<L>(in, table, record);
 }
 
 // A message in fixed form.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_fixed_message(Input in, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_fixed_message(Input in, u8* record)
 {
-    using Form = FixedForm<L>;
+    using Form = FixedImage<L>;
     if (!holds_bytes(in, Form::length))
         return false;
     const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);   // holds_bytes
@@ -78,9 +79,9 @@ constexpr Widths<L::slots> scalar_widths = [] {
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {
-    constexpr bool has_compact_way = pointer_bytes == 8;
-    if (!has_compact_way || !open_compact_table(in, table, L::slots, view)) {
-        if (has_compact_way && L::has_vectors)
+    constexpr bool has_compact_path = pointer_bytes == 8;
+    if (!has_compact_path || !open_compact_table(in, table, L::slots, view)) {
+        if (has_compact_path && L::has_vectors)
             return false;
         view = open_table_of(in, table, L::slots);
         if (view.vtable == 0)
@@ -90,7 +91,7 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard]] bool read_plain_table(Input in, u32 table, u8* record);
+[[nodiscard]] bool try_flat_table(Input in, u32 table, u8* record);
 
 // The bytes of a record that belong to no field.
 template <class L>
@@ -99,72 +100,72 @@ template <class L>
     each_slot_number<L>([&]<u32 K>() __attribute__((always_inline)) {
         constexpr u32 end = L::record_offset[K] + L::template Slot<K>::record_size;
         constexpr u32 next = K + 1 < L::slots ? L::record_offset[K + 1] : L::record_size;
-        clear_run<next - end>(record + end);
+        clear_bytes<next - end>(record + end);
         return true;
     });
 }
 
 template <class Slot>
-[[nodiscard, gnu::always_inline]] inline bool read_plain_slot(const Input& in, const TableView<Input>& view, u32 K,
-                                                              u8* field)
+[[nodiscard, gnu::always_inline]] inline bool try_flat_slot(const Input& in, const TableView<Input>& view, u32 K,
+                                                            u8* field)
 {
     const u32 offset = slot_unchecked(in, view, K);
     if constexpr (Slot::kind == Kind::scalar) {
         read_tested_scalar<typename Slot::Value>(in, view, offset, field);
         return true;
     } else if (offset == 0) {
-        clear_run<Slot::record_size>(field);
+        clear_bytes<Slot::record_size>(field);
         return true;
     } else if constexpr (Slot::kind == Kind::array) {
         return read_array<typename Slot::Value>(in, view, offset, Slot::count, field);
     } else {
         u32 table = 0;
-        return nested_table(in, view, offset, table) && read_plain_table<typename Slot::Layout>(in, table, field);
+        return nested_table(in, view, offset, table) && try_flat_table<typename Slot::Layout>(in, table, field);
     }
 }
 
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_plain_table_here(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_flat_table_here(Input in, u32 table, u8* record)
 {
     TableView<Input> view;
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return false;
     clear_gaps<L>(record);
     return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
-        return read_plain_slot<Slot>(in, view, K, record + L::record_offset[K]);
+        return try_flat_slot<Slot>(in, view, K, record + L::record_offset[K]);
     });
 }
 
-// Any table of a layout without heap parts that is well formed. When it is not, false: the record may hold a part of
+// Any table of a layout without owned blocks that is well formed. When it is not, false: the record may hold a part of
 // it, unless the tests of the table itself have failed.
 template <class L>
-[[nodiscard, gnu::noinline]] bool read_plain_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::noinline]] bool try_flat_table(Input in, u32 table, u8* record)
 {
-    return read_plain_table_here<L>(in, table, record);
+    return try_flat_table_here<L>(in, table, record);
 }
 
 // The same where speed is worth a copy of the code, if it is a short one.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_short_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_short_table(Input in, u32 table, u8* record)
 {
-    return L::is_tiny ? read_plain_table_here<L>(in, table, record) : read_plain_table<L>(in, table, record);
+    return L::is_tiny ? try_flat_table_here<L>(in, table, record) : try_flat_table<L>(in, table, record);
 }
 
 // ---- nested tables ----
 
 template <class L>
-[[nodiscard]] bool decode_heap_table(Input in, u32 table, u8* record, const NestedDecoder& message);
+[[nodiscard]] bool decode_owning_table(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 template <class L>
 [[nodiscard]] bool decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
-    if constexpr (L::has_heap_parts)
-        return decode_heap_table<L>(in, table, record, message);
+    if constexpr (L::has_owned_blocks)
+        return decode_owning_table<L>(in, table, record, message);
     else
-        return read_plain_table<L>(in, table, record) || decode_nested_anew(in, table, record, message);
+        return try_flat_table<L>(in, table, record) || clear_and_decode_nested(in, table, record, message);
 }
 
-// ---- layouts with heap parts ----
+// ---- layouts with owned blocks ----
 
 // `in` and `view` are the frame's: copies that no store to a record can change.
 template <class L, class Slot>
@@ -173,7 +174,7 @@ template <class L, class Slot>
 {
     u8* const field = record + L::record_offset[K];
     if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array) {
-        return read_plain_slot<Slot>(in, view, K, field);
+        return try_flat_slot<Slot>(in, view, K, field);
     } else {
         const u32 offset = slot_unchecked(in, view, K);
         if (offset == 0)
@@ -201,13 +202,13 @@ enum class Reading : u8 { none, refused, done };   // none: nothing was done
 // fault it is released. In slot order, as a fault leaves unset what is after it.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline Reading
-read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
+try_owning_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
 {
     TableView<Input> view;
     if (!open_tested_table<L>(in, table, view)) [[unlikely]]
         return Reading::none;
     if (clear)
-        clear_run<L::record_size>(record);
+        clear_bytes<L::record_size>(record);
     const Frame frame{in, view, &decoder, routine};
     const bool all = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         return decode_slot<L, Slot>(frame, in, view, K, record);
@@ -219,35 +220,35 @@ read_heap_table_here(Input in, u32 table, u8* record, const Decoder& decoder, co
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] Reading read_heap_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                     const char* routine, bool clear)
+[[nodiscard, gnu::noinline]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                      const char* routine, bool clear)
 {
-    return read_heap_table_here<L>(in, table, record, decoder, routine, clear);
+    return try_owning_table_here<L>(in, table, record, decoder, routine, clear);
 }
 
 // As decode_any_nested.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool decode_heap_table(Input in, u32 table, u8* record,
-                                                                const NestedDecoder& message)
+[[nodiscard, gnu::always_inline]] inline bool decode_owning_table(Input in, u32 table, u8* record,
+                                                                  const NestedDecoder& message)
 {
-    const Reading reading = read_heap_table<L>(in, table, record, *message.decoder, message.routine, false);
+    const Reading reading = try_owning_table<L>(in, table, record, *message.decoder, message.routine, false);
     if (reading == Reading::none) [[unlikely]]
         return decode_any_nested(in, table, record, message);
     return reading == Reading::done;
 }
 
-// ---- pictures with heap parts ----
+// ---- images with owned blocks ----
 
 // Fields after the one that failed read as zero. Marked cold it would be compiled for size, to a string instruction.
-[[gnu::noinline]] inline void clear_behind(u8* record, u32 end, u32 record_end)
+[[gnu::noinline]] inline void clear_after(u8* record, u32 end, u32 record_end)
 {
     std::memset(record + end, 0, record_end - end);
 }
 
-// Gives the record of a picture what it owns, in slot order; `base` is where the fields of `L` begin in it.
+// Gives the record of an image what it owns, in slot order; `base` is where the fields of `L` begin in it.
 template <class Form, class L, u32 base>
-[[nodiscard, gnu::always_inline]] inline bool take_heap_parts(const typename Form::template Places<const u8>& bytes,
-                                                              u8* record, const Decoder& decoder, const char* routine)
+[[nodiscard, gnu::always_inline]] inline bool copy_owned_blocks(const typename Form::template Places<const u8>& bytes,
+                                                                u8* record, const Decoder& decoder, const char* routine)
 {
     const bool all = each_slot_number<L>([&]<u32 K>() __attribute__((always_inline)) {
         using Slot = typename L::template Slot<K>;
@@ -257,20 +258,20 @@ template <class Form, class L, u32 base>
             bool taken;
             if constexpr (Slot::kind == Kind::table) {
                 const NestedDecoder& message = decoder.nested[L::nested_before[K]];
-                taken = take_heap_parts<Form, typename Slot::Layout, offset>(bytes, record, *message.decoder,
-                                                                             message.routine) ||
+                taken = copy_owned_blocks<Form, typename Slot::Layout, offset>(bytes, record, *message.decoder,
+                                                                               message.routine) ||
                         !Slot::fault_ends_read;
             } else {
                 constexpr u32 b = Form::body_of(offset);
                 const u8* const from = bytes[b] + Form::bodies[b].position;
                 const auto length = static_cast<u32>(bytes[b + 1] - bytes[b]);
                 if constexpr (Slot::kind == Kind::text)
-                    taken = take_text(decoder, routine, from, length, field);
+                    taken = copy_text(decoder, routine, from, length, field);
                 else
-                    taken = take_block(decoder, routine, from, length, field);
+                    taken = copy_block(decoder, routine, from, length, field);
             }
             if (!taken) [[unlikely]]
-                clear_behind(record, offset + Slot::record_size, base + L::record_size);
+                clear_after(record, offset + Slot::record_size, base + L::record_size);
             return taken;
         }
         return true;
@@ -280,67 +281,67 @@ template <class Form, class L, u32 base>
     return all;
 }
 
-enum class Behind : u8 { nothing, anything };
+enum class After : u8 { nothing, anything };
 
 // A table in compact form in which nothing is zero, with all beneath it. With nothing after it, as in a message of its
 // own, most others are told from it by their length.
 template <class L>
-[[nodiscard, gnu::noinline]] Reading read_full_heap_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                          const char* routine, Behind behind)
+[[nodiscard, gnu::noinline]] Reading try_dense_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                            const char* routine, After after)
 {
-    using Form = FullForm<L>;
+    using Form = DenseImage<L>;
     u32 at = 0;
-    if (!picture_fits(in, table, L::vtable_bytes, Form::length, at))
+    if (!image_fits(in, table, L::vtable_bytes, Form::length, at))
         return Reading::none;
     u32 room = in.length - at - Form::length;
-    typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // picture_fits
+    typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // image_fits
     const bool fit = each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
         constexpr Body body = Form::bodies[b];
         u32 length = 0;
-        if (!take_body(in, at + body.position - count_bytes, room, length))
+        if (!consume_body(in, at + body.position - count_bytes, room, length))
             return false;
         at += length;
-        bytes[b + 1] = in.bytes_unchecked(at, 0, Form::length);   // take_body
+        bytes[b + 1] = in.bytes_unchecked(at, 0, Form::length);   // consume_body
         return length != 0 || body.kind == Kind::text;
     });
-    if (!fit || (behind == Behind::nothing && room != 0) || !Form::matches(bytes))
+    if (!fit || (after == After::nothing && room != 0) || !Form::matches(bytes))
         return Reading::none;
     Form::read(record, bytes);
-    return take_heap_parts<Form, L, 0>(bytes, record, decoder, routine) ? Reading::done : Reading::refused;
+    return copy_owned_blocks<Form, L, 0>(bytes, record, decoder, routine) ? Reading::done : Reading::refused;
 }
 
 // ---- elements ----
 
-// Elements: pictures as long as they are, then any.
+// Elements: images as long as they are, then any.
 template <class L>
-bool decode_plain_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
     u32 i = 0, table = 0;
     u8* record = records;
     for (; i < count; ++i, record += L::record_size) {
         if (!element_table(in, cells, i, table))
             return false;
-        if (!read_full_table<L>(in, table, record))
+        if (!try_dense_table<L>(in, table, record))
             break;
     }
     for (; i < count; ++i, record += L::record_size) {
         if (!element_table(in, cells, i, table))
             return false;
-        if (!read_short_table<L>(in, table, record) && !decode_nested_anew(in, table, record, element))
+        if (!try_short_table<L>(in, table, record) && !clear_and_decode_nested(in, table, record, element))
             return false;
     }
     return true;
 }
 
 template <class L>
-bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+bool decode_owning_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
     u32 i = 0, table = 0;
     u8* record = records;
     Reading reading = Reading::none;
-    if constexpr (L::has_picture) {
+    if constexpr (L::has_image) {
         for (; i < count && element_table(in, cells, i, table); ++i, record += L::record_size) {
-            reading = read_full_heap_table<L>(in, table, record, *element.decoder, element.routine, Behind::anything);
+            reading = try_dense_owning_table<L>(in, table, record, *element.decoder, element.routine, After::anything);
             if (reading != Reading::done)
                 break;
         }
@@ -352,7 +353,7 @@ bool decode_heap_elements(Input in, u32 cells, u32 count, u8* records, const Nes
     if (reading == Reading::refused)
         return false;
     for (; i < count; ++i, record += L::record_size)
-        if (!element_table(in, cells, i, table) || !decode_heap_table<L>(in, table, record, element))
+        if (!element_table(in, cells, i, table) || !decode_owning_table<L>(in, table, record, element))
             return false;
     return true;
 }
@@ -379,11 +380,11 @@ constexpr std::array<SlotInfo, L::slots> slot_infos = [] {
 }();
 
 template <class L>
-constexpr u32 heap_part_count = [] {
+constexpr u32 owned_block_count = [] {
     u32 count = 0;
     L::each_slot([&]<class Slot>(u32) {
         if constexpr (Slot::kind == Kind::table)
-            count += heap_part_count<typename Slot::Layout>;
+            count += owned_block_count<typename Slot::Layout>;
         else
             count += Slot::fixed_bytes == 0;
         return true;
@@ -394,10 +395,10 @@ constexpr u32 heap_part_count = [] {
 template <class L>
 constexpr DecodeElements elements_decoder()
 {
-    if constexpr (L::has_heap_parts)
-        return decode_heap_elements<L>;
+    if constexpr (L::has_owned_blocks)
+        return decode_owning_elements<L>;
     else
-        return decode_plain_elements<L>;
+        return decode_flat_elements<L>;
 }
 
 // ---- messages ----
@@ -405,21 +406,21 @@ constexpr DecodeElements elements_decoder()
 // False, and nothing is done that decode_message does not do again, if no fast path applies. The services must have
 // been looked up: fast paths allocate through the unit's hooks as they find them.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_message(Input in, u8* record, const Decoder& decoder)
+[[nodiscard, gnu::always_inline]] inline bool try_message(Input in, u8* record, const Decoder& decoder)
 {
     const u32 table = root_table(in);
-    if constexpr (L::has_heap_parts) {
-        if constexpr (L::has_picture)
-            if (read_full_heap_table<L>(in, table, record, decoder, decoder.unpack_routine, Behind::nothing) !=
+    if constexpr (L::has_owned_blocks) {
+        if constexpr (L::has_image)
+            if (try_dense_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, After::nothing) !=
                 Reading::none)
                 return true;
         if constexpr (L::has_vectors)   // and so stands in no other table
-            return read_heap_table_here<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
+            return try_owning_table_here<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
         else
-            return read_heap_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
+            return try_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
     } else {
-        return (table == root_bytes ? read_fixed_message<L>(in, record) : read_full_table<L>(in, table, record)) ||
-               read_short_table<L>(in, table, record);
+        return (table == root_bytes ? try_fixed_message<L>(in, record) : try_dense_table<L>(in, table, record)) ||
+               try_short_table<L>(in, table, record);
     }
 }
 
@@ -430,7 +431,7 @@ template <class L>
     // The first decode takes the general path, which looks the services up between the root's tests and the first
     // store.
     const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
-                      read_message<L>({bytes, length}, record, decoder);
+                      try_message<L>({bytes, length}, record, decoder);
     if (!done) [[unlikely]]
         decode_message(bytes, length, record, decoder);
     return L::record_size;

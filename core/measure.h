@@ -1,0 +1,140 @@
+// How many bytes the compact form of a record takes: exactly, or a bound. Where a buffer has room for the bound, the packer
+// (pack.h) runs alone, and its end gives the size.
+#pragma once
+
+#include "core/image_forms.h"
+
+namespace kesto {
+
+struct NestedEncoder;
+
+enum class Measure : bool { exactly, bound };
+
+// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32
+// bits.
+using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
+
+// Writes `count` tables from `at` on and fills their cells. Returns the end of what was written.
+using WriteElements = u8* (*)(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested);
+
+// A message inside another one, as far as encoding goes. The routines are null for a table.
+struct NestedEncoder {
+    MeasureElements measure_elements;
+    MeasureElements bound_elements;
+    WriteElements write_elements;
+    const NestedEncoder* nested;   // the messages inside that one
+};
+
+constexpr u64 largest_size = 0xFFFFFFFF;
+constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits stays there
+
+// A bound of the size of a table with an image.
+template <class L>
+[[gnu::always_inline]] inline u64 bound_image(const u8* record)
+{
+    using Form = DenseImage<L>;
+    u64 size = Form::length;
+    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
+        constexpr Body body = Form::bodies[b];
+        const u8* const field = record + body.record_offset;
+        if constexpr (body.kind == Kind::text) {
+            if (field_pointer(field) != nullptr)
+                size += std::strlen(reinterpret_cast<const char*>(field_pointer(field)));
+        } else if (field_pointer(field + counted_pointer) != nullptr) {
+            const u32 length = field_value<u32>(field);
+            size += length != 0 ? length : too_large;
+        }
+        return true;
+    });
+    return size <= largest_size ? size : too_large;
+}
+
+// The size of one table and all beneath it, without a root; too_large for a vector with a count and no pointer. A bound
+// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's
+// end for the size there.
+template <class L, Measure how>
+[[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
+{
+    constexpr bool exactly = how == Measure::exactly;
+    u64 size = L::empty_table;
+    const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        const u8* const field = record + L::record_offset[K];
+        if constexpr (Slot::kind == Kind::scalar) {
+            size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
+        } else if constexpr (Slot::kind == Kind::array) {
+            size += cell_bytes + count_bytes + Slot::payload;
+        } else if constexpr (Slot::kind == Kind::text) {
+            const u8* const text = field_pointer(field);
+            if (text != nullptr)
+                size += u64{cell_bytes + count_bytes} + std::strlen(reinterpret_cast<const char*>(text)) + 1;
+        } else if constexpr (Slot::kind == Kind::block) {
+            // required: the pointer alone decides, so a block of length 0 counts 8 bytes that nobody writes
+            if (field_pointer(field + counted_pointer) != nullptr) {
+                const u32 length = field_value<u32>(field);
+                size += u64{cell_bytes + count_bytes} + length;
+                if (!exactly && length == 0)
+                    size = too_large;
+            }
+        } else if constexpr (Slot::kind == Kind::vector) {
+            const u32 count = field_value<u32>(field);
+            if (count != 0) {
+                const u8* const records = field_pointer(field + counted_pointer);
+                if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
+                    return false;
+                const NestedEncoder& element = nested[L::nested_before[K]];
+                const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
+                size += cell_bytes + count_bytes + u64{cell_bytes} * count;
+                size += measure(records, count, element.nested);
+            }
+        } else {
+            using Inner = typename Slot::Layout;
+            size += cell_bytes;
+            if constexpr (exactly || Inner::has_owned_blocks)
+                size += measure_table<Inner, how>(field, nested[L::nested_before[K]].nested);
+            else
+                size += DenseImage<Inner>::length;
+        }
+        return size <= largest_size;   // so that no sum ever wraps
+    });
+    return fits ? size : too_large;
+}
+
+template <class L, Measure how>
+u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
+{
+    if constexpr (how == Measure::bound && !L::has_owned_blocks) {
+        return u64{count} * DenseImage<L>::length;
+    } else {
+        u64 size = 0;
+        for (u32 i = 0; i < count && size <= largest_size; ++i) {
+            const u8* const record = records + std::size_t{i} * L::record_size;
+            if constexpr (how == Measure::bound && L::has_image)
+                size += bound_image<L>(record);
+            else
+                size += measure_table<L, how>(record, nested);
+        }
+        return size;
+    }
+}
+
+// The size of a whole message, or 0 for a null record and for a size beyond 32 bits.
+template <class L>
+u32 measure_message(const u8* record, const NestedEncoder* nested)
+{
+    if (record == nullptr)
+        return 0;
+    const u64 size = root_bytes + measure_table<L, Measure::exactly>(record, nested);
+    return size <= largest_size ? static_cast<u32>(size) : 0;
+}
+
+// Where there is room for so many bytes the packer may run without a measure before it. Beyond 32 bits there never is.
+template <class L>
+[[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
+{
+    if constexpr (L::has_image)
+        return root_bytes + bound_image<L>(record);
+    else
+        return root_bytes + measure_table<L, Measure::bound>(record, nested);
+}
+
+}   // namespace kesto
