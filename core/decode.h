@@ -1,5 +1,5 @@
 // From byte string to record: the decoder for any message and any byte string, as ordinary functions over a message's
-// constants. decode_fast.h has the fast ways for what is well formed.
+// constants. decode_fast.h has the fast paths for what is well formed.
 //
 // Whatever goes wrong, the record stays safe to release: counts are stored first, pointers are null or own a block.
 #pragma once
@@ -24,7 +24,7 @@ struct SlotInfo {
 
 struct Decoder;
 
-// A part of a record that lies on the heap; the record's own, or that of a table within it.
+// A block that a record owns: its own, or one of a table within it.
 struct OwnedBlock {
     const char* free_routine;   // of the message whose field it is
     const Decoder* element;     // vectors: of what; null for texts and blocks

@@ -1,8 +1,26 @@
-// The decoder's fast ways, one of each for a layout. They take what is well formed; what is not, they leave to the
-// decoder for anything, which comes to the same records, logs and refusals.
+// The decoder's fast paths, one function of each kind for a layout. A try_... function may decline; it takes what is
+// well formed and leaves the rest to the general path (decode.cpp), which reaches the same records, logs and refusals.
 //
-// A layout without owned blocks has no effect but on its record, so that a fast way may give up at any point. The decoder
-// then begins anew. One with owned blocks gives up before it has had an effect, or not at all.
+// A flat layout, one without owned blocks, affects nothing but its record, so a try on it may decline at any point and
+// the general path starts over. A try on an owning layout declines before it has had an effect, or not at all.
+//
+// Which paths a layout takes, in this order; facts are members of Layout (layout.h):
+//
+//   layout                         message                             element, nested table
+//   flat                           fixed image if the root is at 4,    dense image (elements only, until one is none),
+//                                  else dense image; flat table        flat table; general path
+//   owning, has_image              dense image; owning table           dense image (elements only); owning table; general
+//   owning, else                   owning table                        owning table; general path
+//
+//   fact              target       effect, and the measured reason
+//   has_image         all          a dense image pays from 17 slots on where texts and blocks part it; a vector's time
+//                                  goes to its elements
+//   is_small          all          up to 14 slots an image is written and read inline, else by a call: the call then
+//                                  costs more than it saves. 16 slots would add 3 KB of code
+//   is_tiny           64 bits      up to 12 slots a flat table is read inline even in the loop over elements
+//   has_vectors       64 bits      such a table is opened in compact form only: its elements take the time
+//   pointer_bytes     64 bits      open_compact_table is code per layout, for which 32-bit machines have no room: there
+//                                  open_table_of, one function for all, opens every table
 #pragma once
 
 #include "core/decode.h"
@@ -12,10 +30,10 @@
 
 namespace kesto {
 
-// ---- images: what our own writers make of most records is recognised as a whole and copied ----
+// ---- images: most of what our own writers produce is recognised as a whole and copied ----
 
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool read_full_table_here(Input in, u32 table, u8* record)
+[[nodiscard, gnu::always_inline]] inline bool try_dense_table_here(Input in, u32 table, u8* record)
 {
     using Form = DenseImage<L>;
     u32 at = 0;
@@ -29,19 +47,19 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] bool read_large_full_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::noinline]] bool try_large_dense_table(Input in, u32 table, u8* record)
 {
-    return read_full_table_here<L>(in, table, record);
+    return try_dense_table_here<L>(in, table, record);
 }
 
-// A table in compact form, with all beneath it. False, and nothing is written, when it is not such an image.
+// A table in compact form, with all beneath it. False, and nothing is written, if it is no dense image.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_dense_table(Input in, u32 table, u8* record)
 {
     if constexpr (L::is_small)
-        return read_full_table_here<L>(in, table, record);
-    else   // a message that is too short for it is spared the call
-        return holds_bytes(in, DenseImage<L>::length) && read_large_full_table<L>(in, table, record);
+        return try_dense_table_here<L>(in, table, record);
+    else   // saves the call for a message that is too short
+        return holds_bytes(in, DenseImage<L>::length) && try_large_dense_table<L>(in, table, record);
 }
 
 // A message in fixed form.
@@ -73,9 +91,7 @@ constexpr Widths<L::slots> scalar_widths = [] {
     return widths;
 }();
 
-// Opens a table whose vtable has all slots and whose scalars all lie inside. The compact way is code for each layout,
-// which 32-bit machines, with less room for it, do without. Where that is all there is for a table with a vector, whose
-// elements are what takes time, others are left to the decoder for anything.
+// Opens a table whose vtable has all slots and whose scalars all lie inside; see the table above.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {

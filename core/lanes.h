@@ -67,7 +67,7 @@ struct Widths {
 };
 
 // Whether all fields of a vtable that holds so many slots lie inside, absent ones as if they stood at the table's first
-// byte. False also where this way of looking at them cannot tell.
+// byte. False also where lanes are too narrow to tell.
 template <std::size_t N>
 [[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
                                                           const Widths<N>& widths)

@@ -144,11 +144,10 @@ struct Layout {
         return any;
     }();
 
-    // Whether a call costs more than it spares, of code that more than one routine needs. With 16 slots the library
-    // grows by 3 KB, which its size has no room for.
+    // Inline helpers shared by several routines only up to so many slots; 16 would add 3 KB of code.
     static constexpr bool is_small = slots <= 14;
 
-    // Whether it costs more even in a loop over elements. Never where code is larger and its size matters more.
+    // The same in a loop over elements, and never on 32-bit machines, where size matters more.
     static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
 
     // Whether every table, in any form, has at least 8 bytes after its scalars: a cell and a body or another table.
@@ -163,8 +162,8 @@ struct Layout {
     // Those of all tables beneath included.
     static constexpr u32 all_slots = (slots_of<Slots>() + ...);
 
-    // Whether a record without zeros is taken for an image. Of a vector it is the elements that are dear, and a short
-    // table with owned blocks is not worth the look.
+    // Whether a record without zeros has a dense image. With a vector the elements take the time, and a short table with
+    // owned blocks is not worth the test.
     static constexpr bool has_image = !has_owned_blocks || (!has_vectors && all_slots > 16);
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;

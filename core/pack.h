@@ -283,19 +283,19 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] bool write_large_full_table(u8* vtable, const u8* record)
+[[nodiscard, gnu::noinline]] bool write_large_dense_table(u8* vtable, const u8* record)
 {
     return try_write_dense_table_here<L>(vtable, record);
 }
 
-// The fast way: a record without a zero scalar. False, and nothing is done, when it is not such a one.
+// The fast path: a record without a zero scalar. False, and nothing is written, if it has one.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_write_dense_table(u8* vtable, const u8* record)
 {
     if constexpr (L::is_small)
         return try_write_dense_table_here<L>(vtable, record);
     else
-        return write_large_full_table<L>(vtable, record);
+        return write_large_dense_table<L>(vtable, record);
 }
 
 // The same for a record that has an image with bodies. Returns the end of what was written.
@@ -338,8 +338,8 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
-// Elements: images as long as they are, then any. A branch per scalar is cheap where the zeros are where they were in
-// the row before, and dear where they are not. That two rows in turn came to the same size is the sign for it.
+// Elements: dense images until one is not dense, then any. Branching per scalar is fast while consecutive rows have zeros
+// in the same slots; that two rows in a row came to the same size is taken as the sign of it.
 template <class L>
 u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
 {

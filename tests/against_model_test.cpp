@@ -65,7 +65,7 @@ TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
         ASSERT_NO_FATAL_FAILURE(expect_both_ways(record));
 }
 
-// Elements of every density in every order: each may take another way than the one before it.
+// Elements of every density in every order: each may take another path than the one before it.
 void mix_elements(Record& record, Random& chance)
 {
     const model::Message& message = *record.message;
