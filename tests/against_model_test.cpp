@@ -49,7 +49,7 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EveryMessage);
 
-TEST_P(EveryMessage, encodes_like_the_reference_and_decodes_what_it_encodes)
+TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
 {
     Random chance = random(1);
     for (int round = 0; round < 12; ++round)

@@ -319,7 +319,7 @@ std::vector<Case> cases_of_the_corpus()
     return cases;
 }
 
-TEST_F(Dissector, shows_what_the_reference_reads_and_stops_where_it_stops)
+TEST_F(Dissector, shows_what_the_model_reads_and_stops_where_it_stops)
 {
     std::vector<Case> cases = cases_of_all_messages();
     for (Case& one : cases_of_the_corpus())
