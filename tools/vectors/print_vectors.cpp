@@ -9,9 +9,11 @@
 #include <nlohmann/json.hpp>
 
 #include "model/encode.h"
+#include "model/hex.h"
 #include "model/json.h"
 #include "model/noncanonical.h"
 #include "tools/kesto/explain.h"
+#include "tools/kesto/input.h"
 #include "tools/print_files.h"
 #include "tools/vectors/damage.h"
 
