@@ -1,4 +1,4 @@
-// What the printed Cap'n Proto adapters share.
+// Shared by the printed Cap'n Proto adapters.
 #pragma once
 
 #include <capnp/message.h>
@@ -22,7 +22,7 @@ inline capnp::ReaderOptions options()
     return options;
 }
 
-// What writeMessage does for one segment, without a stream in between.
+// As writeMessage for one segment, without a stream.
 inline int write(capnp::MallocMessageBuilder& message, u8* buffer, u32* length)
 {
     const auto segments = message.getSegmentsForOutput();

@@ -1,4 +1,4 @@
-// What the printed nanopb adapters share.
+// Shared by the printed nanopb adapters.
 //
 // Texts, blocks and vectors go through callbacks, straight from and to the record. With pointer fields they would be
 // copied once more, and every decoded row would cost a realloc.
@@ -60,7 +60,7 @@ bool put_vector(pb_ostream_t* stream, const pb_field_t* field, void* const* argu
     return true;
 }
 
-// What is left of the stream, and a NUL. A second occurrence would replace the first.
+// Reads the rest of the stream and adds a NUL. A second occurrence would replace the first.
 inline bool get_text(pb_istream_t* stream, const pb_field_t*, void** argument)
 {
     char*& text = *static_cast<char**>(*argument);

@@ -69,7 +69,7 @@ std::string filled(const char* text, const Message& message, const Slot* slot = 
     return out;
 }
 
-// What is printed for a slot, by its kind; nothing where a line is not given.
+// The line printed for a slot, by its kind; nothing if there is none.
 struct Lines {
     const char* scalar = "";
     const char* narrow = nullptr;   // a scalar below 32 bits; null for the same

@@ -1,4 +1,4 @@
-// What the printed protobuf adapters share.
+// Shared by the printed protobuf adapters.
 //
 // Message objects are reused: their strings, rows and arrays keep their storage, and an arena holds it. Filling sets
 // every field, so an object is not cleared before: that is the faster way, as Clear would visit each field once more.

@@ -39,7 +39,7 @@ template <class Message>
 struct Vector {
 };
 
-// What a slot of the catalogue is to a layout, and which message it names.
+// The slot of a layout that a slot of the catalogue becomes, and the message that it names.
 template <class S>
 struct Meaning {
     using Slot = S;

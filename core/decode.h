@@ -12,7 +12,7 @@ namespace kesto {
 struct Frame;
 struct NestedDecoder;
 
-// What decoding needs to know about one slot.
+// One slot, as far as decoding goes.
 struct SlotInfo {
     Kind kind;
     u8 width;               // scalars and arrays: of a value
@@ -31,7 +31,7 @@ struct OwnedBlock {
     u32 pointer;                // its offset from the record's start
 };
 
-// What decoding and releasing need to know about one message.
+// One message, as far as decoding and releasing go.
 struct Decoder {
     Unit* unit;
     const char* unpack_routine;   // the routine names that logs and memory services are given

@@ -394,7 +394,7 @@ private:
         return sorted;
     }();
 
-    // What is not compared as it stands: the record's bytes and the sums.
+    // Bytes that are not compared with constants: the record's and the sums.
     static constexpr auto not_constant = [] {
         std::array<FieldRun, runs.size() + sums.size()> all{};
         std::copy(runs.begin(), runs.end(), all.begin());

@@ -1,4 +1,4 @@
-// What a list of slots fixes when it is compiled: where each field stands in the record and in the fixed form, and how
+// All that a list of slots fixes at compile time: where each field is in the record and in the fixed form, and how
 // long tables and forms are.
 //
 // Messages of equal layout share their code: a Layout says nothing about names and ids, and an element of a vector is

@@ -228,7 +228,7 @@ struct TableWriter {
         }
     }
 
-    // What lies beneath the table, from `end` on. Returns the new end.
+    // Writes the tables beneath this one from `end` on. Returns the new end.
     template <u32 K>
     [[gnu::always_inline]] u8* write_beneath(u8* end, const NestedEncoder* nested)
     {

@@ -8,7 +8,7 @@ namespace kesto {
 
 struct Encoder;
 
-// What all messages of one layout encode with.
+// Encoding of one layout, shared by its messages.
 struct LayoutEncoder {
     u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size, 0 for none
     u8* (*write)(u8* buffer, const u8* record, const NestedEncoder* nested);   // the compact form; returns its end
@@ -19,7 +19,7 @@ struct LayoutEncoder {
     u32 record_size;
 };
 
-// What packing and sending need to know about one message beyond its layout.
+// One message, as far as packing and sending go beyond its layout.
 struct Encoder {
     const LayoutEncoder* layout;
     const NestedEncoder* nested;   // one for each table and vector, in slot order

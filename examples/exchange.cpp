@@ -37,7 +37,7 @@ constexpr std::uint32_t channel = 7;
 constexpr std::uint32_t batch = 3;
 constexpr std::uint32_t patience_ms = 10000;
 
-// What is sent of each message, in this order; messages without a fixed form skip the first two.
+// The items sent for each message, in this order; messages without a fixed form skip the first two.
 struct Step {
     bool fixed;
     std::uint32_t records;

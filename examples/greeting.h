@@ -1,4 +1,4 @@
-/* What sender and receiver agree on: texts travel as ifit_dfx_query_glbdata_item_mesh; LAST_TEXT is the last one. */
+/* Shared by sender and receiver: texts travel as ifit_dfx_query_glbdata_item_mesh; LAST_TEXT is the last one. */
 #ifndef KESTO_EXAMPLES_GREETING_H
 #define KESTO_EXAMPLES_GREETING_H
 

@@ -1,4 +1,4 @@
-/* What query_asker and query_answerer agree on. The codecs carry every field and look into none; what a field means is up
+/* Shared by query_asker and query_answerer. The codecs carry every field and look into none; what a field means is up
  * to the programs on both sides.
  *
  * Frame of a question    f0 number of the question   f2 a mark of the asker, never empty

@@ -1,4 +1,4 @@
-// What the fuzzers take as input, what they do with one, and many inputs in one file.
+// The inputs of the fuzzers: their form, a run on one, and many of them in one file.
 #pragma once
 
 #include <string>

@@ -9,7 +9,7 @@ namespace {
 
 u32 round_up(u32 value, u32 step) { return (value + step - 1) / step * step; }
 
-// What one slot takes in a record's structure.
+// The place of one slot in a record's structure.
 struct Member {
     u32 size;
     u32 alignment;

@@ -73,7 +73,7 @@ struct AllocationFaults {
     bool refuses(u32 number, u32 size) const { return number == at || (all_after && number > at) || size > largest; }
 };
 
-// What is read, in order.
+// The pieces of a byte string, in the order in which they are read.
 enum class Piece : u8 {
     root,
     vtable_offset,

@@ -161,7 +161,7 @@ RecordMemory::~RecordMemory()
 u8* RecordMemory::block(std::size_t size)
 {
     // One byte at least, for a pointer beside a length of 0 must not be null.
-    // What no field covers is as malloc gave it, or filled with something, so that its way into a byte string shows.
+    // Bytes that no field covers are as malloc gave them, or filled, so that a leak into a byte string shows.
     if (size == 0)
         size = 1;
     void* const block = std::malloc(size);

@@ -32,8 +32,8 @@ Record zero_record(const Message& message);
 std::string difference(const Record& left, const Record& right);
 inline bool same(const Record& left, const Record& right) { return difference(left, right).empty(); }
 
-// What a reader has after a writer's work on `record`: no pointers beside 0, no lengths beside null, text up to its
-// NUL.
+// The record that a reader has after a writer's work on `record`: no pointers beside 0, no lengths beside null, text up to
+// its NUL.
 Record as_decoded(const Record& record);
 
 // True if a reader that finds nothing of the record would make the same of it.

@@ -1,5 +1,5 @@
 #pragma once
-// What a decoder and a free do in sight of their process: log calls, allocations, releases, in order.
+// The calls of a decoder and a free that their process sees: logs, allocations, releases, in order.
 
 #include <array>
 #include <string>

@@ -127,7 +127,7 @@ TEST(Document, states_what_a_list_asks_for)
     EXPECT_EQ(rows, 4);
 }
 
-// What a process has to set: the decode ends where the budget does, says so once and gives everything back.
+// A process has to set a budget: the decode ends where the budget does, says so once and gives everything back.
 TEST(List, is_stopped_by_a_budget)
 {
     const Bytes bytes = list_of(7000, 30000);

@@ -1,4 +1,4 @@
-// What the fuzzers have kept, on targets and with checks that they do not run with.
+// The inputs that the fuzzers kept, on targets and with checks that the fuzzers do not run with.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// What callers see of encoding beyond the bytes: X__pack's refusals, the four send operations, registration.
+// Encoding as callers see it, beyond the bytes: X__pack's refusals, the four send operations, registration.
 
 #include <gtest/gtest.h>
 

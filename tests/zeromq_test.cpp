@@ -99,7 +99,7 @@ protected:
 
     void SetUp() override { start_notes(); }
 
-    // What is sent now is what comes next: nothing of an earlier call is under way.
+    // The next packet is the one sent now: nothing of an earlier call is under way.
     static void expect_nothing_under_way()
     {
         seen.clear();

@@ -1,4 +1,4 @@
-// What the printers share.
+// Shared by the printers.
 #pragma once
 
 #include <cstdio>

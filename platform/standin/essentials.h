@@ -1,4 +1,4 @@
-// What the stand-ins have in place of the C++ library, so that C programs which link or preload them need no C++ run
+// The stand-ins' replacement for the C++ library, so that C programs which link or preload them need no C++ run
 // time, and a failed allocation is a result like others.
 #ifndef KESTO_PLATFORM_STANDIN_ESSENTIALS_H
 #define KESTO_PLATFORM_STANDIN_ESSENTIALS_H

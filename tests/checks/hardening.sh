@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # How a built library or program is hardened: hardening.sh FILE [READELF OBJDUMP]. Ends with 1 when something is missing.
-# What is asked of the codecs alone is asked of libifit_codec.so.
+# Some checks are for libifit_codec.so alone.
 set -euo pipefail
 library=$1 readelf=${2:-readelf} objdump=${3:-objdump}
 missing=0

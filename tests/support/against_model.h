@@ -54,7 +54,7 @@ public:
     std::string check(const model::Message& message, const ByteString& bytes);
     std::string check(const model::Message& message, const std::uint8_t* bytes, std::uint32_t length);
 
-    // What the model made of the last one.
+    // The outcome of the model for the last one.
     const model::Outcome& outcome() const { return outcome_; }
 
     const GuardedBuffer& buffer() const { return buffer_; }

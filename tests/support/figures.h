@@ -23,7 +23,7 @@ struct Figure {
 // False with the reason in `error`.
 [[nodiscard]] bool load_figures(std::vector<Figure>& figures, std::string& error);
 
-// What is wrong with the bytes of `record`, of which an encoder has written `written` and reported `reported`; else
+// The fault in the bytes of `record`, of which an encoder has written `written` and reported `reported`; else
 // empty.
 std::string fault_in_bytes(const Figure& figure, const model::Record& record, const model::Bytes& written,
                            model::u64 reported);

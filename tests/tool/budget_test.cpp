@@ -1,4 +1,4 @@
-// What kesto takes itself for byte strings that ask for much, by the bytes that it holds at a time.
+// The memory that kesto itself takes for byte strings that ask for much, by the bytes held at a time.
 
 #include <gtest/gtest.h>
 #include <malloc.h>

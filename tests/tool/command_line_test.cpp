@@ -97,7 +97,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
     }
 }
 
-// What bash is offered after the words that are there.
+// The completions that bash is offered after the words so far.
 std::string completions(const std::string& words)
 {
     return run_command("bash -c 'source " KESTO_SOURCE_DIR "/tools/kesto/kesto.bash; COMP_WORDS=(" KESTO_PROGRAM " " +
@@ -117,7 +117,7 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
 }
 
-// What would steer a terminal or turn a line around, with its first character as it is shown.
+// Texts that would steer a terminal or turn a line around, with their first character as it is shown.
 struct Hostile {
     std::string text, shown;
     std::string in_json;   // as a JSON text holds it; empty for what is no text

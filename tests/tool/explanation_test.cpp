@@ -1,4 +1,4 @@
-// What kesto says of a byte string, against what the library does with it and against byte strings taken apart by hand.
+// Explanations of byte strings, against what the library does with it and against byte strings taken apart by hand.
 
 #include <gtest/gtest.h>
 

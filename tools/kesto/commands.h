@@ -1,4 +1,4 @@
-// What the sub-commands do with a message and its bytes. All return the program's result: 0 accepted or the same,
+// The sub-commands on a message and its bytes. All return the program's result: 0 accepted or the same,
 // 1 refused or different.
 #pragma once
 

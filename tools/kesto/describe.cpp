@@ -1,4 +1,4 @@
-// What is known of a message without a byte string.
+// Descriptions of messages, without a byte string.
 
 #include <fmt/format.h>
 

@@ -29,7 +29,7 @@ void merge_equal(std::vector<Range>& ranges)
     for (const Range& range : ranges) {
         Range* const before = kept == 0 ? nullptr : &ranges[kept - 1];
         if (before != nullptr && !stands_before(*before, range)) {
-            // What was read last comes a second time only to be marked.
+            // The range read last comes a second time only to be marked.
             before->reads += range.read_last ? 0 : 1;
             before->read_last |= range.read_last;
         } else {
@@ -75,7 +75,7 @@ void note_packet_head(const Explanation& explanation, Notes& notes)
                               named->name, head));
 }
 
-// What stands after a text, between two ranges or after the last.
+// The bytes after a text, between two ranges or after the last.
 class Gaps {
 public:
     Gaps(Explanation& explanation, Notes& notes) : explanation_(explanation), notes_(notes) {}

@@ -1,4 +1,4 @@
-// What a decoder makes of a byte string, as data: every byte's meaning, the verdict, and what passes without a word.
+// An explanation of a byte string, as data: every byte's meaning, the verdict, and what passes without a word.
 #pragma once
 
 #include <limits>

@@ -1,4 +1,4 @@
-// What stands on a page whatever the byte string: styles for light and dark, and what happens under the pointer.
+// The constant part of a page: styles for light and dark, and what happens under the pointer.
 #pragma once
 
 namespace kesto::command {

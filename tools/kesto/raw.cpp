@@ -56,7 +56,7 @@ private:
     u32 tables_ = 0;
 };
 
-// What every reader demands of a table.
+// Rules that every reader applies to a table.
 bool Guesser::open(u32 position, Table& table) const
 {
     if (position < 4 || !fits(position, 4))

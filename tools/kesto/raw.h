@@ -1,4 +1,4 @@
-// What a byte string says of itself, without a message.
+// Explains a byte string without knowing its message.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>

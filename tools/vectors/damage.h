@@ -1,4 +1,4 @@
-// What becomes of a written byte string when one number in it is another or its end is missing.
+// Written byte strings with one number changed or the end cut off.
 #pragma once
 
 #include "tools/vectors/by_hand.h"
