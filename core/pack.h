@@ -113,7 +113,12 @@ template <class L, Tail tail>
 template <class L>
 constexpr Tail own_tail = L::has_tail ? Tail::follows : Tail::none;
 
-// One table on its way out. `at` is the offset from the table of the next byte to write.
+// One table while it is written. `at` is the offset from the table of the next byte to write. It cannot wrap: the size of
+// the whole message was computed before and fits 32 bits, or the buffer has room for the bound.
+//
+// A table is written in two halves. The first, scalars and reserve_cell, fills slots and leaves in cells[k] the offset of
+// slot k's cell, 0 for an absent field. The second, write_body and write_beneath, follows these. After write_body the entry
+// of a vector is the offset of its first element's cell.
 template <class L, Tail tail>
 struct TableWriter {
     u8* table;
@@ -121,7 +126,7 @@ struct TableWriter {
     u32 at = table_head_bytes;
     // A vector register does not pay after branches, which set few slots.
     SlotWords<L, std::conditional_t<tail == Tail::follows, BranchlessWord, SlotWord<std::size_t>>> slots;
-    std::array<u32, L::slots> cells;   // of slots that are no scalars: the cell's offset, 0 where nothing is written
+    std::array<u32, L::slots> cells;   // for all slots but scalars
 
     [[gnu::always_inline]] TableWriter(u8* table_, const u8* record_)
         : table(table_), record(record_), slots{table_ - slot_bytes * L::slots, {}}
