@@ -1,4 +1,4 @@
-// Prints how often the library allocates for one operation. A program of its own, as it has a malloc of its own.
+// Prints how often the library allocates in one operation. A separate program, as it replaces malloc.
 
 #include <cstdio>
 
@@ -12,7 +12,7 @@ namespace {
 template <class Operation>
 unsigned count(Operation&& operation)
 {
-    operation();   // once before, for what a process does only once
+    operation();   // a first call, so that one-time set-up is not counted
     const tests::WatchMalloc watch;
     operation();
     return tests::malloc_watch.mallocs;

@@ -1,8 +1,8 @@
-// Measures the library and its peers, case by case. The names: OPERATION/MESSAGE[:ROWS]/FILL/CONTENDER.
+// Measures the library and its peers, case by case. Case names are OPERATION/MESSAGE[:ROWS]/FILL/CONTENDER.
 //
-//   send     from a record to the messaging library; ours alone, as to the others it is what packing is
-//   unpack_sent    from what was sent to a record and its release; ours alone, where it differs from what was packed
-//   pack, unpack   all contenders; unpacking takes the release along
+//   send           from a record to the messaging library; only ours, as for the others it equals packing
+//   unpack_sent    from the sent bytes to a record, and its release; only ours, if they differ from the packed bytes
+//   pack, unpack   all contenders; unpacking includes the release
 
 #include <benchmark/benchmark.h>
 
@@ -61,9 +61,9 @@ const std::vector<Contender>& contenders()
 
 alignas(64) u8 buffer[4 << 20];
 
-// ---- what is timed: each record of a set in turn ----
+// ---- timed code: each record of a set in turn ----
 
-// The mean length of the byte strings goes along.
+// Reports the mean length of the byte strings as well.
 void count_bytes(benchmark::State& state, const ByteStrings& strings)
 {
     std::size_t sum = 0;
@@ -103,7 +103,7 @@ void time_decode(benchmark::State& state, const Codec& codec, const ByteStrings&
     count_bytes(state, strings);
 }
 
-// ---- what is checked before: a failure ends the program ----
+// ---- checks before timing: a failure ends the program ----
 
 [[noreturn]] void fail(const RecordSet& set, const char* contender, const std::string& what)
 {

@@ -8,7 +8,7 @@
 
 namespace kesto::bench {
 
-// The first segment of every builder, one at a time. A builder leaves it zero, as the next one needs it.
+// The first segment of every builder. Builders use it one at a time, and each leaves it zeroed for the next.
 inline kj::ArrayPtr<capnp::word> scratch()
 {
     alignas(capnp::word) static u8 segment[4 << 20];
@@ -22,14 +22,14 @@ inline capnp::ReaderOptions options()
     return options;
 }
 
-// As writeMessage for one segment, without a stream.
+// Like writeMessage for one segment, without a stream.
 inline int write(capnp::MallocMessageBuilder& message, u8* buffer, u32* length)
 {
     const auto segments = message.getSegmentsForOutput();
     const auto bytes = segments[0].asBytes();
     if (segments.size() != 1 || bytes.size() + 8 > *length)
         return -1;
-    const u32 head[2] = {0, static_cast<u32>(segments[0].size())};   // number of segments less 1, words of the first
+    const u32 head[2] = {0, static_cast<u32>(segments[0].size())};   // number of segments minus 1, words in the first
     std::memcpy(buffer, head, sizeof head);
     std::memcpy(buffer + sizeof head, bytes.begin(), bytes.size());
     *length = static_cast<u32>(sizeof head + bytes.size());

@@ -1,5 +1,5 @@
-// Whoever turns plain records into bytes and back. All have the signatures of the library's own operations, so that all
-// are called alike: through a pointer, with untyped records.
+// Contenders turn plain records into bytes and back. All have the signatures of the library's own operations, so that
+// all are called in the same way: through a pointer, with untyped records.
 #pragma once
 
 #include <cstdint>
@@ -16,19 +16,19 @@ using u64 = std::uint64_t;
 
 struct Codec {
     const char* message;
-    int (*encode)(const void* record, u8* buffer, u32* length);   // 0 for success; the room, then the bytes written
+    int (*encode)(const void* record, u8* buffer, u32* length);   // 0 on success; length: capacity, then bytes written
     u32 (*decode)(const u8* bytes, u32 length, void* record);     // 0 for failure; texts, blocks, elements from malloc
-    void (*release)(void* record);                                // gives those back
+    void (*release)(void* record);                                // frees those
 };
 
-// Printed, by peer. The limit is a straight copy of everything, in two ways.
+// Printed for each peer. The limit is a straight copy of everything, in two ways.
 extern const std::span<const Codec> limit_memcpy;
 extern const std::span<const Codec> limit_moves;
 extern const std::span<const Codec> protobuf;
 extern const std::span<const Codec> capnproto;
 extern const std::span<const Codec> nanopb;
 
-// Memory for a part of a decoded record.
+// Allocates memory for a part of a decoded record.
 inline void* take(std::size_t bytes)
 {
     void* const memory = std::malloc(bytes);
@@ -37,14 +37,14 @@ inline void* take(std::size_t bytes)
     return memory;
 }
 
-// A text with its NUL, or a block.
+// Copies a text with its NUL, or a block.
 template <class T>
 T* copy_of(const void* data, std::size_t bytes)
 {
     return static_cast<T*>(std::memcpy(take(bytes), data, bytes));
 }
 
-// An array that came in another length is filled up with zeros.
+// An array that arrives with another length is padded with zeros or truncated.
 template <class T, std::size_t count>
 void read_array(const T* data, std::size_t size, T (&out)[count])
 {

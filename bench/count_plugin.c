@@ -1,6 +1,6 @@
-/* A plugin for the emulator that counts the instructions of the program it runs: between a write to file -1 and the next.
- * It says each count in a line of the emulator's log. Declares what it takes of the emulator's plugin interface, version 1,
- * whose header Debian does not bring along. */
+/* A plugin for the emulator. It counts the instructions that the program executes between one write to file -1 and the
+ * next, and prints each count on a line of the emulator's log. It declares the parts it uses of the emulator's plugin
+ * interface, version 1, as Debian does not ship the header. */
 #include <inttypes.h>
 #include <stdio.h>
 

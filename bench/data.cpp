@@ -31,7 +31,7 @@ const Message& message_named(const char* name)
     return *message;
 }
 
-// Which scalars of a uniform row are zero: three of five of them, rounded, drawn by the message's id.
+// Selects the zero scalars of a uniform row: three of five, rounded, chosen randomly with the message's id as seed.
 std::vector<bool> uniform_zeros(const Message& message)
 {
     std::vector<std::size_t> scalars;
@@ -127,7 +127,7 @@ RecordSet make_records(const Shape& shape, Fill fill)
     u64 bytes = 0;
     do {
         set.records.push_back(make_record(message, shape, fill, random));
-        bytes += 2 * model::exact_size(set.records.back());   // the record takes less than its byte string
+        bytes += 2 * model::exact_size(set.records.back());   // the record is smaller than its byte string
     } while (set.records.size() < most_records && bytes + bytes / set.records.size() <= most_bytes);
     for (const Record& record : set.records)
         set.memory.push_back(std::make_unique<model::RecordMemory>(record));

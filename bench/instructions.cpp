@@ -1,6 +1,6 @@
-// Runs each operation of the library, every one once on each record of a set, for whoever counts its instructions:
-// callgrind, which is told where to begin and to end, or the emulator's plugin (count_plugin.c), which listens for
-// writes to file -1. instructions.py runs both, and reads from this program which cases it counted.
+// Runs each operation of the library once on each record of a set while its instructions are counted: by callgrind,
+// which is told when to start and stop, or by the emulator's plugin (count_plugin.c), which watches for writes to file
+// -1. instructions.py runs both and reads the list of counted cases from this program's output.
 
 #include <unistd.h>
 
@@ -35,7 +35,7 @@ void end_count()
     (void)!write(-1, "", 0);
 }
 
-// Once for all that is done only once and for the heap, then once counted.
+// A first uncounted pass does the one-time set-up and fills the heap; the second is counted.
 template <class Operation>
 void count(const std::string& name, std::size_t records, Operation&& operation)
 {
@@ -80,7 +80,7 @@ void count_all(const RecordSet& set)
 int main()
 {
     for (const kesto::bench::RecordSet& set : kesto::bench::make_all_records())
-        if (set.fill != kesto::bench::Fill::varied)   // takes as many as sparse
+        if (set.fill != kesto::bench::Fill::varied)   // takes as many instructions as sparse
             kesto::bench::count_all(set);
     return 0;
 }

@@ -19,7 +19,7 @@ import sys
 import tempfile
 
 ROOM = 0.03
-# libc picks its memcpy by the processor; without these it picks the same one everywhere.
+# libc selects its memcpy by processor features; with these off it selects the same one everywhere.
 LIBC = "glibc.cpu.hwcaps=-AVX2,-AVX512VL,-ERMS,-FSRM"
 
 

@@ -5,7 +5,7 @@
 
 namespace kesto::bench {
 
-// As the compiler sees fit: inline for a small constant size.
+// Leaves the choice to the compiler: inline for a small constant size.
 struct Memcpy {
     [[gnu::always_inline]] static void copy(void* to, const void* from, std::size_t bytes)
     {
@@ -13,7 +13,7 @@ struct Memcpy {
     }
 };
 
-// A loop of 16-byte moves; what is left over is one move that overlaps.
+// A loop of 16-byte moves; one overlapping move copies the rest.
 struct Moves {
     [[gnu::always_inline]] static void copy(void* to_, const void* from_, std::size_t bytes)
     {
@@ -34,7 +34,7 @@ struct Moves {
     }
 };
 
-// Both give the place after what was written, or read.
+// Both return the position after the bytes written or read.
 template <class Copy>
 [[gnu::always_inline]] inline u8* put(u8* to, const void* from, std::size_t bytes)
 {

@@ -1,4 +1,4 @@
-// The messages that are measured; the printer of adapters and the benchmark go by this list.
+// The measured messages. The adapter printer and the benchmark use this list.
 #pragma once
 
 namespace kesto::bench {

@@ -1,7 +1,7 @@
 // Shared by the printed nanopb adapters.
 //
-// Texts, blocks and vectors go through callbacks, straight from and to the record. With pointer fields they would be
-// copied once more, and every decoded row would cost a realloc.
+// Texts, blocks and vectors use callbacks that read and write the record directly. Pointer fields would need another
+// copy, and a realloc for every decoded row.
 #pragma once
 
 #include <pb_decode.h>
@@ -14,7 +14,7 @@ namespace kesto::bench {
 using Encode = bool (*)(pb_ostream_t* stream, const pb_field_t* field, void* const* argument);
 using Decode = bool (*)(pb_istream_t* stream, const pb_field_t* field, void** argument);
 
-// A `Peer` is printed for each message: its structure and description, and fill, prepare and read for one record.
+// A `Peer` is printed for each message: its structure and description, and fill, prepare and read for a single record.
 
 inline pb_callback_t encoding(Encode function, const void* argument)
 {
@@ -81,7 +81,7 @@ bool get_block(pb_istream_t* stream, const pb_field_t*, void** argument)
     return pb_read(stream, block.data, block.length);
 }
 
-// Called for each element, so the number of all is not known: room doubles.
+// Called for each element. The total number is not known, so the capacity doubles when needed.
 template <class Vector, class Peer>
 bool get_element(pb_istream_t* stream, const pb_field_t*, void** argument)
 {

@@ -4,7 +4,7 @@
 
 namespace {
 
-// Written to by every send, so that the compiler can leave nothing out.
+// Every send writes to it, so that the compiler cannot optimise anything away.
 volatile const std::uint8_t* last_data;
 volatile std::uint32_t last_length;
 
@@ -21,7 +21,7 @@ int MESH_SendMsg(uint32_t, const MeshSendItem* items, uint32_t)
     return 0;
 }
 
-// Never timed: this one keeps the bytes.
+// Never timed, as it keeps the bytes.
 int MESH_SendToMsg(uint32_t, const MeshSendItem* items, uint32_t, uint32_t)
 {
     kept.assign(items->data, items->data + items->length);

@@ -1,5 +1,5 @@
-// The library under measurement, and the messaging library that it finds in this program: it keeps where an item lies,
-// and nothing else.
+// The measured library, and the messaging library that it finds in this program. The latter records only the address of
+// an item.
 #pragma once
 
 #include <vector>
@@ -13,6 +13,6 @@ namespace kesto::bench {
 using tools::Operations;
 
 ByteStrings pack_all(const Operations& library, const RecordSet& set);
-ByteStrings send_all(const Operations& library, const RecordSet& set);   // what sending hands over
+ByteStrings send_all(const Operations& library, const RecordSet& set);   // the bytes handed over by sending
 
 }   // namespace kesto::bench

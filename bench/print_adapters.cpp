@@ -1,5 +1,5 @@
-// Prints what the contenders need of each measured message, from the catalogue: schemas, and the code that a user of
-// the peer would write to fill its objects from a plain record and to read them out into one.
+// Prints from the catalogue what the contenders need for each measured message: schemas, and the code that a user of
+// the peer would write to fill its objects from a plain record and to read them back into one.
 //
 //   print_adapters FOLDER
 
@@ -17,7 +17,7 @@ namespace {
 
 using Messages = std::vector<const Message*>;
 
-// A message after those it nests, each once.
+// Each message once, after the messages nested in it.
 void add(const Message& message, Messages& all)
 {
     for (const Slot& slot : message.slots)
@@ -29,7 +29,7 @@ void add(const Message& message, Messages& all)
     all.push_back(&message);
 }
 
-// Names without underscores, as Cap'n Proto wants them.
+// Names without underscores, as Cap'n Proto requires.
 std::string camel_case(const std::string& name)
 {
     std::string camel;
@@ -42,7 +42,7 @@ std::string camel_case(const std::string& name)
     return camel;
 }
 
-// ---- templates: text with words such as $m, for a message or a slot of it ----
+// ---- templates: text with placeholders such as $m, for a message or one of its slots ----
 
 std::string word(char letter, const Message& message, const Slot* slot)
 {
@@ -50,7 +50,7 @@ std::string word(char letter, const Message& message, const Slot* slot)
     switch (letter) {
     case 'm': return message.name;
     case 'M': return camel_case(message.name);
-    case 'f': return slot->field;   // in the record
+    case 'f': return slot->field;   // name in the record
     case 'k': return std::to_string(number);
     case 't': return std::to_string(number + 1);
     case 'n': return slot->nested->name;
@@ -69,10 +69,10 @@ std::string filled(const char* text, const Message& message, const Slot* slot = 
     return out;
 }
 
-// The line printed for a slot, by its kind; nothing if there is none.
+// The line printed for a slot, by kind; nothing if the kind has no line.
 struct Lines {
     const char* scalar = "";
-    const char* narrow = nullptr;   // a scalar below 32 bits; null for the same
+    const char* narrow = nullptr;   // a scalar below 32 bits; null: same as scalar
     const char* text = "";
     const char* block = "";
     const char* octets = "";   // an array of u8
@@ -94,7 +94,7 @@ struct Lines {
     }
 };
 
-// Text around lines for the slots: a function, a structure of a schema.
+// Text around the slots' lines, such as a function or a schema structure.
 struct Part {
     const char* head = "";
     Lines lines = {};
@@ -135,7 +135,7 @@ std::string span(const std::string& name)
 
 constexpr const char codec_line[] = "    {\"$m\", encode_$m, decode_$m, release_$m},\n";
 
-// ---- releasing, for all but ours ----
+// ---- release functions, for all but ours ----
 
 std::string release(const Messages& roots, const Messages& all)
 {
@@ -152,7 +152,7 @@ std::string release(const Messages& roots, const Messages& all)
            "\n}   // namespace kesto::bench\n";
 }
 
-// ---- the limit: the record as it is, then its texts, blocks and elements end to end in slot order ----
+// ---- the limit: the raw record, then its texts, blocks and elements end to end in slot order ----
 
 std::string limit(const Messages& roots, const Messages& all)
 {
@@ -214,7 +214,7 @@ std::string limit(const Messages& roots, const Messages& all)
 
 std::string proto(const Messages& all, const std::string& package)
 {
-    // With presence, clearing keeps a table's object; without, every parse would take a new one from the arena.
+    // With explicit presence, clearing keeps a table's object; without it, every parse would allocate one in the arena.
     const Lines lines = {.scalar = "    fixed$b f$k = $t;\n",
                          .narrow = "    uint32 f$k = $t;\n",
                          .text = "    optional bytes f$k = $t;\n",
@@ -348,7 +348,7 @@ u32 decode_$m(const u8* bytes, u32 length, void* record)
 
 // ---- nanopb ----
 
-// Scalars in their width, arrays inline; texts, blocks and vectors remain callbacks.
+// Scalars have their own width and arrays are inline; texts, blocks and vectors remain callbacks.
 std::string nanopb_options(const Messages& all)
 {
     const Lines lines = {.narrow = "peer_nanopb.$m.f$k int_size:IS_$b\n",
@@ -366,7 +366,7 @@ std::string nanopb(const Messages& roots, const Messages& all)
                         .words = "        std::memcpy(out.f$k, in.$f, sizeof in.$f);\n",
                         .table = "        out.has_f$k = true;\n        Peer_$n::fill(in.$f, out.f$k);\n",
                         .vector = "        out.f$k = encoding(put_vector<decltype(in.$f), Peer_$n>, &in.$f);\n"};
-    // Sends what has no room in the peer's structure straight to the record.
+    // Fields without storage in the peer's structure are decoded directly into the record.
     const Lines prepare = {.text = "        out.$f = nullptr;\n        in.f$k = decoding(get_text, &out.$f);\n",
                            .block = R"(        out.$f = {};
         in.f$k = decoding(get_block<decltype(out.$f)>, &out.$f);

@@ -1,7 +1,7 @@
 // Shared by the printed protobuf adapters.
 //
-// Message objects are reused: their strings, rows and arrays keep their storage, and an arena holds it. Filling sets
-// every field, so an object is not cleared before: that is the faster way, as Clear would visit each field once more.
+// Message objects are reused: their strings, rows and arrays keep their storage, which is in an arena. Filling sets
+// every field, so objects are not cleared first. This is faster, as Clear would visit each field once more.
 #pragma once
 
 #include <google/protobuf/arena.h>
@@ -19,7 +19,7 @@ struct Reused {
     Message& message = *google::protobuf::Arena::CreateMessage<Message>(&arena);
 };
 
-// The rows that remain are filled anew. Clearing all and adding them again would clear each row.
+// Existing rows are kept and refilled. Clearing all and adding them again would clear each row.
 template <class Row>
 void resize(google::protobuf::RepeatedPtrField<Row>& rows, u32 count)
 {

@@ -27,8 +27,7 @@ UPDATE = "ifit_flow_base_mesh_update"
 HASH = "ifit_dfx_query_queryhash_rec_mesh"
 LIST = "ntvifit_stats_info_list:32"
 
-# What is asked of the library: at most so many times the limit, at most that part of the faster one of protobuf and
-# Cap'n Proto, at most that part of protobuf.
+# Performance goals: maximum ratios to the limit, to the faster one of protobuf and Cap'n Proto, and to protobuf.
 GOALS = []
 
 
@@ -57,10 +56,10 @@ goal(["unpack"], [HASH], ["full"], 2.0, 0.30)
 goal(["unpack"], [COLOUR], ["sparse"], 5, 0.5)
 goal(["unpack"], [FLOW, STATISTICS, SESSION], ["sparse"], 5, 0.30)
 goal(["unpack"], [f"{UPDATE}:256"], ["sparse", "uniform"], 10, 1.0)
-EVEN = 1.05   # sending a sparse record in fixed form against a full one, and the other way round
+EVEN = 1.05   # maximum ratio of sending a sparse record in fixed form to sending a full one, and vice versa
 
 OPERATIONS = ["send", "pack", "unpack", "unpack_sent"]
-COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # of the peers and the limit
+COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # the matching operation of the peers and the limit
 CONTENDERS = ["ours", "limit", "protobuf", "capnp", "nanopb"]
 PEERS = ["protobuf", "capnp"]   # the faster one is `best`
 FILLS = ["full", "sparse", "varied", "uniform"]
@@ -153,7 +152,7 @@ def goals(results):
             ratio = sparse / full
             met = 1 / EVEN <= ratio <= EVEN
             rows.append([f"send/{message}, sparse / full: {ratio:.3f}", *[""] * 6, "met" if met else "NOT MET"])
-    return head, [row for row in rows if any(row[1:-1]) or "/ full" in row[0]]   # without what was not measured
+    return head, [row for row in rows if any(row[1:-1]) or "/ full" in row[0]]   # without cases that were not measured
 
 
 def as_text(head, rows):
@@ -205,7 +204,7 @@ def machine():
         found = re.search(rf"^{key}\s*: (.*)", info, re.MULTILINE)
         return found[1] if found else "unknown"
 
-    # A virtual machine's name of a processor does not say which one it is.
+    # The processor name reported by a virtual machine does not identify the model.
     return (f"{first('model name')}, family {first('cpu family')}, model {first('model')}, {first('cpu MHz')} MHz, "
             f"{len(re.findall('^processor', info, re.MULTILINE))} processors")
 
@@ -262,7 +261,7 @@ def draw(results):
 
     for operation in ("send", "pack", "unpack"):
         sets = results.sets(operation)
-        sets = [records for records in sets if not re.search(":(4|64|1024|4096)/", records)]   # are in the last plot
+        sets = [records for records in sets if not re.search(":(4|64|1024|4096)/", records)]   # in the last plot
         shown = [each for each in CONTENDERS if each != "limit"]
         figure, axes = pyplot.subplots(figsize=(7.5, 0.5 * len(sets) + 0.8))
         height = 0.8 / len(shown)

@@ -1,12 +1,12 @@
-// The words of the catalogue, messages/<module>/<module>.def, one line a message:
+// The vocabulary of the catalogues, messages/<module>/<module>.def, which have one line per message:
 //
 //   MESSAGE(name, id, slot, slot, ...)
-//   NAMED_FIELDS(name, field, field, ...)      for the rare message whose record has other names than f0, f1, ...
+//   NAMED_FIELDS(name, field, field, ...)      for the rare message whose fields are not named f0, f1, ...
 //
 // A slot is U8, U16, U32, U64, String, Bytes, U8Array<N>, U32Array<N>, Table<message>, LenientTable<message> or
-// Vector<message>; the message named has its line further up. Whoever includes a catalogue defines the two words first;
-// KESTO_TAG below is the MESSAGE that turns each line into a type of the message's name, to which the slots of later
-// lines refer.
+// Vector<message>, where <message> must be defined by an earlier line. The includer of a catalogue defines the macro
+// MESSAGE first; NAMED_FIELDS expands to nothing unless it is redefined. KESTO_TAG below is the MESSAGE that turns each
+// line into a type with the message's name, so that the slots of later lines can refer to it.
 #pragma once
 
 #include "core/layout.h"
@@ -30,7 +30,7 @@ template <class Message>
 struct Table {
 };
 
-// A table whose refusal does not end the read of the message around it.
+// A table that may be refused without ending the decoding of the enclosing message.
 template <class Message>
 struct LenientTable {
 };
@@ -39,7 +39,7 @@ template <class Message>
 struct Vector {
 };
 
-// The slot of a layout that a slot of the catalogue becomes, and the message that it names.
+// Maps a slot of the catalogue to the slot of a layout, and to the message that it names, if any.
 template <class S>
 struct Meaning {
     using Slot = S;
@@ -64,7 +64,7 @@ struct Meaning<Vector<Message>> {
     using Named = Message;
 };
 
-// A message that stands in another one, and how.
+// A message inside another one: `kind` says whether as a table or as a vector.
 template <class NamedMessage, Kind slot_kind>
 struct NamedSlot {
     using Message = NamedMessage;
@@ -92,7 +92,7 @@ struct SlotList {
 
 }   // namespace kesto::catalogue
 
-// Only the header printer cares for names of fields.
+// Only the header printer uses the names of fields.
 #define NAMED_FIELDS(...)
 
 // The MESSAGE that makes the types.

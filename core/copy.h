@@ -1,7 +1,7 @@
-// Copies and clears of a size known when compiled, in 16-byte moves.
+// Copying and clearing of sizes known at compile time, in 16-byte moves.
 //
-// Left to itself the compiler turns such copies above 256 bytes, and clears above 80, into `rep` instructions, which
-// take longer than everything else that a codec does to a record.
+// By default the compiler turns such copies above 256 bytes, and clears above 80, into `rep` instructions, which take
+// longer than everything else that a codec does with a record.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ using u64 = std::uint64_t;
 
 namespace detail {
 
-// Calls visit<i>() for each number; stops and gives false when one of the calls does.
+// Calls visit<i>() for each number in order. Stops at the first call that returns false, and returns false then.
 template <class Visit, u32... I>
 [[gnu::always_inline]] constexpr bool each_number(Visit&& visit, std::integer_sequence<u32, I...>)
 {
@@ -26,7 +26,7 @@ template <class Visit, u32... I>
 
 constexpr u32 move_bytes = 16;
 
-// The moves of a run of N bytes: whole ones, then one that ends with the run and overlaps the one before it.
+// Calls move(at) for the moves that cover N bytes: full ones, then one that ends at byte N and overlaps the previous.
 template <u32 N, class Move>
 inline void each_move(Move&& move)
 {
@@ -41,8 +41,8 @@ inline void each_move(Move&& move)
         move(N - move_bytes);
 }
 
-// One move of 1, 2, 4, 8 or 16 bytes. As words where that is what the machine has: left to itself the compiler may make
-// `rep` instructions even of sixteen bytes.
+// One move of 1, 2, 4, 8 or 16 bytes. On 32-bit machines it is made word by word, because the compiler may otherwise
+// use `rep` instructions even for sixteen bytes.
 template <u32 N>
 [[gnu::always_inline]] inline void copy_move(u8* to, const u8* from)
 {
@@ -80,8 +80,8 @@ inline void clear_bytes(void* to)
         detail::each_move<N>([&](u32 at) { std::memset(static_cast<u8*>(to) + at, 0, detail::move_bytes); });
 }
 
-// A copy whose size may be known when compiled. In cold code the compiler would make a `rep` instruction of it then,
-// which takes longer than the rest of a table.
+// A copy whose size may be known at compile time. In cold code the compiler would then use a `rep` instruction, which
+// takes longer than the rest of a table.
 inline void copy_some(u8* to, const u8* from, std::size_t n)
 {
     constexpr std::size_t step = 16;

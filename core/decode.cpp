@@ -88,7 +88,7 @@ void release_record(const Decoder& decoder, u8* record)
                 continue;
             release_elements(*part.element, records, field_value<u32>(pointer - counted_pointer));
         }
-        // required: for an absent text or block too, with null
+        // required: called for an absent text or block too, with a null pointer
         release_block(*decoder.unit, part.free_routine, pointer);
     }
 }
@@ -103,7 +103,7 @@ TableView<Input> open_table_of(Input in, u32 table, u32 slots)
 
 bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
 {
-    u8* const copy = allocate(owner, routine, length + 1);   // length < 2^31, as it fits
+    u8* const copy = allocate(owner, routine, length + 1);   // no wrap: the text fits the input, below 2^31
     set_field<u8*>(field, copy);
     if (copy == nullptr)
         return false;
@@ -137,7 +137,7 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     u32 payload = 0, length = 0;
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
-    set_field<u32>(field, length);   // stays even if the allocation fails
+    set_field<u32>(field, length);   // stays set even if the allocation fails
     if (length == 0)
         return true;
     const u8* const block = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
@@ -148,7 +148,7 @@ bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Deco
                            const NestedDecoder& element)
 {
     const Decoder& of = *element.decoder;
-    const u32 size = count * of.record_size;   // required: in 32 bits, which many megabytes of cells can exceed
+    const u32 size = count * of.record_size;   // required: the product wraps in 32 bits, given many megabytes of cells
     if (size == 0) {
         u32 table = 0;
         if (element_table(in, cells, 0, table))
@@ -159,8 +159,8 @@ bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Deco
     set_field<u8*>(field + counted_pointer, records);
     if (records == nullptr)
         return false;
-    // The block holds fewer elements than the count says. None is decoded past its end, and the block is gone before a
-    // free could walk the count.
+    // The product wrapped, so the block holds fewer elements than the count says. No element is decoded past its end,
+    // and the block is released here, before a later release could follow the count.
     const u32 whole = size / of.record_size;
     (void)element.decode_elements(in, cells, whole, records, element);
     release_elements(of, records, whole);

@@ -1,26 +1,26 @@
-// The decoder's fast paths, one function of each kind for a layout. A try_... function may decline; it takes what is
-// well formed and leaves the rest to the general path (decode.cpp), which reaches the same records, logs and refusals.
+// The decoder's fast paths, instantiated per layout. A try_... function decodes well-formed input and may decline any
+// other, which the general path (decode.cpp) then decodes. Where both apply, their records, logs and refusals agree.
 //
-// A flat layout, one without owned blocks, affects nothing but its record, so a try on it may decline at any point and
-// the general path starts over. A try on an owning layout declines before it has had an effect, or not at all.
+// Decoding a flat layout, one without owned blocks, affects only its record. A try on it may therefore decline at any
+// point, and the general path starts over. A try on an owning layout declines before it has any effect, or not at all.
 //
-// Which paths a layout takes, in this order; facts are members of Layout (layout.h):
+// The paths of each layout, in the order in which they are tried; facts are members of Layout (layout.h):
 //
-//   layout                         message                             element, nested table
-//   flat                           fixed image if the root is at 4,    dense image (elements only, until one is none),
-//                                  else dense image; flat table        flat table; general path
-//   owning, has_image              dense image; owning table           dense image (elements only); owning table; general
-//   owning, else                   owning table                        owning table; general path
+//   layout                         message                           element, nested table
+//   flat                           fixed image if the root is at 4,  dense image (elements only, until one is none),
+//                                  else dense image; flat table      flat table; general path
+//   owning, has_image              dense image; owning table         dense image (elements only); owning table; general
+//   owning, else                   owning table                      owning table; general path
 //
 //   fact              target       effect, and the measured reason
-//   has_image         all          a dense image pays from 17 slots on where texts and blocks part it; a vector's time
-//                                  goes to its elements
-//   is_small          all          up to 14 slots an image is written and read inline, else by a call: the call then
-//                                  costs more than it saves. 16 slots would add 3 KB of code
+//   has_image         all          if texts and blocks divide it, a dense image pays from 17 slots on. With a vector it
+//                                  does not pay: the elements take the time
+//   is_small          all          up to 14 slots an image is written and read inline, as a call would cost more than
+//                                  it saves; a limit of 16 would add 3 KB of code
 //   is_tiny           64 bits      up to 12 slots a flat table is read inline even in the loop over elements
-//   has_vectors       64 bits      such a table is opened in compact form only: its elements take the time
-//   pointer_bytes     64 bits      open_compact_table is code per layout, for which 32-bit machines have no room: there
-//                                  open_table_of, one function for all, opens every table
+//   has_vectors       64 bits      the fast path opens such a table in compact form only: its elements take the time
+//   pointer_bytes     64 bits      open_compact_table is instantiated per layout, which is too much code for 32-bit
+//                                  machines; there open_table_of, one function for all layouts, opens every table
 #pragma once
 
 #include "core/decode.h"
@@ -30,7 +30,7 @@
 
 namespace kesto {
 
-// ---- images: most of what our own writers produce is recognised as a whole and copied ----
+// ---- images: most output of our own writers is recognised as a whole and copied ----
 
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_dense_table_here(Input in, u32 table, u8* record)
@@ -52,17 +52,17 @@ template <class L>
     return try_dense_table_here<L>(in, table, record);
 }
 
-// A table in compact form, with all beneath it. False, and nothing is written, if it is no dense image.
+// A table in compact form, with all tables beneath it. Returns false and writes nothing if it is not a dense image.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_dense_table(Input in, u32 table, u8* record)
 {
     if constexpr (L::is_small)
         return try_dense_table_here<L>(in, table, record);
-    else   // saves the call for a message that is too short
+    else   // the length is tested first: no call for a message that is too short
         return holds_bytes(in, DenseImage<L>::length) && try_large_dense_table<L>(in, table, record);
 }
 
-// A message in fixed form.
+// A message in fixed form. Returns false and writes nothing if it is not the fixed image.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_fixed_message(Input in, u8* record)
 {
@@ -76,7 +76,7 @@ template <class L>
     return true;
 }
 
-// ---- tables whose scalars all lie inside ----
+// ---- tables whose scalars all lie inside the input ----
 
 template <class L>
 constexpr Widths<L::slots> scalar_widths = [] {
@@ -91,7 +91,7 @@ constexpr Widths<L::slots> scalar_widths = [] {
     return widths;
 }();
 
-// Opens a table whose vtable has all slots and whose scalars all lie inside; see the table above.
+// Opens a table whose vtable has all slots and whose scalars all lie inside the input; see the list of facts above.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
 {
@@ -109,7 +109,7 @@ template <class L>
 template <class L>
 [[nodiscard]] bool try_flat_table(Input in, u32 table, u8* record);
 
-// The bytes of a record that belong to no field.
+// Clears the bytes of a record that belong to no field.
 template <class L>
 [[gnu::always_inline]] inline void clear_gaps(u8* record)
 {
@@ -152,15 +152,15 @@ template <class L>
     });
 }
 
-// Any table of a layout without owned blocks that is well formed. When it is not, false: the record may hold a part of
-// it, unless the tests of the table itself have failed.
+// Any well-formed table of a flat layout. When it returns false, the record may hold a part of the table; it is
+// untouched if the tests of the table itself failed.
 template <class L>
 [[nodiscard, gnu::noinline]] bool try_flat_table(Input in, u32 table, u8* record)
 {
     return try_flat_table_here<L>(in, table, record);
 }
 
-// The same where speed is worth a copy of the code, if it is a short one.
+// The same for callers whose speed justifies a copy of the code, provided that the code is short.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_short_table(Input in, u32 table, u8* record)
 {
@@ -183,7 +183,7 @@ template <class L>
 
 // ---- layouts with owned blocks ----
 
-// `in` and `view` are the frame's: copies that no store to a record can change.
+// `in` and `view` are copies of the frame's, so that the compiler knows that no store to a record can change them.
 template <class L, class Slot>
 [[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in,
                                                           const TableView<Input>& view, u32 K, u8* record)
@@ -212,10 +212,10 @@ template <class L, class Slot>
     }
 }
 
-enum class Reading : u8 { none, refused, done };   // none: nothing was done
+enum class Reading : u8 { none, refused, done };   // none: declined, without any effect
 
-// A table whose scalars all lie inside, into a record that is clear or, where `clear` says so, is cleared first; on a
-// fault it is released. In slot order, as a fault leaves unset what is after it.
+// A table whose scalars all lie inside the input. The record must be clear, unless `clear` asks for it to be cleared
+// first. After a fault it is released. Slots are decoded in order, because the fields after a fault must stay unset.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline Reading
 try_owning_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
@@ -242,7 +242,7 @@ template <class L>
     return try_owning_table_here<L>(in, table, record, decoder, routine, clear);
 }
 
-// As decode_any_nested.
+// The same as decode_any_nested.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool decode_owning_table(Input in, u32 table, u8* record,
                                                                   const NestedDecoder& message)
@@ -255,13 +255,15 @@ template <class L>
 
 // ---- images with owned blocks ----
 
-// Fields after the one that failed read as zero. Marked cold it would be compiled for size, to a string instruction.
+// Fields after the one that failed read as zero. Not marked cold: it would then be compiled for size, as a string
+// instruction.
 [[gnu::noinline]] inline void clear_after(u8* record, u32 end, u32 record_end)
 {
     std::memset(record + end, 0, record_end - end);
 }
 
-// Gives the record of an image what it owns, in slot order; `base` is where the fields of `L` begin in it.
+// Allocates and copies the owned blocks of an image's record, in slot order. The fields of `L` begin at offset `base`
+// of the record.
 template <class Form, class L, u32 base>
 [[nodiscard, gnu::always_inline]] inline bool copy_owned_blocks(const typename Form::template Places<const u8>& bytes,
                                                                 u8* record, const Decoder& decoder, const char* routine)
@@ -299,8 +301,8 @@ template <class Form, class L, u32 base>
 
 enum class After : u8 { nothing, anything };
 
-// A table in compact form in which nothing is zero, with all beneath it. With nothing after it, as in a message of its
-// own, most others are told from it by their length.
+// A dense image with owned blocks, with all tables beneath it. If nothing may come after it, as in a whole message, the
+// length alone rules out most other input.
 template <class L>
 [[nodiscard, gnu::noinline]] Reading try_dense_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
                                                             const char* routine, After after)
@@ -328,7 +330,7 @@ template <class L>
 
 // ---- elements ----
 
-// Elements: images as long as they are, then any.
+// Decodes elements as dense images until one is not, and then the rest as any tables.
 template <class L>
 bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
@@ -362,7 +364,7 @@ bool decode_owning_elements(Input in, u32 cells, u32 count, u8* records, const N
                 break;
         }
     }
-    if (i != count) {   // what is refused is released already
+    if (i != count) {   // a refused element has released its blocks already
         const std::size_t left = std::size_t{count - i} * L::record_size;
         memset_s(record, left, 0, left);
     }
@@ -419,8 +421,8 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// False, and nothing is done that decode_message does not do again, if no fast path applies. The services must have
-// been looked up: fast paths allocate through the unit's hooks as they find them.
+// Returns false if no fast path applies; decode_message then starts over. The memory services must have been looked up
+// before, because fast paths allocate through the unit's hooks without looking them up.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_message(Input in, u8* record, const Decoder& decoder)
 {
@@ -430,7 +432,7 @@ template <class L>
             if (try_dense_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, After::nothing) !=
                 Reading::none)
                 return true;
-        if constexpr (L::has_vectors)   // and so stands in no other table
+        if constexpr (L::has_vectors)   // and so is nested in no other table
             return try_owning_table_here<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
         else
             return try_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
@@ -440,12 +442,12 @@ template <class L>
     }
 }
 
-// The body of X__unpack. Returns the record's size on every path: required, though no caller can see a failure so.
+// The body of X__unpack. required: returns the record's size on every path, but no caller can then detect a failure.
 template <class L>
 [[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
 {
-    // The first decode takes the general path, which looks the services up between the root's tests and the first
-    // store.
+    // The first decoding takes the general path, which looks the services up after the root's tests and before the
+    // first store.
     const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
                       try_message<L>({bytes, length}, record, decoder);
     if (!done) [[unlikely]]

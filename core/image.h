@@ -1,13 +1,13 @@
-// An image: a form of a message in which every byte is either constant or a byte of the record, at a place known when
-// compiled. The fixed form is one, and the compact form of a record without a zero another.
+// An image: a form of a message in which every byte is either constant or a byte of the record, at a position known at
+// compile time. The fixed form is an image, and so is the compact form of a record without zeros.
 //
-// To write an image is to copy, without a look at the values; to read one is to compare the constants and to copy.
-// Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece where a later piece is
-// written over it, so that few moves are narrow ones.
+// Writing an image means copying, without looking at the values; reading one means comparing the constants and copying.
+// Copies go front to back in moves of up to 16 bytes. A move may pass the end of its piece if a later piece overwrites
+// the excess, which keeps the number of narrow moves small.
 //
-// Texts and blocks, its bodies, are of any length. They stand between the parts of an image and have no place in it: a
-// position counts the image's own bytes. So a number that leads past a body, or counts one, is not constant but a
-// sum.
+// Texts and blocks, the bodies, have any length. They stand between the parts of an image and are not counted in it: a
+// position counts only the image's own bytes. A distance that spans a body, or the length of one, is therefore not
+// constant but a sum.
 #pragma once
 
 #include <algorithm>
@@ -18,7 +18,7 @@
 
 namespace kesto {
 
-// A stretch of a record that stands on the wire just so; `width` is that of its values.
+// A stretch of a record that is contiguous on the wire too; `width` is the size of each of its values.
 struct FieldRun {
     u32 record_offset;
     u32 position;
@@ -26,15 +26,15 @@ struct FieldRun {
     u32 width;
 };
 
-// Stands before the image's byte at `position`, right after its count.
+// A body stands right after its count, before the image's byte at `position`.
 struct Body {
     Kind kind;
-    u32 record_offset;   // of its field
+    u32 record_offset;   // of the body's field
     u32 position;
 };
 
-// A number of `width` bytes to which the lengths of the bodies from `first` up to, not including, `last` are added.
-// Some need not be so for a reader, who finds the lengths by them or does not look at them.
+// A number of `width` bytes: `value` plus the lengths of the bodies from `first` up to, not including, `last`. A reader
+// checks it only where `must_be` is set; the other sums are the lengths themselves, or bytes that no reader looks at.
 struct Sum {
     u32 position;
     u32 width;
@@ -52,7 +52,7 @@ constexpr void put(u8* at, u32 value, u32 width)
         at[i] = static_cast<u8>(value >> (8 * i));
 }
 
-// Stores constants in their places, if there are any.
+// Stores constants at their positions, or drops them if `bytes` is null.
 struct Constants {
     u8* bytes;
 
@@ -63,7 +63,7 @@ struct Constants {
     }
 };
 
-// Counts items and stores them in an array, if there is one.
+// Counts items, and stores them unless `items` is null.
 template <class Item>
 struct List {
     Item* items;
@@ -77,7 +77,7 @@ struct List {
     }
 };
 
-// Takes the description of a form. With null pointers it only counts.
+// Receives the description of a form. With null pointers it only counts.
 struct Description {
     Constants constant;
     List<FieldRun> field;
@@ -86,14 +86,15 @@ struct Description {
     u32 length;
 };
 
-// Neighbours both in the record and on the wire. Where values must be turned, every field stays a run of its own.
+// Whether two field runs are adjacent both in the record and on the wire. On hosts that must swap bytes, every field
+// stays a run of its own.
 constexpr bool joins(const FieldRun& run, const FieldRun& next)
 {
     return host_has_wire_order && run.record_offset + run.bytes == next.record_offset &&
            run.position + run.bytes == next.position;
 }
 
-// A part of what is written: bytes of the source, or constant ones.
+// A stretch of the target: bytes copied from the source, or constant ones.
 struct Piece {
     u32 to;
     u32 from;
@@ -104,11 +105,11 @@ struct Piece {
 struct Move {
     u32 to;
     u32 from;
-    u32 bytes;   // a power of two, or those of a long piece
+    u32 bytes;   // a power of two up to 16, or the whole of a long piece
     bool constant;
 };
 
-// Where a move of 16 bytes takes four registers, a piece as long as this one goes by a call.
+// On 32-bit machines, where a move of 16 bytes takes four registers, a piece of this length or more is moved by a call.
 constexpr u32 long_piece = sizeof(void*) == 8 ? 0xFFFFFFFF : move_bytes + 1;
 
 [[gnu::noinline]] inline void copy_long(u8* to, const u8* from, u32 bytes) { std::memcpy(to, from, bytes); }
@@ -118,7 +119,7 @@ constexpr u32 long_piece = sizeof(void*) == 8 ? 0xFFFFFFFF : move_bytes + 1;
     return std::memcmp(left, right, bytes) != 0;
 }
 
-// Calls visit(move) for the moves of one piece, none of which passes the given ends.
+// Calls visit(move) for the moves of one piece. No move passes the given ends.
 template <class Visit>
 constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, Visit&& visit)
 {
@@ -141,7 +142,7 @@ constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, 
     }
 }
 
-// Whether each move of a plan stays inside both sides, and together they reach every byte of the target.
+// Whether each move stays inside source and target, and all moves together cover every byte of the target.
 template <std::size_t N>
 constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 source_end, u32 constant_end)
 {
@@ -156,8 +157,8 @@ constexpr bool is_whole(const std::array<Move, N>& moves, u32 target_end, u32 so
     return reached == target_end;
 }
 
-// Calls visit(piece) for the runs and for what lies between them, which is constant, in the order of the target. `runs`
-// are in that order too; `to` and `from` say which side of a run is which.
+// Calls visit(piece) for the runs and for the constant stretches between them, in the order of the target. `runs` must
+// be in that order; `to` and `from` select which member of a run is its target and which its source.
 template <std::size_t N, class Visit>
 constexpr void each_piece(const std::array<FieldRun, N>& runs, u32 FieldRun::*to, u32 FieldRun::*from, u32 target_end,
                           Visit&& visit)
@@ -173,7 +174,7 @@ constexpr void each_piece(const std::array<FieldRun, N>& runs, u32 FieldRun::*to
         visit(Piece{at, at, target_end - at, true});
 }
 
-// What `walk` visits, as an array: walk(visit) calls visit(item) for each.
+// The items that `walk` visits, as an array: walk(visit) calls visit(item) for each of them.
 template <class Item, auto walk>
 constexpr auto collected = [] {
     constexpr u32 count = [] {
@@ -187,7 +188,7 @@ constexpr auto collected = [] {
     return items;
 }();
 
-// Sixteen bytes that are compared in one go where the machine can.
+// Sixteen bytes, compared in one instruction where the machine has one.
 using Lanes [[gnu::vector_size(move_bytes)]] = u32;
 
 inline void gather_difference(Lanes& difference, const u8* left, const u8* right)
@@ -206,12 +207,12 @@ inline void gather_difference(u64& difference, const u8* left, const u8* right)
 
 }   // namespace detail
 
-// `L` is the record's layout. Form::describe(description) describes an image by calls of constant(position, value,
-// width), field(run), body(body) and sum(sum), and sets its length; runs and bodies come in the order of the wire.
+// `L` is the record's layout. Form::describe(description) describes an image: it calls constant(position, value,
+// width), field(run), body(body) and sum(sum), and sets the length. Runs and bodies must come in wire order.
 template <class L, class Form>
 struct Image {
 private:
-    // A first walk over the form counts, a second one stores.
+    // The first walk over the form counts, the second one stores.
     static constexpr detail::Description counted = [] {
         detail::Description description{};
         Form::describe(description);
@@ -241,8 +242,8 @@ public:
     static constexpr auto bodies = described.bodies;
     static constexpr auto sums = described.sums;
 
-    // Where the parts are that the bodies leave of an image: of each, the address that position 0 would have if the
-    // part began there. So the byte at a position of a part is at the part's address plus the position.
+    // The bodies divide an image into parts. Places holds an address for each part, chosen so that the byte at a
+    // position in that part is at this address plus the position.
     static constexpr u32 parts = bodies.size() + 1;
     template <class Byte>
     using Places = std::array<Byte*, parts>;
@@ -255,7 +256,7 @@ public:
         return part;
     }
 
-    // The number of the body whose field is at an offset in the record.
+    // The number of the body whose field is at `record_offset`; there must be one.
     static constexpr u32 body_of(u32 record_offset)
     {
         u32 b = 0;
@@ -270,7 +271,7 @@ public:
         return part < bodies.size() ? bodies[part].position : length;
     }
 
-    // Joined, in the order of the wire.
+    // Adjacent fields of a part joined into field runs, in wire order.
     static constexpr auto runs = detail::collected<FieldRun, [](auto& visit) {
         FieldRun open{};
         for (const FieldRun& field : described.fields) {
@@ -286,7 +287,7 @@ public:
             visit(open);
     }>;
 
-    // Writes `length` bytes, all but the bodies.
+    // Writes the `length` bytes of the image itself, without the bodies.
     [[gnu::always_inline]] static void write_here(const Places<u8>& to, const u8* record)
     {
         static_assert(detail::is_whole(writing, length, L::record_size, length));
@@ -322,7 +323,7 @@ public:
 
     [[gnu::noinline]] static void write(u8* to, const u8* record) { write_here({to}, record); }
 
-    // Whether the bytes are an image of some record, which they can be with bodies of any content.
+    // Whether the bytes are the image of some record. The content of the bodies does not matter.
     [[nodiscard, gnu::always_inline]] static bool matches(const Places<const u8>& bytes)
     {
         static_assert(std::all_of(comparing.begin(), comparing.end(), [](const detail::Move& move) {
@@ -359,7 +360,7 @@ public:
         return (narrow | halves[0] | halves[1]) == 0;
     }
 
-    // Writes the whole record, pointers and gaps between its fields as zeros, from an image that matches.
+    // Writes the whole record from an image that matches. Pointers and gaps between fields become zero.
     [[gnu::always_inline]] static void read(u8* record, const Places<const u8>& bytes)
     {
         static_assert(detail::is_whole(reading, L::record_size, length, L::record_size));
@@ -394,7 +395,7 @@ private:
         return sorted;
     }();
 
-    // Bytes that are not compared with constants: the record's and the sums.
+    // The bytes that are not compared with constants: those of the record and those of sums.
     static constexpr auto not_constant = [] {
         std::array<FieldRun, runs.size() + sums.size()> all{};
         std::copy(runs.begin(), runs.end(), all.begin());
@@ -405,7 +406,7 @@ private:
         return all;
     }();
 
-    // Calls visit(piece) for the pieces of each part, in the order of the wire.
+    // Calls visit(piece) for the pieces of each part, in wire order.
     template <std::size_t N, class Visit>
     static constexpr void each_wire_piece(const std::array<FieldRun, N>& from_record, Visit&& visit)
     {
@@ -460,7 +461,7 @@ private:
         detail::each_number(make, std::make_integer_sequence<u32, moves.size()>());
     }
 
-    // From the record to the wire and back are the same here.
+    // Swaps the bytes of each value. The same code serves both directions, record to wire and wire to record.
     static void copy_turned(u8* to, const u8* from, const FieldRun& run)
     {
         for (u32 i = 0; i < run.bytes; i += run.width)

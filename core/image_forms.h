@@ -1,4 +1,4 @@
-// The two images of a layout: its fixed form, if it has one, and its compact form when nothing in the record is zero.
+// The two images of a layout: its fixed form, if it has one, and the compact form of a record without zeros.
 #pragma once
 
 #include "core/image.h"
@@ -11,7 +11,7 @@ namespace detail {
 
 constexpr u32 table_length_at = 2;   // in a vtable
 
-// A table's vtable, all but the length of the table. `offset` gives the offset of each slot.
+// A vtable without the table length in it. `offset` holds the field offset of each slot.
 template <class L>
 constexpr void describe_vtable(const Constants& constant, u32 vtable, const std::array<u32, L::slots>& offset)
 {
@@ -20,8 +20,8 @@ constexpr void describe_vtable(const Constants& constant, u32 vtable, const std:
         constant(vtable + vtable_head_bytes + slot_bytes * k, offset[k], slot_bytes);
 }
 
-// The fixed form of a record that stands at `record` in the whole one, from `root` on. Of a nested form the root word
-// is its slot's cell, and leads just as far.
+// The fixed form of the record at offset `record` of the whole one, from position `root` on. In a nested form the
+// slot's cell takes the place of the root word and has the same value.
 template <class L>
 constexpr void describe_fixed(Constants& constant, List<FieldRun>& field, u32 record = 0, u32 root = 0)
 {
@@ -46,13 +46,13 @@ constexpr void describe_fixed(Constants& constant, List<FieldRun>& field, u32 re
     });
 }
 
-// A place in an image, and how many bodies stand before it.
+// A position in an image, and the number of bodies before it.
 struct Place {
     u32 position = 0;
     u32 bodies = 0;
 };
 
-// A number at `position`, the distance between two places.
+// The number at `position` that holds the distance between two places.
 constexpr void describe_distance(const Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
                                  const Place& to, bool must_be)
 {
@@ -63,8 +63,8 @@ constexpr void describe_distance(const Constants& constant, List<Sum>& sum, u32 
         sum(Sum{position, width, value, from.bodies, to.bodies, must_be});
 }
 
-// The compact form, without the root, of a record in which no scalar is zero, no text or block is absent and no block
-// empty: what write_table makes of it. Returns its end.
+// The compact form, without the root word, of a record in which no scalar is zero, no text or block is absent and no
+// block is empty. It equals the output of write_table. Returns its end.
 template <class L>
 constexpr Place describe_dense(Constants& constant, List<FieldRun>& field, List<Body>& body, List<Sum>& sum,
                                u32 record = 0, const Place& vtable = {})
@@ -157,14 +157,15 @@ using FixedImage = Image<L, detail::FixedDescription<L>>;
 template <class L>
 using DenseImage = Image<L, detail::DenseDescription<L>>;
 
-// Calls visit<b>() for each body of an image, b being its number; stops and gives false when one of the calls does.
+// Calls visit<b>() for each body of an image by its number. Stops at the first call that returns false, and returns
+// false then.
 template <class Form, class Visit>
 [[gnu::always_inline]] inline bool each_body(Visit&& visit)
 {
     return detail::each_number(visit, std::make_integer_sequence<u32, Form::bodies.size()>());
 }
 
-// Whether DenseImage is the compact form of this record.
+// Whether the compact form of this record is the dense image.
 template <class L>
 [[gnu::always_inline]] inline bool is_dense(const u8* record)
 {

@@ -1,5 +1,5 @@
-// The bounds of many fields at once: the offsets of as many slots as a word has lanes of 16 bits, for tables whose vtable
-// has all slots. Proved, as wire.h is.
+// Bounds tests of several fields at once: as many slots as a word has 16-bit lanes. Only for tables whose vtable has
+// all slots. Proved, as wire.h is.
 #pragma once
 
 #include "core/wire.h"
@@ -7,8 +7,8 @@
 namespace kesto {
 
 #ifdef __SSE2__
-// Eight slots. No lane of the result has a bit if and only if offset + width <= room in all of them. The sum stops at
-// 0xFFFF, which is more than any room that is told apart.
+// Eight slots. The result is zero if and only if offset + width <= room in every lane. The sum saturates at 0xFFFF and
+// cannot wrap; `room` must be at most 0xFFFE, so that a saturated sum exceeds it.
 using WideLanes = __m128i;
 constexpr u32 wide_lanes = 8;
 
@@ -17,17 +17,17 @@ inline WideLanes lanes_beyond(const WideLanes& room, const WideLanes& widths, co
     return _mm_subs_epu16(_mm_adds_epu16(offsets, widths), room);
 }
 #else
-constexpr u32 wide_lanes = 0xFFFFFFFF;   // there are none
+constexpr u32 wide_lanes = 0xFFFFFFFF;   // no layout has as many slots
 #endif
 
-// Four slots, or two where a word has 32 bits; the top bit of a lane is left free.
+// Four slots, or two on 32-bit machines. The top bit of each lane must stay free.
 using LaneWord = std::conditional_t<sizeof(void*) == 8, u64, u32>;
 
 constexpr u32 lane_bits = 16;
 constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;
 constexpr u32 largest_lane = 0x7FFF;
 
-// The greatest room that can be told apart.
+// The largest room that the lanes can represent. A larger one is treated as this one.
 constexpr u32 most_told_apart(std::size_t slots) { return slots >= wide_lanes ? 0xFFFE : largest_lane; }
 
 template <class W>
@@ -39,16 +39,17 @@ constexpr W each_lane(W value)
     return word;
 }
 
-// No lane of the result has its top bit if and only if offset + width <= room in all of them. `room` has the room in
-// each lane, from the width to largest_lane: with less, a far offset would go round. Only a lane that is beyond borrows
-// from its neighbour.
+// The top bits of all lanes of the result are clear if and only if offset + width <= room in every lane. Each lane of
+// `room` must be at least the lane's width and at most largest_lane: a smaller value lets large offsets wrap past zero.
+// Only a lane whose field lies outside borrows from its neighbour, and the result is nonzero then anyway.
 template <class W>
 inline W lanes_beyond(const W& room, const W& widths, const W& offsets)
 {
     return (room - widths - offsets) | offsets;
 }
 
-// Calls look(first) for groups of N slots that together are all of them, the last one looked at twice where it must be.
+// Calls look(first) for groups of N slots that together cover all slots; there must be at least N. The last group
+// overlaps the one before it if N does not divide the number of slots.
 template <u32 N, class Look>
 [[gnu::always_inline]] inline void each_group(u32 slots, Look&& look)
 {
@@ -59,21 +60,22 @@ template <u32 N, class Look>
         look(slots - N);
 }
 
-// How wide the field of each slot is, 0 where that does not matter, and the widest of them.
+// The width of each slot's field, 0 for a slot whose field need not be tested, and the largest of the widths.
 template <std::size_t N>
 struct Widths {
     std::array<u8, N> of;
     u8 widest;
 };
 
-// Whether all fields of a vtable that holds so many slots lie inside, absent ones as if they stood at the table's first
-// byte. False also where lanes are too narrow to tell.
+// Whether the fields of all N slots lie inside the input; an absent field counts as one at the table's first byte. The
+// vtable must hold N slots. Also false if an offset is too large for the lanes, and possibly if the offset of a slot of
+// width 0 leads outside.
 template <std::size_t N>
 [[nodiscard, gnu::always_inline]] inline bool scalars_fit(const Input& in, const TableView<Input>& view,
                                                           const Widths<N>& widths)
 {
     constexpr u32 slots = N;
-    if constexpr (slots < lanes) {   // each is looked at by itself
+    if constexpr (slots < lanes) {   // each slot is tested by itself
         bool all = true;
         for (u32 k = 0; k < slots; ++k)
             if (widths.of[k] != 0)
@@ -112,14 +114,14 @@ template <std::size_t N>
     return (beyond & each_lane<LaneWord>(largest_lane + 1)) == 0;
 }
 
-// A scalar that scalars_fit has tested, 0 when it is absent. Both come to a read, of an absent one at the table's first
-// byte.
+// Reads a scalar that scalars_fit has tested, as 0 if it is absent. There is no branch: the code loads a value in both
+// cases, for an absent scalar from the table's first byte.
 template <class T>
 [[gnu::always_inline]] inline void read_tested_scalar(const Input& in, const TableView<Input>& view, u32 offset,
                                                       u8* field)
 {
     std::size_t distance = offset;
-    asm("" : "+r"(distance));   // one register for the test and the address, where the compiler would copy it
+    asm("" : "+r"(distance));   // one register for the test and the address; the compiler would copy it
     // `distance` is added last, so that the table's address is formed once for all slots.
     const T value = load<T>(in.bytes_unchecked(view.table, 0, 0) + distance);   // scalars_fit
     const T present = distance != 0 ? value : T{0};

@@ -1,8 +1,8 @@
-// All that a list of slots fixes at compile time: where each field is in the record and in the fixed form, and how
-// long tables and forms are.
+// Everything that a list of slots determines at compile time: the offsets of each field in the record and in the fixed
+// form, and the lengths of tables and forms.
 //
-// Messages of equal layout share their code: a Layout says nothing about names and ids, and an element of a vector is
-// data (see decode_fast.h, encode.h).
+// Messages of equal layout share their code: a Layout contains no names and ids, and the element of a vector is data
+// (NestedDecoder in decode.h, NestedEncoder in measure.h).
 #pragma once
 
 #include <array>
@@ -19,7 +19,7 @@ constexpr u32 rounded_up(u32 value, u32 multiple) { return (value + multiple - 1
 
 constexpr u32 pointer_bytes = sizeof(void*);
 
-// ---- record fields, as bytes: a caller's record needs no more alignment than it was given ----
+// ---- record fields, accessed as bytes: a caller's record may have any alignment ----
 
 template <class T>
 inline T field_value(const u8* field)
@@ -55,7 +55,7 @@ struct Text {
     static constexpr u32 fixed_bytes = 0;
 };
 
-// A u32 length or count, then a pointer at `counted_pointer`: a block of bytes, or the elements of a vector.
+// A block or a vector is a u32 length or count, then a pointer at offset `counted_pointer`.
 constexpr u32 counted_pointer = pointer_bytes;
 
 struct Block {
@@ -83,7 +83,7 @@ struct Array {
     static constexpr u32 fixed_bytes = cell_bytes + count_bytes + payload;
 };
 
-// `fault_ends_read` is false in the messages that keep going when their nested table is refused.
+// `fault_ends_read` is false in messages whose decoding continues when this nested table is refused.
 template <class L, bool FaultEndsRead>
 struct Nested {
     using Layout = L;
@@ -144,13 +144,13 @@ struct Layout {
         return any;
     }();
 
-    // Inline helpers shared by several routines only up to so many slots; 16 would add 3 KB of code.
+    // Helpers shared by several routines are inline only up to this number of slots; 16 would add 3 KB of code.
     static constexpr bool is_small = slots <= 14;
 
-    // The same in a loop over elements, and never on 32-bit machines, where size matters more.
+    // The same for the loop over elements; never on 32-bit machines, where code size matters more.
     static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
 
-    // Whether every table, in any form, has at least 8 bytes after its scalars: a cell and a body or another table.
+    // Whether every table, in any form, has at least 8 bytes after its scalars: a cell, and a body or a nested table.
     static constexpr bool has_tail = [] {
         bool any = false;
         ((any = any || Slots::kind == Kind::array || Slots::kind == Kind::table), ...);
@@ -159,16 +159,16 @@ struct Layout {
 
     static constexpr bool has_vectors = (holds_vectors<Slots>() || ...);
 
-    // Those of all tables beneath included.
+    // Including the slots of all tables beneath.
     static constexpr u32 all_slots = (slots_of<Slots>() + ...);
 
-    // Whether a record without zeros has a dense image. With a vector the elements take the time, and a short table with
-    // owned blocks is not worth the test.
+    // Whether a record without zeros has a dense image. A layout with vectors has none, because the elements take the
+    // time; a short table with owned blocks has none, because the test would not pay.
     static constexpr bool has_image = !has_owned_blocks || (!has_vectors && all_slots > 16);
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
-    // How many tables and vectors stand before slot k: the index of its entry in a message's list of them.
+    // The number of tables and vectors before slot k, which is slot k's index in a message's list of them.
     static constexpr std::array<u32, slots + 1> nested_before = [] {
         std::array<u32, slots + 1> before{};
         for (u32 i = 0; i < slots; ++i)
@@ -178,7 +178,7 @@ struct Layout {
 
     // ---- compact form ----
 
-    static constexpr u32 empty_table = vtable_bytes + table_head_bytes;   // a table with nothing to write
+    static constexpr u32 empty_table = vtable_bytes + table_head_bytes;   // bytes of a table without fields
 
     // ---- fixed form; offsets from the table ----
 
@@ -193,7 +193,7 @@ struct Layout {
     static constexpr u32 fixed_vtable = root_bytes + rounded_up(fixed_table_bytes, 4);   // its position
     static constexpr u32 fixed_length = has_owned_blocks ? 0 : rounded_up(fixed_vtable + vtable_bytes, 8);
 
-    // Calls visit<Slot>(k) for each slot, k being its number; stops and gives false when one of the calls does.
+    // Calls visit<Slot>(k) for every slot, in order. Stops at the first call that returns false, and returns false.
     template <class Visit>
     [[gnu::always_inline]] static constexpr bool each_slot(Visit&& visit)
     {
@@ -202,7 +202,7 @@ struct Layout {
     }
 };
 
-// The same with visit<k>(), for code that needs the number as a constant. It takes longer to compile.
+// The same with visit<k>(), for code that needs the slot number as a constant. It takes longer to compile.
 template <class L, class Visit>
 [[gnu::always_inline]] constexpr bool each_slot_number(Visit&& visit)
 {

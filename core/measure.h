@@ -1,5 +1,5 @@
-// How many bytes the compact form of a record takes: exactly, or a bound. Where a buffer has room for the bound, the packer
-// (pack.h) runs alone, and its end gives the size.
+// The size of a record's compact form: exactly, or an upper bound. If a buffer's capacity covers the bound, the packer
+// (pack.h) runs without measuring first, and the end of its output gives the size.
 #pragma once
 
 #include "core/image_forms.h"
@@ -10,25 +10,25 @@ struct NestedEncoder;
 
 enum class Measure : bool { exactly, bound };
 
-// The size of `count` tables without their cells, or a bound of it; too_large when one of them or all do not fit 32
-// bits.
+// The size of `count` tables without their cells, or a bound of it. Any value above largest_size means that the tables
+// do not fit in 32 bits.
 using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
 
-// Writes `count` tables from `at` on and fills their cells. Returns the end of what was written.
+// Writes `count` tables from `at` on and fills their cells. Returns the end of the output.
 using WriteElements = u8* (*)(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested);
 
-// A message inside another one, as far as encoding goes. The routines are null for a table.
+// The constants of a nested message that encoding needs. The routines are null for a table.
 struct NestedEncoder {
     MeasureElements measure_elements;
     MeasureElements bound_elements;
     WriteElements write_elements;
-    const NestedEncoder* nested;   // the messages inside that one
+    const NestedEncoder* nested;   // the messages nested in that one
 };
 
 constexpr u64 largest_size = 0xFFFFFFFF;
-constexpr u64 too_large = largest_size + 1;   // a sum that has passed 32 bits stays there
+constexpr u64 too_large = largest_size + 1;   // makes every sum that contains it exceed 32 bits
 
-// A bound of the size of a table with an image.
+// An upper bound of the size of a table whose layout has an image.
 template <class L>
 [[gnu::always_inline]] inline u64 bound_image(const u8* record)
 {
@@ -49,9 +49,9 @@ template <class L>
     return size <= largest_size ? size : too_large;
 }
 
-// The size of one table and all beneath it, without a root; too_large for a vector with a count and no pointer. A bound
-// counts every scalar; it is too_large for a block with a pointer and length 0 too, so that nobody takes the packer's
-// end for the size there.
+// The size of one table and all tables beneath it, without a root word; too_large if it does not fit in 32 bits, and
+// for a vector with a count but no pointer. A bound counts every scalar. It is too_large for a block with a pointer and
+// length 0 too, because the end of the packer's output is not the size in that case.
 template <class L, Measure how>
 [[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
@@ -68,7 +68,7 @@ template <class L, Measure how>
             if (text != nullptr)
                 size += u64{cell_bytes + count_bytes} + std::strlen(reinterpret_cast<const char*>(text)) + 1;
         } else if constexpr (Slot::kind == Kind::block) {
-            // required: the pointer alone decides, so a block of length 0 counts 8 bytes that nobody writes
+            // required: the pointer alone decides, so a block of length 0 adds 8 bytes that are never written
             if (field_pointer(field + counted_pointer) != nullptr) {
                 const u32 length = field_value<u32>(field);
                 size += u64{cell_bytes + count_bytes} + length;
@@ -79,7 +79,7 @@ template <class L, Measure how>
             const u32 count = field_value<u32>(field);
             if (count != 0) {
                 const u8* const records = field_pointer(field + counted_pointer);
-                if (records == nullptr)   // as a failed decode leaves it: no operation takes the record
+                if (records == nullptr)   // as a failed decode leaves it: no operation accepts the record
                     return false;
                 const NestedEncoder& element = nested[L::nested_before[K]];
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
@@ -94,7 +94,7 @@ template <class L, Measure how>
             else
                 size += DenseImage<Inner>::length;
         }
-        return size <= largest_size;   // so that no sum ever wraps
+        return size <= largest_size;   // leaving here keeps the u64 sum far from wrapping
     });
     return fits ? size : too_large;
 }
@@ -117,7 +117,7 @@ u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
     }
 }
 
-// The size of a whole message, or 0 for a null record and for a size beyond 32 bits.
+// The size of a whole message. 0 for a null record and for a size that does not fit in 32 bits.
 template <class L>
 u32 measure_message(const u8* record, const NestedEncoder* nested)
 {
@@ -127,7 +127,7 @@ u32 measure_message(const u8* record, const NestedEncoder* nested)
     return size <= largest_size ? static_cast<u32>(size) : 0;
 }
 
-// Where there is room for so many bytes the packer may run without a measure before it. Beyond 32 bits there never is.
+// The capacity from which on the packer may run without measuring first. No buffer has it if it exceeds 32 bits.
 template <class L>
 [[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
 {

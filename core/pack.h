@@ -1,7 +1,7 @@
 // Writes the compact form of a record, without bounds tests: the size was computed before, see measure.h.
 //
-// Both walk the slots of a layout by the same rules, but for the one case in which they are required to differ: a block
-// with a pointer and length 0.
+// Measuring and packing walk the slots of a layout by the same rules. They differ in one case, which is required: a
+// block with a pointer and length 0.
 #pragma once
 
 #include "core/measure.h"
@@ -10,7 +10,7 @@
 
 namespace kesto {
 
-// Some slots of a vtable in one register.
+// Several slots of a vtable in one register.
 template <class Word>
 struct SlotWord {
     static constexpr u32 slots = sizeof(Word) / slot_bytes;
@@ -26,7 +26,7 @@ struct SlotWord {
 };
 
 #ifdef __SSE2__
-// The same in a register that takes a slot in one instruction.
+// The same in a vector register, into which one instruction inserts a slot.
 struct SlotLanes {
     static constexpr u32 slots = sizeof(u64) / slot_bytes;
     u16 lanes [[gnu::vector_size(16)]] = {};
@@ -40,7 +40,7 @@ struct SlotLanes {
     [[gnu::always_inline]] u64 value() const
     {
         using Halves = u64 __attribute__((vector_size(16)));
-        return Halves(lanes)[0];   // no intrinsic for it on 32-bit x86
+        return Halves(lanes)[0];   // 32-bit x86 has no intrinsic for this
     }
 };
 using BranchlessWord = SlotLanes;
@@ -48,8 +48,9 @@ using BranchlessWord = SlotLanes;
 using BranchlessWord = SlotWord<std::size_t>;
 #endif
 
-// The slots of a vtable, gathered in registers, each of which is stored as soon as its last slot is known. Stores of
-// fields and of single slots in turn would be the dearest part of packing, as a processor merges those of neighbours.
+// The slots of a vtable, collected in registers. Each register is stored as soon as its last slot is known. Alternating
+// stores of fields and single slots would be the most expensive part of packing, because a processor merges only
+// adjacent stores.
 template <class L, class Word>
 struct SlotWords {
     static constexpr u32 in_word = Word::slots;
@@ -57,7 +58,7 @@ struct SlotWords {
     u8* at;
     std::array<Word, (L::slots + in_word - 1) / in_word> words;
 
-    // Which slot of a word is known last: scalars are known before all others.
+    // The slot of a word that is known last. Scalars are known before all other slots.
     static constexpr u32 last_known(u32 word)
     {
         u32 last = word * in_word;
@@ -73,8 +74,7 @@ struct SlotWords {
         words[K / in_word].template set<K % in_word>(offset);
     }
 
-    // Slot K will not change any more. After the last slots the head of the table may be written over, which comes
-    // later.
+    // Slot K is final. The store of the last word may overwrite the table's head, which is written later.
     template <u32 K>
     [[gnu::always_inline]] void known() const
     {
@@ -89,7 +89,7 @@ struct SlotWords {
         }
     }
 
-    // Both, for a slot that is known at once.
+    // Does both, for a slot that is final at once.
     template <u32 K>
     [[gnu::always_inline]] void put(u32 offset)
     {
@@ -98,13 +98,13 @@ struct SlotWords {
     }
 };
 
-// Writes one table, its vtable before it, and all beneath it from `vtable` on. Returns the end of what was
-// written.
+// Writes one table from `vtable` on: its vtable, the table itself and all tables beneath it. Returns the end of the
+// output.
 template <class L>
 [[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
-// The same, slot by slot. With a tail, when something else is written after the table afterwards, scalars are written
-// without a branch; without one no byte is written that is not the table's.
+// The same, slot by slot. With Tail::follows, at least 8 bytes that come after the table's scalars are written later,
+// so scalars are stored without a branch. With Tail::none, only bytes of the table itself are written.
 enum class Tail : bool { none, follows };
 
 template <class L, Tail tail>
@@ -113,18 +113,18 @@ template <class L, Tail tail>
 template <class L>
 constexpr Tail own_tail = L::has_tail ? Tail::follows : Tail::none;
 
-// One table while it is written. `at` is the offset from the table of the next byte to write. It cannot wrap: the size of
-// the whole message was computed before and fits 32 bits, or the buffer has room for the bound.
+// A table while it is written. `at` is the offset of the next byte to write, from the table. It cannot wrap: either the
+// size of the whole message was computed before and fits in 32 bits, or the buffer's capacity covers the bound.
 //
-// A table is written in two halves. The first, scalars and reserve_cell, fills slots and leaves in cells[k] the offset of
-// slot k's cell, 0 for an absent field. The second, write_body and write_beneath, follows these. After write_body the entry
-// of a vector is the offset of its first element's cell.
+// A table is written in two halves. The first, write_scalar and reserve_cell, fills the slots and stores the offset of
+// slot k's cell in cells[k], or 0 for an absent field. The second, write_body and write_beneath, uses these offsets.
+// write_body replaces the entry of a vector by the offset of its first element's cell.
 template <class L, Tail tail>
 struct TableWriter {
     u8* table;
     const u8* record;
     u32 at = table_head_bytes;
-    // A vector register does not pay after branches, which set few slots.
+    // A vector register does not pay in the branching code, which sets few slots.
     SlotWords<L, std::conditional_t<tail == Tail::follows, BranchlessWord, SlotWord<std::size_t>>> slots;
     std::array<u32, L::slots> cells;   // for all slots but scalars
 
@@ -148,7 +148,7 @@ struct TableWriter {
         if constexpr (Slot<K>::kind == Kind::scalar) {
             const auto value = field_value<typename Slot<K>::Value>(field<K>());
             if constexpr (tail == Tail::follows) {
-                store(table + at, value);   // a zero has the next field written over it, or the tail
+                store(table + at, value);   // the next field or the tail overwrites a zero
                 const u32 mask = 0U - u32{value != 0};
                 slots.template put<K>(at & mask);
                 at += sizeof value & mask;
@@ -163,7 +163,7 @@ struct TableWriter {
         }
     }
 
-    // Reserves a cell, to be filled when it is known where it leads.
+    // Reserves a cell, which is filled when its target is known.
     template <u32 K>
     [[gnu::always_inline]] void reserve_cell()
     {
@@ -172,7 +172,7 @@ struct TableWriter {
             if constexpr (Slot<K>::kind == Kind::text)
                 written = field_pointer(field<K>()) != nullptr;
             else if constexpr (Slot<K>::kind == Kind::vector)
-                written = field_value<u32>(field<K>()) != 0;   // it has a pointer then, or there would be no size
+                written = field_value<u32>(field<K>()) != 0;   // it has a pointer then: else there is no size
             else if constexpr (Slot<K>::kind == Kind::block)
                 written = field_pointer(field<K>() + counted_pointer) != nullptr && field_value<u32>(field<K>()) != 0;
             cells[K] = written ? at : 0;
@@ -181,7 +181,7 @@ struct TableWriter {
         }
     }
 
-    // Leads slot K's cell to the count that comes next, and writes the count.
+    // Links slot K's cell to the count, which it writes next.
     template <u32 K>
     [[gnu::always_inline]] void open_body(u32 count)
     {
@@ -196,7 +196,7 @@ struct TableWriter {
         at += length;
     }
 
-    // The bodies that belong to the table itself.
+    // Writes the body of slot K, if it has one: an array, a text, a block, or the count and cells of a vector.
     template <u32 K>
     [[gnu::always_inline]] void write_body()
     {
@@ -227,7 +227,7 @@ struct TableWriter {
             if (cells[K] != 0) {
                 const u32 count = field_value<u32>(field<K>());
                 open_body<K>(count);
-                cells[K] = at;   // from here on the first element's cell
+                cells[K] = at;   // from now on the offset of the first element's cell
                 at += cell_bytes * count;
             }
         }
@@ -263,7 +263,7 @@ template <class L, Tail tail, u32... K>
     (writer.template reserve_cell<K>(), ...);
     (writer.template write_body<K>(), ...);
 
-    // The second half is the table length, truncated beyond 64 KiB: no reader looks at it.
+    // The upper half is the table length. It is truncated above 64 KiB, which is harmless: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
     store(writer.table, u32{L::vtable_bytes});
 
@@ -293,7 +293,7 @@ template <class L>
     return try_write_dense_table_here<L>(vtable, record);
 }
 
-// The fast path: a record without a zero scalar. False, and nothing is written, if it has one.
+// The fast path, for a record without a zero scalar. Returns false and writes nothing if there is a zero.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_write_dense_table(u8* vtable, const u8* record)
 {
@@ -303,7 +303,7 @@ template <class L>
         return write_large_dense_table<L>(vtable, record);
 }
 
-// The same for a record that has an image with bodies. Returns the end of what was written.
+// The same for a layout with owned blocks; the record must be dense. Returns the end of the output.
 template <class L>
 [[nodiscard, gnu::noinline]] u8* write_dense_owning_table(u8* vtable, const u8* record)
 {
@@ -343,8 +343,9 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
-// Elements: dense images until one is not dense, then any. Branching per scalar is fast while consecutive rows have zeros
-// in the same slots; that two rows in a row came to the same size is taken as the sign of it.
+// Writes elements as dense images until one is not dense, and then the rest slot by slot. Branching per scalar is fast
+// while consecutive records have zeros in the same slots; two records of the same size in succession are taken as a
+// sign of this.
 template <class L>
 u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
 {
@@ -381,7 +382,7 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
     return at;
 }
 
-// Writes a whole message into a buffer that has room for it. Returns the end of what was written.
+// Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
 template <class L>
 u8* write_message(u8* buffer, const u8* record, const NestedEncoder* nested)
 {

@@ -1,4 +1,5 @@
-// The receiving half of a module: what a message's line in the catalogue becomes there. See receive_unit.inc.
+// The receiving half of a module: the constants that are made from a message's line in the catalogue. See
+// receive_unit.inc.
 #pragma once
 
 #include <span>
@@ -31,7 +32,7 @@ struct Receiving {
         return list;
     }();
 
-    // In slot order, those of a table where it stands.
+    // In slot order; the blocks of a nested table come in place of the table's slot.
     static constexpr auto owned_blocks = [] {
         std::array<OwnedBlock, owned_block_count<L>> parts{};
         u32 next = 0;
@@ -69,15 +70,14 @@ struct Receiving {
     };
 };
 
-// One message's hooks, as MESH is given them.
+// The functions of one message that are registered with MESH.
 struct Registration {
     u32 id;
     MeshUnpack unpack;
     MeshFree free;
 };
 
-// Registers one message after the other. Returns the first result that is not 0, after which nothing more is
-// registered.
+// Registers the messages in order. Stops at the first result that is not 0 and returns it; returns 0 otherwise.
 int register_messages(std::span<const Registration> messages);
 
 }   // namespace kesto

@@ -1,4 +1,4 @@
-// Ties a record of the public headers to its layout: each field's offset, the number of fields and the size.
+// Checks that a record of the public headers matches its layout: field offsets, number of fields, size and alignment.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@ namespace kesto::detail {
 
 constexpr u32 no_field = 0xFFFFFFFF;
 
-// The offset of field K of a record, by whichever name it has; no_field where the record has none.
+// The offset of field K of a record, whichever name the field has; no_field if the record has no such field.
 template <class Record, u32 K>
 struct FieldOffset {
     static constexpr u32 value = no_field;

@@ -1,4 +1,4 @@
-// Routine names for logs and memory services, put together when compiled: "<message>_unpack" and the like.
+// Routine names for the log and the memory services, composed at compile time: "<message>_unpack" and the like.
 #pragma once
 
 #include <array>

@@ -7,18 +7,18 @@ namespace kesto {
 namespace {
 
 constexpr int failed = -1;
-constexpr u32 pool_bytes = 0x10000;   // all byte strings of a compact batch
+constexpr u32 pool_bytes = 0x10000;   // for all byte strings of a compact batch together
 
-// Packs one record for sending. Where the packer writes less than the size says, for a block with a pointer and length
-// 0, the rest is sent as well: as zeros, so that nothing else that malloc's memory held leaves the process.
+// Packs one record for sending. For a block with a pointer and length 0 the packer writes fewer bytes than `size`. The
+// rest is sent too, as zeros, so that no earlier content of malloc's memory leaves the process.
 void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
 {
     u8* const end = encoder.layout->write(buffer, record, encoder.nested);
     std::memset(end, 0, static_cast<std::size_t>(buffer + size - end));
 }
 
-// The bytes of a batch's one allocation: `data` of them, then the items. 0 where 32 bits do not hold the sum, which
-// takes more records than a 32-bit process has room for; an allocation of the wrapped sum would be overrun.
+// The size of a batch's only allocation: `data` bytes, then the items. 0 if it does not fit in 32 bits, because writing
+// would overrun an allocation of the wrapped sum. This needs more records than a 32-bit process has room for.
 u32 batch_bytes(u64 data, u32 count)
 {
     const u64 bytes = data + u64{count} * sizeof(MeshSendItem);
@@ -30,7 +30,7 @@ struct Batch {
     MeshSendItem* items;
 };
 
-// Fills `batch` for the given number of data bytes, a multiple of 8, and items.
+// Allocates a batch of `data` bytes and `count` items. `data` must be a multiple of 8, so that the items are aligned.
 [[nodiscard]] bool open_batch(u64 data, u32 count, Batch& batch)
 {
     const u32 bytes = batch_bytes(data, count);
@@ -43,8 +43,8 @@ struct Batch {
     return true;
 }
 
-// Packs one record into the pool, `used` bytes of which are taken. The services are looked up once the first record is
-// known to fit.
+// Packs one record into the pool after its first `used` bytes; `used` must be at most pool_bytes, so that
+// pool_bytes - used does not wrap. The services are looked up only when the record is known to fit.
 [[nodiscard]] bool add_to_pool(const Batch& batch, u32 i, u32& used, const u8* record, const Encoder& encoder)
 {
     if (record == nullptr || used == pool_bytes)
@@ -105,7 +105,7 @@ int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& enco
     if (size == 0 || *length < size)
         return failed;
     if (buffer == nullptr) [[unlikely]] {
-        // required: a log line, and yet success with the size
+        // required: a log line, although the call succeeds and returns the size
         log_pack_parameters(*encoder.unit, encoder.pack_routine, buffer, *length, record);
     } else {
         ensure_memory_services(*encoder.unit);

@@ -1,4 +1,4 @@
-// Encoding as callers see it: packing into their buffer, and sending through MESH, singly and in batches.
+// Encoding for callers: packing into a caller's buffer, and sending through MESH, one record at a time or in batches.
 #pragma once
 
 #include "core/pack.h"
@@ -8,34 +8,34 @@ namespace kesto {
 
 struct Encoder;
 
-// Encoding of one layout, shared by its messages.
+// The encoding routines of one layout, shared by all messages of that layout.
 struct LayoutEncoder {
-    u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size, 0 for none
+    u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size; 0 if none
     u8* (*write)(u8* buffer, const u8* record, const NestedEncoder* nested);   // the compact form; returns its end
-    u64 (*bound)(const u8* record, const NestedEncoder* nested);               // of the compact form's size
-    void (*write_fixed)(u8* buffer, const u8* record);                         // null where there is no fixed form
+    u64 (*bound)(const u8* record, const NestedEncoder* nested);               // upper bound of that size
+    void (*write_fixed)(u8* buffer, const u8* record);                         // null if there is no fixed form
     int (*send_single)(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
-    u32 fixed_length;   // 0 where there is none
+    u32 fixed_length;   // 0 if there is no fixed form
     u32 record_size;
 };
 
-// One message, as far as packing and sending go beyond its layout.
+// The constants of a message that packing and sending need besides its layout.
 struct Encoder {
     const LayoutEncoder* layout;
     const NestedEncoder* nested;   // one for each table and vector, in slot order
     Unit* unit;
-    const char* pack_routine;   // the routine name that logs are given
+    const char* pack_routine;   // routine name for the log
     u32 id;
 };
 
-// Hands items to MESH; a destination of 0 means none.
+// Hands items to MESH. Destination 0 means no destination.
 inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination)
 {
     return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
 }
 
-// The bodies of X__pack, X__sendsingle, X__sendbatch, and of X__sendmsg and X__sendtomsg together. Records lie end to
-// end.
+// pack_measured is X__pack without its fast path, send_single_compact is X__sendsingle for layouts with owned blocks,
+// send_batch is X__sendbatch, and send serves X__sendmsg and X__sendtomsg. Records are contiguous.
 int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder);
 int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
 int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);

@@ -1,4 +1,4 @@
-// The sending half of a module: what a message's line in the catalogue becomes there. See send_unit.inc.
+// The sending half of a module: the constants that are made from a message's line in the catalogue. See send_unit.inc.
 #pragma once
 
 #include "core/catalogue.h"
@@ -7,7 +7,7 @@
 
 namespace kesto {
 
-// The constants and operations of one message, made from its type in the catalogue and the unit that encodes it.
+// The constants of one message, made from its type in the catalogue and the unit that encodes it.
 template <class Message, Unit* unit>
 struct Sending {
     using L = typename Message::Layout;

@@ -22,7 +22,7 @@ void find_log_service(Unit& unit)
     pthread_mutex_lock(&unit.log_mutex);
     if (unit.log_ready.load(std::memory_order_relaxed) == 0) {
         unit.log_write = find_service<LogWrite>("RVL_OsalLogWrite");
-        unit.log_ready.store(1, std::memory_order_release);   // last: whoever reads 1 sees log_write
+        unit.log_ready.store(1, std::memory_order_release);   // last: a thread that reads 1 also sees log_write
     }
     pthread_mutex_unlock(&unit.log_mutex);
 }
@@ -58,7 +58,7 @@ void find_memory_services(Unit& unit)
                 unit.release = release;
             }
         }
-        unit.memory_ready.store(1, std::memory_order_release);   // last: whoever reads 1 sees the pair
+        unit.memory_ready.store(1, std::memory_order_release);   // last: a thread that reads 1 also sees the pair
     }
     pthread_mutex_unlock(&unit.memory_mutex);
 }
@@ -73,7 +73,7 @@ void log_table_fault(Unit& unit, const char* routine, TableFault fault, const In
 {
     switch (fault) {
     case TableFault::table_position:
-        // required: the upper number is the length, though the bound is length - 4
+        // required: the upper number is the length, although the bound is length - 4
         write_log(unit, bad_input, LogSite::table_position, routine, "[KESTO]:Table offset(%u) is out of range(4 - %u)",
                   view.table, in.length);
         break;

@@ -1,4 +1,4 @@
-// The state of a codec unit and what it finds out about its process on first need: memory services and log service.
+// The state of a codec unit, with the services of the process that it looks up on first use: memory and log.
 //
 // Each module has two units, one that receives and one that sends. Units share nothing.
 #pragma once
@@ -28,7 +28,7 @@ struct Unit {
     pthread_mutex_t log_mutex = PTHREAD_MUTEX_INITIALIZER;
     LogWrite log_write = nullptr;
     std::atomic<u32> log_ready{0};
-    // Non-zero on a host of the other order: a record of what load and store decided when compiled.
+    // Nonzero on a big-endian host. It records what load and store decided at compile time.
     u32 byte_order = 0;
 };
 
@@ -37,8 +37,8 @@ inline void start(Unit& unit) { unit.byte_order = host_has_wire_order ? 0 : 1; }
 
 void find_memory_services(Unit& unit);
 
-// Whether they have been looked up: one plain load, whose acquire orders the hooks after the flag that says they are
-// there.
+// Whether the memory services have been looked up. A single load; its acquire order ensures that a thread that sees the
+// flag also sees the hooks.
 inline bool has_memory_services(const Unit& unit) { return unit.memory_ready.load(std::memory_order_acquire) != 0; }
 
 inline void ensure_memory_services(Unit& unit)
@@ -49,7 +49,7 @@ inline void ensure_memory_services(Unit& unit)
 
 // ---- the log ----
 
-// The number that a log record gives for its place in the code.
+// The number by which a log record identifies its place in the code.
 enum class LogSite : u32 {
     decode_parameters = 1,
     table_position,

@@ -1,7 +1,8 @@
-// The wire: how values stand in a byte string, and the only code that reads bytes from outside the process's trust.
+// The wire format: the encoding of values in a byte string, and the reader's primitives, which together with lanes.h
+// decide every bound on untrusted bytes.
 //
-// A position is a u32 index from the first byte of the byte string. The reader's primitives are templates over the
-// input, so that the code that ships can also be run on symbolic words and proved; `Input` is the one that ships.
+// A position is a u32 index from the first byte of the byte string. The primitives are templates over the input, so
+// that the shipped code can also be run on symbolic words and proved; `Input` is the shipped one.
 #pragma once
 
 #include <array>
@@ -18,7 +19,7 @@
 
 namespace kesto {
 
-// ---- values on the wire: little-endian at any position, whatever the host ----
+// ---- values on the wire: little-endian on every host, at any alignment ----
 
 constexpr bool host_has_wire_order = std::endian::native == std::endian::little;
 
@@ -48,22 +49,22 @@ constexpr u32 root_bytes = 4;          // u32, position of the root table
 constexpr u32 table_head_bytes = 4;    // u32, table position minus vtable position
 constexpr u32 vtable_head_bytes = 4;   // u16 vtable length, u16 table length
 constexpr u32 slot_bytes = 2;          // u16, field position minus table position; 0 for an absent field
-constexpr u32 cell_bytes = 4;          // u32, distance from the cell to what it leads to
+constexpr u32 cell_bytes = 4;          // u32, distance from the cell to its target
 constexpr u32 count_bytes = 4;         // u32, before every text, block, array and vector
-constexpr u32 least_length = 4;        // a byte string that can hold a root
+constexpr u32 least_length = 4;        // of a byte string, which must hold a root
 
 // ---- reading foreign bytes ----
 
-// The bytes of one message as they came. Everything below relies on length >= least_length, which the parameter test of
-// the decoder guarantees, and on no upper bound.
+// The received bytes of one message. Everything below relies on length >= least_length, which the decoder's parameter
+// test guarantees, and on no upper bound.
 struct Input {
     using Word = u32;
 
     const u8* bytes;
     u32 length;
 
-    // Whoever calls these has tested that the value, `offset` bytes after the position `at`, lies inside. The two are
-    // added as addresses, so that the compiler may hold the first and fold the second.
+    // The caller must have tested that the value at `at` + `offset` lies inside. The two are added as addresses, so
+    // that the compiler can keep the first in a register and fold the second into the instruction.
     template <class T>
     std::conditional_t<(sizeof(T) > sizeof(u32)), T, u32> load_unchecked(u32 at, u32 offset = 0) const
     {
@@ -77,7 +78,7 @@ struct Input {
     }
 #endif
 
-    // All n bytes lie inside.
+    // The same for n bytes.
     const u8* bytes_unchecked(u32 at, u32 offset, u32 /*n*/) const { return bytes + at + offset; }
 
     template <class T>
@@ -98,13 +99,13 @@ struct Input {
     }
 };
 
-// A table whose vtable has been tested.
+// A table that has been tested together with its vtable.
 template <class In>
 struct TableView {
     typename In::Word table;
     typename In::Word vtable;
     typename In::Word vtable_length;
-    typename In::Word bytes_after_table;   // from its first byte to the end of the input
+    typename In::Word bytes_after_table;   // from the table's first byte to the end of the input
 };
 
 enum class TableFault : u8 { none, table_position, vtable_position, vtable_length };
@@ -115,7 +116,7 @@ inline typename In::Word root_table(const In& in)
     return in.template load_unchecked<u32>(typename In::Word(0));   // every input has least_length bytes
 }
 
-// Tests the table at `table` and its vtable. `view` is filled as far as the tests got, for whoever reports a fault.
+// Tests the table at `table` and its vtable. After a fault `view` is filled as far as the tests got, for the log.
 template <class In>
 [[nodiscard]] inline TableFault open_table(const In& in, typename In::Word table, TableView<In>& view)
 {
@@ -142,8 +143,9 @@ template <class In>
     return static_cast<bool>(in.length >= n);
 }
 
-// Where n bytes start of which `before` stand before the table; false unless all of them lie inside, after the
-// root. n is at least `before`, and small.
+// Finds the start of n bytes, `before` of which come before the table. False unless all of them lie inside, after the
+// root. n must be at least `before`, so that a wrapped `behind_first` exceeds the bound, and at most 0xFFFF, so that
+// root_bytes + n does not wrap.
 template <class In>
 [[nodiscard]] inline bool image_fits(const In& in, typename In::Word table, typename In::Word before,
                                      typename In::Word n, typename In::Word& at)
@@ -151,15 +153,15 @@ template <class In>
     using Word = typename In::Word;
     if (in.length < root_bytes + n)
         return false;
-    const Word behind_first = table - (root_bytes + before);   // of a table too far in front: more than any length
+    const Word behind_first = table - (root_bytes + before);   // a table too close to the start wraps and is refused
     if (behind_first > in.length - (root_bytes + n))
         return false;
     at = table - before;
     return true;
 }
 
-// The same for a table whose vtable has just so many slots and stands right before it, as we write it in compact
-// form. False for any other, be it well formed or not.
+// Opens a table whose vtable has exactly `slots` slots and comes right before it, as in the compact form that our
+// writers produce. False for any other table, whether well formed or not.
 template <class In>
 [[nodiscard]] inline bool open_compact_table(const In& in, typename In::Word table, typename In::Word slots,
                                              TableView<In>& view)
@@ -176,21 +178,21 @@ template <class In>
     return true;
 }
 
-// Whether the vtable has as many slots. An odd length is legal.
+// Whether the vtable has at least `slots` slots. An odd vtable length is legal.
 template <class In>
 inline bool holds_slots(const TableView<In>& view, typename In::Word slots)
 {
     return static_cast<bool>(view.vtable_length >= vtable_head_bytes + slot_bytes * slots);
 }
 
-// Slot `k`, of a vtable that holds it: the field's offset from the table, 0 when it is absent.
+// Slot `k`, which the vtable must hold: the field's offset from the table, 0 if the field is absent.
 template <class In>
 inline typename In::Word slot_unchecked(const In& in, const TableView<In>& view, typename In::Word k)
 {
     return in.template load_unchecked<u16>(view.vtable, vtable_head_bytes + slot_bytes * k);   // holds_slots
 }
 
-// Slot `k` of a vtable of any length.
+// Slot `k` of a vtable of any length; 0 if the vtable does not hold it.
 template <class In>
 inline typename In::Word slot_offset(const In& in, const TableView<In>& view, typename In::Word k)
 {
@@ -200,7 +202,8 @@ inline typename In::Word slot_offset(const In& in, const TableView<In>& view, ty
     return slot_unchecked(in, view, k);
 }
 
-// Whether the n bytes at `offset` after the table's start lie inside. n is 8 at the most and an offset has 16 bits.
+// Whether the n bytes at `offset` from the table lie inside. The sum cannot wrap: n must be at most 8, and an offset
+// has 16 bits.
 template <class In>
 [[nodiscard]] inline bool field_fits(const TableView<In>& view, typename In::Word offset, u32 n)
 {
@@ -216,7 +219,7 @@ template <class T, class In>
     return true;
 }
 
-// Follows the reference cell at `offset` to a count and what it counts, without a test of the count itself.
+// Follows the cell at `offset` to a count and the payload after it. The count itself is not tested.
 template <class In>
 [[nodiscard]] inline bool open_body(const In& in, const TableView<In>& view, typename In::Word offset,
                                     typename In::Word& payload, typename In::Word& count)
@@ -226,7 +229,7 @@ template <class In>
         return false;
     const Word cell = view.table + offset;
     const Word distance = in.template load_unchecked<u32>(cell);   // field_fits
-    if (distance > in.length - cell - count_bytes)   // cell + 4 <= length; also refuses a sum that would wrap
+    if (distance > in.length - cell - count_bytes)   // cell + 4 <= length, so nothing wraps here, nor in `body` below
         return false;
     const Word body = cell + distance;
     count = in.template load_unchecked<u32>(body);   // body + 4 <= length
@@ -234,15 +237,16 @@ template <class In>
     return true;
 }
 
-// Whether `count` items of `width` bytes lie inside after `payload`, which open_body gave. No product, no wrap.
+// Whether `count` items of `width` bytes from `payload` on lie inside. open_body must have found `payload`, so it is at
+// most the length and the difference does not wrap; dividing avoids a product that could.
 template <class In>
 [[nodiscard]] inline bool payload_fits(const In& in, typename In::Word payload, typename In::Word count, u32 width)
 {
     return static_cast<bool>(count <= (in.length - payload) / width);
 }
 
-// An image's own bytes lie inside, and `room` bytes after them are left for its bodies: whether the one whose count
-// is at the position `at` finds room there. Takes it from the room.
+// Whether the body whose count is at position `at` fits in the `room` bytes that are left for bodies; if so, its length
+// is subtracted from `room`. The count must be one of the image's own bytes, which lie inside.
 template <class In>
 [[nodiscard]] inline bool consume_body(const In& in, typename In::Word at, typename In::Word& room,
                                        typename In::Word& length)
@@ -254,7 +258,8 @@ template <class In>
     return true;
 }
 
-// Follows the reference cell at `offset` to an array of so many values, of which there are fewer than 2^16.
+// Follows the cell at `offset` to an array, which must have `elements` values. `elements` must be below 2^16, so that
+// `needed` does not wrap.
 template <class T, class In>
 [[nodiscard]] inline bool read_array(const In& in, const TableView<In>& view, typename In::Word offset,
                                      typename In::Word elements, u8* field)
@@ -266,7 +271,7 @@ template <class T, class In>
     const Word distance = in.template load_unchecked<u32>(cell);   // field_fits
     const Word needed = count_bytes + u32{sizeof(T)} * elements;
     const Word room = in.length - cell;
-    if (room < needed || distance > room - needed)   // also refuses a sum that would wrap
+    if (room < needed || distance > room - needed)   // then cell + distance cannot wrap
         return false;
     const Word body = cell + distance;
     if (in.template load_unchecked<u32>(body) != elements)   // body + needed <= length
@@ -275,7 +280,7 @@ template <class T, class In>
     return true;
 }
 
-// Follows the reference cell at `offset` to a nested table. The position is tested when that table is opened.
+// Follows the cell at `offset` to a nested table. Its position is tested when the table is opened.
 template <class In>
 [[nodiscard]] inline bool nested_table(const In& in, const TableView<In>& view, typename In::Word offset,
                                        typename In::Word& table)
@@ -292,7 +297,8 @@ template <class In>
     return true;
 }
 
-// The same for element `i` of a vector whose cells payload_fits has tested as a whole.
+// The same for element `i` of a vector. payload_fits must have accepted all its cells, and `i` must be below their
+// number.
 template <class In>
 [[nodiscard]] inline bool element_table(const In& in, typename In::Word cells, typename In::Word i,
                                         typename In::Word& table)

@@ -1,9 +1,9 @@
-// Prepares what the fuzzers start from and keeps what they found:
+// Prepares the fuzzers' initial inputs and keeps the ones they found:
 //
 //   corpus_tool dictionary FILE                 writes the numbers that matter in a byte string
-//   corpus_tool unpack FILE DIRECTORY           a packed corpus as one file an input
-//   corpus_tool pack DIRECTORY FILE             and back, in the order of the names
-//   corpus_tool add MESSAGE HEX                 adds a byte string to what the decoders are tested with
+//   corpus_tool unpack FILE DIRECTORY           unpacks a corpus into one file per input
+//   corpus_tool pack DIRECTORY FILE             packs the files again, in the order of their names
+//   corpus_tool add MESSAGE HEX                 adds a byte string to the decoders' corpus
 
 #include <algorithm>
 #include <cstdio>
@@ -71,7 +71,7 @@ int unpack(const std::string& path, const std::string& directory)
     std::error_code failed;
     files::create_directories(directory, failed);
     for (std::size_t i = 0; i < inputs.size(); ++i) {
-        // Names of one length, so that their order is that of the inputs.
+        // All names have the same length, so that they sort in the order of the inputs.
         std::ofstream file(files::path(directory) / std::to_string(100000 + i), std::ios::binary);
         file.write(reinterpret_cast<const char*>(inputs[i].data()), static_cast<std::streamsize>(inputs[i].size()));
         if (!file.flush())

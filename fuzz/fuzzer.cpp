@@ -1,4 +1,4 @@
-// Whatever the bytes and records, the library and the model must make the same of them.
+// The library and the model must agree on any bytes and records.
 
 #include <cstdio>
 #include <cstdlib>

@@ -13,11 +13,11 @@ using model::Slot;
 
 // ---- records as inputs ----
 //
-// scalar   1 byte: 0 for 0, 1 for all bits set, else the value follows in its width
-// array    1 byte: 0 for all zero, else the elements follow
-// text     1 byte n: 0 for null, else n - 1 bytes of text follow
-// block    1 byte n: 0 for null, 1 for a length beside null, else n - 2 bytes follow
-// vector   1 byte n, of which the low three bits count: 0 for null, else n - 1 elements follow
+// scalar   1 byte: 0 for 0, 1 for all bits set, otherwise the value follows in its width
+// array    1 byte: 0 for all zero, otherwise the elements follow
+// text     1 byte n: 0 for null, otherwise n - 1 bytes of text follow
+// block    1 byte n: 0 for null, 1 for null with a length, otherwise n - 2 bytes follow
+// vector   1 byte n, only the low three bits are used: 0 for null, otherwise n - 1 elements follow
 // table    its slots
 
 class Source {

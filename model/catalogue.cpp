@@ -9,7 +9,7 @@ namespace {
 
 u32 round_up(u32 value, u32 step) { return (value + step - 1) / step * step; }
 
-// The place of one slot in a record's structure.
+// The size and alignment of one slot's member in the record structure.
 struct Member {
     u32 size;
     u32 alignment;
@@ -22,7 +22,7 @@ Member member_of(const Slot& slot, u32 pointer_width)
     case Kind::array: return {slot.width * slot.count, slot.width};
     case Kind::string: return {pointer_width, pointer_width};
     case Kind::bytes:
-    case Kind::vector: return {2 * pointer_width, pointer_width};   // a structure of its own: u32, then the pointer
+    case Kind::vector: return {2 * pointer_width, pointer_width};   // a nested structure: u32, then the pointer
     case Kind::table: break;
     }
     const RecordLayout& nested = slot.nested->layout(pointer_width);

@@ -5,7 +5,7 @@
 namespace kesto::model {
 namespace {
 
-// Releases the owned blocks of a record. A null `record` stands for an all-zero one, such as an element never reached.
+// Releases the owned blocks of a record. A null `record` means an all-zero one, such as an element never reached.
 void release_parts(const Message& message, Record* record, Trace& trace);
 
 void add_release(const Message& message, i32 block, Trace& trace)
@@ -19,13 +19,13 @@ void add_release(const Message& message, i32 block, Trace& trace)
 
 void drop(Field& field)
 {
-    field.present = false;   // the length or count stays
+    field.present = false;   // the length or count is kept
     field.block = -1;
     field.octets.clear();
     field.records.clear();
 }
 
-// The elements from 0 to `count` and then their array, whose pointer is not null.
+// Releases the elements from 0 to `count`, then their array, whose pointer is not null.
 void release_vector(const Message& message, const Slot& slot, Field& field, u32 count, Trace& trace)
 {
     for (u32 i = 0; slot.nested->owns_blocks && i < count; ++i) {
@@ -41,7 +41,7 @@ void release_parts(const Message& message, Record* record, Trace& trace)
         const Slot& slot = message.slots[k];
         Field* const field = record == nullptr ? nullptr : &record->fields[k];
         if (slot.kind == Kind::string || slot.kind == Kind::bytes) {
-            add_release(message, field == nullptr ? -1 : field->block, trace);   // null as well
+            add_release(message, field == nullptr ? -1 : field->block, trace);   // also if null
             if (field != nullptr)
                 drop(*field);
         } else if (slot.kind == Kind::table && slot.nested->owns_blocks) {
@@ -69,7 +69,7 @@ private:
         u32 vtable_length = 0;
     };
 
-    // An array of elements as its size in 32 bits makes it.
+    // The array of elements that results from a size truncated to 32 bits.
     struct Block {
         u32 elements_inside = 0;
         bool is_null = false;
@@ -106,7 +106,7 @@ private:
     const DecodeOptions& options_;
     Outcome& outcome_;
     Path path_;
-    i32 fresh_log_ = -1;   // the refusal that follows a log is the one it tells of
+    i32 fresh_log_ = -1;   // the log that the next refusal belongs to
 };
 
 void Decoder::show(Piece piece, u32 position, u32 length, u64 value, const Table& table)
@@ -180,7 +180,7 @@ bool Decoder::parameters(const Routine& routine)
     return refuse(routine, refusal, 0, refusal == Refusal::length_below_4 ? length_ : 0, 4);
 }
 
-// The tests of a table whose position is known. From here on every slot word that the vtable holds can be read.
+// Validates a table whose position is known. Afterwards every slot word in the vtable can be read.
 bool Decoder::open_table(Table& table)
 {
     const Routine& routine = table.routine;
@@ -228,7 +228,7 @@ void Decoder::run(const Message& message)
         release(message, outcome_.record);
 }
 
-// A nested record's decoder. Refusing the table is a plain stop; only a failure in the slots releases.
+// Decodes a nested record. If the table is refused, nothing is released; only a failure in the slots releases.
 bool Decoder::read_non_root(const Message& message, u32 position, Record& record)
 {
     Table table;
@@ -249,7 +249,7 @@ bool Decoder::read_slots(const Table& table, Record& record)
     for (u32 k = 0; k < slots.size(); ++k) {
         step() = {k, -1};
         if (table.vtable_length <= 5 + 2 * k)
-            break;   // this slot and all after it are absent
+            break;   // this slot and all later ones are absent
         const u32 offset = number_at(Piece::slot, table.vtable + 4 + 2 * k, 2, table);
         if (offset == 0)
             continue;
@@ -284,7 +284,7 @@ bool Decoder::read_scalar(const Table& table, const Slot& slot, u32 offset, Fiel
     return true;
 }
 
-// The cell's own place is tested; where it leads to is not, except that the sum must not wrap.
+// Tests the cell's own position. The target is not tested, except that the sum must not wrap.
 bool Decoder::read_cell(const Table& table, u32 offset, u32& cell, u32& target)
 {
     cell = table.position + offset;
@@ -324,7 +324,7 @@ bool Decoder::read_octets(const Table& table, const Slot& slot, u32 offset, Fiel
     if (!is_text) {
         field.number = count;
         if (count == 0)
-            return true;   // no empty allocation, unlike for text
+            return true;   // no allocation for an empty block, unlike for text
     }
     if (!allocate(table.routine, is_text ? count + 1 : count, field.block))
         return false;
@@ -388,7 +388,7 @@ bool Decoder::read_vector(const Table& table, const Slot& slot, u32 offset, Fiel
 
     const u32 element_size = slot.nested->layout(options_.pointer_width).size;
     const u64 needed = u64{count} * element_size;
-    const u32 size = static_cast<u32>(needed);   // required: not tested for what it has lost
+    const u32 size = static_cast<u32>(needed);   // required: truncation is not detected
     Block block;
     block.is_null = size == 0;
     block.is_short = size != needed;
@@ -400,7 +400,7 @@ bool Decoder::read_vector(const Table& table, const Slot& slot, u32 offset, Fiel
     }
     if (read_elements(table, slot, body + 4, block, field))
         return true;
-    // The count is not true of a short array, so the record's own free must not see the array.
+    // The count exceeds what a short array holds, so the record's own free must not see the array.
     if (block.is_short && !block.is_null && options_.contents) {
         release_vector(*table.routine.message, slot, field, block.elements_inside, outcome_.trace);
     }

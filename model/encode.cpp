@@ -5,10 +5,10 @@
 namespace kesto::model {
 namespace {
 
-// Of a vector with a count and no pointer, and so of every record that holds one.
+// The size of a vector with a count and a null pointer, and of every record that contains one.
 constexpr u64 no_size = u64{1} << 32;
 
-// A table with everything below it, without a root word.
+// The size of a table with everything below it, without the root word.
 template <typename View>
 u64 size_of_table(const View& view)
 {
@@ -75,7 +75,7 @@ void append_octets(Bytes& out, const TreeView& view, std::size_t k, u32 length)
     out.insert(out.end(), view.octets(k), view.octets(k) + length);
 }
 
-// The count and what follows it within the table; of a vector, room for its element cells.
+// Writes the count and the data that follows it; for a vector, reserves its element cells.
 void append_body(Bytes& out, const TreeView& view, std::size_t k)
 {
     switch (view.message().slots[k].kind) {
@@ -94,7 +94,7 @@ void append_body(Bytes& out, const TreeView& view, std::size_t k)
     }
 }
 
-// Where slot k of the table at `table` begins; its vtable stands right before it.
+// The position of slot k of the table at `table`. The vtable is immediately before the table.
 u32 slot_position(const Bytes& out, const Message& message, u32 table, std::size_t k)
 {
     return table + get16(&out[table - message.vtable_length + 4 + 2 * k]);
@@ -150,7 +150,7 @@ u32 write_table(Bytes& out, const TreeView& view)
         append_body(out, view, k);
     }
     put(&out[vtable], message.vtable_length, 2);
-    put(&out[vtable + 2], out.size() - table, 2);   // low 16 bits; nothing beneath the table is counted
+    put(&out[vtable + 2], out.size() - table, 2);   // low 16 bits; nested tables and bodies are not counted
     write_beneath(out, view, table);
     return table;
 }
@@ -164,7 +164,7 @@ Bytes write_compact(const TreeView& view)
     return out;
 }
 
-// A nested form stands whole in its parent, and its root word serves as the cell.
+// A nested fixed form is embedded whole in its parent, and its root word serves as the cell.
 void write_fixed(Bytes& out, const TreeView& view)
 {
     const Message& message = view.message();

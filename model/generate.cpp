@@ -5,7 +5,7 @@ namespace {
 
 u64 mask_of(u32 width) { return width == 8 ? ~u64{0} : (u64{1} << (8 * width)) - 1; }
 
-// 0, all ones, one bit, or the neighbours of one bit.
+// 0, all ones, a power of two, or a neighbour of one.
 u64 edge_value(u32 width, Random& random)
 {
     const u64 bit = u64{1} << random.below(8 * width);
@@ -69,7 +69,7 @@ void fill_owned_block(const Slot& slot, Density density, Field& field, Random& r
     if (density == Density::zero)
         return;
     if (density != Density::full && random.one_in(3)) {
-        // A writer leaves a length beside null out; a count beside a null vector is the one state that it must not see.
+        // A writer omits a null block with a length. A null vector with a count is the only state that it must not see.
         if (slot.kind == Kind::bytes && random.one_in(3))
             field.number = 1 + random.below(9);
         return;
@@ -79,7 +79,7 @@ void fill_owned_block(const Slot& slot, Density density, Field& field, Random& r
         field.records.resize(random_element_count(density, random));
         for (Record& element : field.records)
             element = random_record(*slot.nested, density, random);
-        // Equal elements are a case of their own: a reader cannot tell whether they stand once or twice.
+        // Equal elements are a separate case: a reader cannot tell whether they are stored once or twice.
         if (field.records.size() > 1 && random.one_in(3))
             field.records[1] = field.records[0];
         field.number = field.records.size();
@@ -102,7 +102,7 @@ void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& 
             made.push_back(whole);
             field.present = true;
             made.push_back(whole);
-            if (kind == Kind::bytes) {   // a length beside null
+            if (kind == Kind::bytes) {   // a null pointer with a length
                 field.present = false;
                 field.number = 5;
                 made.push_back(whole);

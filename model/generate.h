@@ -1,5 +1,5 @@
 #pragma once
-// Records by chance, the same on every host for the same seed.
+// Random records, the same on every host for the same seed.
 
 #include "model/record.h"
 
@@ -25,17 +25,17 @@ struct Random {
 
 enum class Density : u8 {
     zero,     // nothing set
-    sparse,   // about a quarter of everything set; owned blocks null, empty or short
+    sparse,   // about a quarter of the fields set; owned blocks null, empty or short
     full,     // no zero scalar, no zero array, no null or empty owned block
-    edge,     // values and lengths at the borders of their ranges
+    edge,     // values and lengths at the limits of their ranges
 };
 
 inline constexpr Density densities[] = {Density::zero, Density::sparse, Density::full, Density::edge};
 
-// Sparse and edge records may hold pointers beside 0 and bytes lengths beside null; every one can be encoded.
+// Sparse and edge records may hold pointers with length or count 0, and null blocks with a length. All are encodable.
 Record random_record(const Message& message, Density density, Random& random);
 
-// The record with one string, bytes or vector absent or empty, for each one in it, those of tables and elements too.
+// Copies of the record with one string, bytes or vector absent or empty, for each one in it, including nested ones.
 std::vector<Record> without_each_owned_block(Record record);
 
 }   // namespace kesto::model

@@ -11,7 +11,7 @@ constexpr std::string_view digits = "0123456789abcdef";
 constexpr std::string_view separators = " \t\r\n,;:(){}[]";
 constexpr std::string_view word_ends = " \t\r\n,;:(){}[]\\";
 
-// The value of a digit, 16 if it is none.
+// The value of a digit; 16 if the character is not a digit.
 u32 value_of(char digit)
 {
     const char lower = digit >= 'A' && digit <= 'F' ? static_cast<char>(digit - 'A' + 'a') : digit;
@@ -56,7 +56,7 @@ bool from_hex(std::string_view text, Bytes& bytes, std::string& error)
         if (start == std::string_view::npos)
             return true;
         text.remove_prefix(start);
-        // "\x04\x00" is two words. Nothing after a word's end may be looked at for it: there may be millions of words.
+        // "\x04\x00" is two words. The search must stop at the end of a word, as there may be millions of them.
         const std::size_t end = std::min(text.find_first_of(word_ends, 1), text.size());
         const std::string_view word = text.substr(0, end);
         if (!append_word(bytes, word)) {

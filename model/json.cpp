@@ -17,7 +17,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-constexpr int most_depth = 2 * greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} inside
+constexpr int most_depth = 2 * greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} is innermost
 
 // ---- to JSON ----
 
@@ -195,7 +195,7 @@ ordered_json parse_json(const std::string& text, const std::string& where)
 {
     const auto slot_count = [](const Message& message) { return message.slots.size(); };
     static const std::size_t most_names = slot_count(*std::ranges::max_element(catalogue().messages, {}, slot_count));
-    std::set<std::string> names[most_depth + 1];   // of the object that is open at each depth
+    std::set<std::string> names[most_depth + 1];   // of the open object at each depth
     const auto watch = [&](int depth, ordered_json::parse_event_t event, const ordered_json& parsed) {
         if (depth > most_depth)
             throw JsonFault(fmt::format("{}: nested deeper than any record", where));
@@ -211,8 +211,9 @@ ordered_json parse_json(const std::string& text, const std::string& where)
         return false;
     };
     try {
-        // Two passes: a parser with a callback scans the parent at each end of an object that it keeps, so this one
-        // keeps nothing. The second finds names one by one, which is fast enough for as few as the first lets pass.
+        // Two passes: a parser with a callback scans the parent at the end of each object that it keeps, so the first
+        // pass keeps nothing. The second searches names linearly, which is fast enough for the few that the first one
+        // allows.
         ordered_json parsed = ordered_json::parse(text, watch);
         parsed = ordered_json::parse(text);
         return parsed;

@@ -1,5 +1,5 @@
 #pragma once
-// Numbers in byte strings: least significant byte first, byte by byte, so that the host's own order never shows.
+// Little-endian numbers in byte strings, accessed byte by byte and therefore independent of the host's byte order.
 
 #include <cstddef>
 #include <cstdint>

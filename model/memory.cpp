@@ -160,8 +160,8 @@ RecordMemory::~RecordMemory()
 
 u8* RecordMemory::block(std::size_t size)
 {
-    // One byte at least, for a pointer beside a length of 0 must not be null.
-    // Bytes that no field covers are as malloc gave them, or filled, so that a leak into a byte string shows.
+    // At least one byte, as a pointer with length 0 must not be null.
+    // Padding keeps the content that malloc left, or is filled, so that a leak into a byte string is detected.
     if (size == 0)
         size = 1;
     void* const block = std::malloc(size);

@@ -7,8 +7,8 @@
 
 namespace kesto::model {
 
-// An array of structures of one message. Every block, the array too, has exactly the size it needs, so that an address
-// checker sees each step beyond it.
+// An array of structures of one message. Every block, including the array, has exactly the size it needs, so that an
+// address checker detects every access beyond it.
 class RecordMemory {
 public:
     explicit RecordMemory(const Record& record) : RecordMemory(&record, 1) {}
@@ -29,11 +29,11 @@ private:
     std::vector<void*> blocks_;
 };
 
-// The structure at `memory` as a tree. Text ends at its NUL.
+// Reads the structure at `memory` into a tree. Text ends at its NUL.
 Record from_memory(const Message& message, const void* memory);
 
-// Where the structure at `memory` differs from `expected`, empty if nowhere. Text is compared over its whole expected
-// length and must be followed by a NUL.
+// The first difference between the structure at `memory` and `expected`; empty if there is none. Text is compared over
+// its whole expected length and must be followed by a NUL.
 std::string difference(const Record& expected, const void* memory);
 
 }   // namespace kesto::model

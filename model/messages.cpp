@@ -1,4 +1,4 @@
-// The catalogue of messages/<module>/<module>.def, whose lines are read as text.
+// Builds the catalogue from messages/<module>/<module>.def, whose lines are read as text.
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
@@ -10,7 +10,7 @@
 namespace kesto::model {
 namespace {
 
-// Takes the first of comma-separated items off the front of `list`.
+// Removes the first item from the comma-separated `list` and returns it.
 std::string_view next_item(std::string_view& list)
 {
     const std::string_view item = list.substr(0, list.find(','));
@@ -19,7 +19,7 @@ std::string_view next_item(std::string_view& list)
     return item;
 }
 
-// Nothing here depends on input: a fault is one of a .def file, and the library does not compile with it either.
+// Nothing here depends on input: any error is in a .def file, and the library does not compile with it either.
 [[noreturn]] void refuse(std::string_view where, std::string_view what)
 {
     std::fprintf(stderr, "%.*s: %.*s\n", static_cast<int>(where.size()), where.data(), static_cast<int>(what.size()),
@@ -44,7 +44,7 @@ public:
             pending_.slots.push_back(slot_of(next_item(slots)));
     }
 
-    // Of the message added last.
+    // These describe the message added last.
     void name_fields(std::string_view names)
     {
         for (Slot& slot : pending_.slots)

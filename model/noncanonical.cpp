@@ -7,7 +7,7 @@ namespace {
 
 constexpr u32 nowhere = 0xffffffffU;
 
-// Bytes under construction. Settled ones will not change any more, so that something else may be read out of them.
+// Bytes under construction. Settled bytes no longer change, so other parts may overlap them.
 struct Canvas {
     Bytes bytes;
     std::vector<u8> settled;
@@ -45,7 +45,7 @@ struct Canvas {
             add(random.one_in(3) ? 0xff : random.octet(), 1);
     }
 
-    // The first place at or after `from` where settled bytes happen to read like `wanted`.
+    // The first position at or after `from` where settled bytes happen to equal `wanted`.
     u32 find(const Bytes& wanted, u32 from) const
     {
         for (std::size_t at = from; at + wanted.size() <= bytes.size(); ++at) {
@@ -61,7 +61,7 @@ struct Canvas {
     }
 };
 
-// Something that a word already written has to lead to.
+// A part not written yet that an existing word has to lead to.
 struct Pending {
     enum class What : u8 { table, vector, body, vtable } what;
     u32 word;               // a cell, the root word, or a table's vtable offset
@@ -91,11 +91,11 @@ public:
     }
 
 private:
-    // A table's own bytes, offsets counted from its beginning.
+    // A table's own bytes. Offsets are relative to its start.
     struct Draft {
         Canvas fields;
         std::vector<u32> offsets;       // per slot, 0 if absent
-        std::vector<Pending> pending;   // words counted from the table's beginning too
+        std::vector<Pending> pending;   // their words are relative to the table, too
     };
 
     void leave_gap()
@@ -111,7 +111,7 @@ private:
     void place_vector(const Pending& next);
     void place_vtable(u32 table, const Bytes& vtable);
     bool share_table(const Pending& next);
-    void lead(u32 word, u32 target) { canvas_.fill_cell(word, target - word); }   // the root word stands at 0
+    void lead(u32 word, u32 target) { canvas_.fill_cell(word, target - word); }   // the root word is at 0
 
     Draft draft_of(const Record& record);
     void draft_field(const Slot& slot, const Field& field, std::size_t k, Draft& draft);
@@ -139,7 +139,7 @@ Bytes body_of(const Slot& slot, const Field& field)
     return body;
 }
 
-// Bytes that are null or empty, and an empty vector, may be stated as a count of 0.
+// A null or empty block and an empty vector may be written as a count of 0.
 bool is_absent(const Slot& slot, const Field& field)
 {
     return !field.present || (slot.kind != Kind::string && field.number == 0);
@@ -171,7 +171,7 @@ void NoncanonicalWriter::draft_field(const Slot& slot, const Field& field, std::
     } else if (slot.kind == Kind::array || (slot.kind == Kind::string && field.present)) {
         pending.bytes = body_of(slot, field);
         if (slot.kind == Kind::string && random_.one_in(2))
-            pending.bytes.push_back(0);   // the NUL is read by nobody
+            pending.bytes.push_back(0);   // no reader reads the NUL
     } else if (is_absent(slot, field)) {
         append(pending.bytes, 0, 4);
     } else if (slot.kind == Kind::bytes) {
@@ -180,7 +180,7 @@ void NoncanonicalWriter::draft_field(const Slot& slot, const Field& field, std::
         pending.what = Pending::What::vector;
         pending.field = &field;
     }
-    // One cell may serve two slots that lead to equal bodies.
+    // Two slots with equal bodies may share one cell.
     for (std::size_t other = 0; other < draft.pending.size() && random_.one_in(2); ++other) {
         const Pending& candidate = draft.pending[other];
         if (pending.what != Pending::What::body || candidate.what != pending.what)
@@ -206,7 +206,7 @@ NoncanonicalWriter::Draft NoncanonicalWriter::draft_of(const Record& record)
     for (std::size_t k = order.size(); k > 1; --k)
         std::swap(order[k - 1], order[random_.below(static_cast<u32>(k))]);
 
-    const bool generous = random_.one_in(2);   // writes defaults out
+    const bool generous = random_.one_in(2);   // writes defaults explicitly
     for (const std::size_t k : order) {
         const Slot& slot = record.message->slots[k];
         const Field& field = record.fields[k];
@@ -231,17 +231,17 @@ Bytes NoncanonicalWriter::vtable_of(const Draft& draft)
         --slots;
     const u32 absent = static_cast<u32>(draft.offsets.size()) - slots;
     if (random_.one_in(2))
-        slots += absent;   // else all of the trailing ones are dropped, or some
+        slots += absent;   // otherwise some or all trailing ones are dropped
     else
         slots += random_.below(absent + 1);
     const u32 unknown = slots == draft.offsets.size() && random_.one_in(4) ? 1 + random_.below(5) : 0;
 
-    // A vtable without slots may be of any length up to 5, even too short for its own two words.
+    // A vtable without slots may have any length up to 5, even one too short for its own two words.
     const u32 odd = random_.one_in(4) ? 1 : 0;
     const u32 length = slots + unknown == 0 && random_.one_in(2) ? random_.below(6) : 4 + 2 * (slots + unknown) + odd;
     Bytes vtable;
     append(vtable, length, 2);
-    append(vtable, random_.next(), 2);   // the table's length, read by nobody
+    append(vtable, random_.next(), 2);   // the table's length, which no reader reads
     for (u32 k = 0; k < slots; ++k)
         append(vtable, draft.offsets[k], 2);
     while (vtable.size() < length)
@@ -321,7 +321,7 @@ void NoncanonicalWriter::place(const Pending& next)
     case Pending::What::vtable: return place_vtable(next.word, next.bytes);
     case Pending::What::body: break;
     }
-    // Anywhere after the cell that happens to read right will do.
+    // Any matching settled bytes after the cell will do.
     const u32 found = random_.one_in(3) ? canvas_.find(next.bytes, next.word) : nowhere;
     lead(next.word, found == nowhere ? canvas_.end() : found);
     for (std::size_t i = 0; found == nowhere && i < next.bytes.size(); ++i)

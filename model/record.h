@@ -1,5 +1,5 @@
 #pragma once
-// The content of a record as a tree, whatever the host's structures look like.
+// The content of a record as a tree, independent of the host's structures.
 
 #include <string>
 
@@ -11,44 +11,45 @@ struct Record;
 
 struct Field {
     u64 number = 0;                // a scalar's value, the length member of bytes, the count member of a vector
-    bool present = false;          // the pointer of a string, of bytes or of a vector is not null
-    i32 block = -1;                // which allocation of a decode it points to; -1 if it does not come from a decode
+    bool present = false;          // the pointer of a string, bytes or vector is not null
+    i32 block = -1;                // number of the decoder's allocation that it points to; -1 if not from a decode
     std::vector<u8> octets;        // u8 array, text without its NUL, content of bytes
     std::vector<u32> words;        // u32 array
-    std::vector<Record> records;   // the one record of a table; the elements of a vector
+    std::vector<Record> records;   // the record of a table; the elements of a vector
 };
 
-// A length or count beside a null pointer (number 5, not present) is a state of its own: a failed decode and a free
-// leave it behind. So is a pointer beside a length or count of 0, which a sender may hold.
+// A null pointer with a length or count (number 5, not present) is a separate state, which a failed decode or a free
+// leaves. So is a pointer with a length or count of 0, which a sender may have.
 struct Record {
     const Message* message = nullptr;
     std::vector<Field> fields;
 };
 
-void clear(Record& record, const Message& message);   // all zero; keeps the storage it has
+void clear(Record& record, const Message& message);   // sets all to zero; keeps the storage
 Record zero_record(const Message& message);
 
-// Where two records of one message differ, such as "f1[0].f3: 5, 7"; empty if nowhere. Allocations are not compared.
+// The first difference between two records of one message, such as "f1[0].f3: 5, 7"; empty if there is none.
+// Allocations are not compared.
 std::string difference(const Record& left, const Record& right);
 inline bool same(const Record& left, const Record& right) { return difference(left, right).empty(); }
 
-// The record that a reader has after a writer's work on `record`: no pointers beside 0, no lengths beside null, text up to
-// its NUL.
+// The record that a reader gets after a writer has encoded `record`: no pointers with length or count 0, no null
+// pointers with a length, text up to its NUL.
 Record as_decoded(const Record& record);
 
-// True if a reader that finds nothing of the record would make the same of it.
+// True if a reader would produce the same record from an absent one.
 bool is_default(const Slot& slot, const Field& field);
 bool is_default(const Record& record);
 
-// False for a count beside a null vector, which the size routine would walk through the null pointer.
+// False for a null vector with a count, where the size routine would follow the null pointer.
 bool is_encodable(const Record& record);
 
-// Number of text bytes before the first NUL, which is what a writer sees.
+// Number of text bytes before the first NUL, which are the ones that a writer sees.
 u32 text_length(const std::vector<u8>& octets);
 
 // Text form: {FIELD ...} with a number, "text", h'octets', <element ...>, [{...} ...]; `null` for a null pointer and
-// `null*5` for one beside the length or count 5; `zero` for an all-zero field. Text may hold \xNN. Returns false with
-// the reason in `error`; takes what it has read off the front of `text`.
+// `null*5` for one with length or count 5; `zero` for an all-zero field. Text may contain \xNN. Removes the parsed part
+// from the front of `text`. Returns false on an error, with the reason in `error`.
 [[nodiscard]] bool parse_record(const Message& message, std::string_view& text, Record& record, std::string& error);
 std::string to_text(const Record& record);
 

@@ -6,7 +6,7 @@
 
 namespace kesto::model {
 
-// Chains of + that begin with a literal and a fresh string make g++ 12 warn of overlapping copies that there are not.
+// Replaces chains of + that begin with a literal and a temporary: g++ 12 falsely warns of overlapping copies there.
 inline std::string join(std::initializer_list<std::string_view> pieces)
 {
     std::string out;

@@ -1,5 +1,5 @@
 #pragma once
-// The calls of a decoder and a free that their process sees: logs, allocations, releases, in order.
+// The externally visible calls of a decoder and a free: logs, allocations and releases, in order.
 
 #include <array>
 #include <string>
@@ -33,9 +33,9 @@ struct Event {
     Format format = Format::unpack_parameters;   // of a log
     std::array<u32, 3> arguments{};              // of a log; for a pointer 0 says "null" and 1 "nonNull"
     u32 size = 0;                                // of an allocation
-    bool failed = false;                         // an allocation that gave null
+    bool failed = false;                         // an allocation that returned null
     i32 block =
-        -1;   // the number of the allocation, failed ones counted too; at a release the one given back, -1 for null
+        -1;   // the number of the allocation, counting failed ones; for a release, the number of the block, -1 for null
 };
 
 using Trace = std::vector<Event>;
@@ -44,7 +44,7 @@ u32 code_of(Format format);
 const char* text_of(Format format);
 u32 argument_count(Format format);
 
-// The line that the log call would print, and a whole event in words.
+// The line that the log call would print, and a description of any event.
 std::string log_text(const Event& event);
 std::string to_text(const Event& event);
 

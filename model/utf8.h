@@ -12,7 +12,8 @@ struct Character {
     std::size_t length;   // 0: not UTF-8
 };
 
-// The first character of `text`, which is not empty. Well-formed is: no overlong form, no surrogate, nothing above U+10FFFF.
+// The first character of `text`, which must not be empty. Overlong forms, surrogates and values above U+10FFFF are
+// malformed.
 Character character_at(std::string_view text);
 
 bool is_utf8(const u8* text, std::size_t length);

@@ -1,5 +1,5 @@
 #pragma once
-// Two ways to look at a record: as a tree and as a C structure in memory. The encoders are templates over either.
+// Two views of a record: as a tree and as a C structure in memory. The encoders are templates over both.
 
 #include <cstring>
 

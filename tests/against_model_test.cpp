@@ -1,5 +1,5 @@
-// Every message against the model: bytes of both forms, and what the decoder makes of valid,
-// noncanonical, truncated and damaged byte strings, with every log, allocation and release in order.
+// Compares every message with the model: the bytes of both forms, and the decoder's results for valid, noncanonical,
+// truncated and damaged byte strings, with every log, allocation and release in order.
 
 #include <gtest/gtest.h>
 
@@ -57,7 +57,7 @@ TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
             ASSERT_NO_FATAL_FAILURE(expect_both_ways(model::random_record(message(), density, chance)));
 }
 
-// Nothing but one text, block or vector keeps such a record from the fast paths.
+// Only one text, block or vector keeps such a record off the fast paths.
 TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
 {
     Random chance = random(7);
@@ -65,7 +65,7 @@ TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
         ASSERT_NO_FATAL_FAILURE(expect_both_ways(record));
 }
 
-// Elements of every density in every order: each may take another path than the one before it.
+// Elements of every density in every order: each may take a different path from the one before it.
 void mix_elements(Record& record, Random& chance)
 {
     const model::Message& message = *record.message;
@@ -118,8 +118,8 @@ TEST_P(EveryMessage, truncation_at_any_byte_releases_every_block)
                 expect_decodes_alike({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)}));
 }
 
-// Up to three words, of the record's own forms and of noncanonical ones: what the small faults, one at a time, do not
-// make.
+// Up to three damaged words, in the record's own forms and in noncanonical ones. Tests of single small faults do not
+// cover these combinations.
 TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
 {
     constexpr std::uint32_t borders[] = {0,          1,          3,          4,          5,         0x3FFFFFFF,
@@ -141,8 +141,8 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
     }
 }
 
-// One scalar far from its table's start, around the last place that fits: in the least room there can be, and in as
-// much as 15 and 16 bits tell apart.
+// One scalar far from its table's start, around the last position that fits: with the fewest bytes after the table's
+// start, and with counts around the limits of 15 and 16 bits.
 TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
 {
     const auto slots = static_cast<std::uint32_t>(message().slots.size());
@@ -170,8 +170,8 @@ TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
     }
 }
 
-// Null pointers and lengths below 4 or, as signed numbers, negative: one log line, and no look at what the others lead
-// to.
+// Null pointers, and lengths that are below 4 or negative as signed numbers: one log line, and no access through the
+// other parameters.
 TEST_P(EveryMessage, refused_parameters_touch_nothing)
 {
     const std::tuple<bool, std::uint32_t, bool, const char*> cases[] = {
@@ -201,8 +201,8 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
     EXPECT_EQ(services().difference({}), "");
 }
 
-// Each allocation in turn, alone and with all that follow: the log line, null pointers, kept counts, nothing left
-// after.
+// Each allocation fails in turn, alone and with all later ones: checks the log line, null pointers, kept counts, and
+// that no block is left.
 TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
 {
     Random chance = random(5);
@@ -212,7 +212,7 @@ TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
             check_.faults = {number, all_after};
             ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes)) << "allocation " << number;
             if (!check_.outcome().failure)
-                break;   // there are no more
+                break;   // no more allocations
         }
     }
 }

@@ -1,5 +1,5 @@
-// How much memory a byte string can ask for, and that a memory service with a budget ends it. The figures are those of
-// docs/amplification.md.
+// Tests how much memory a byte string can request, and that a memory service with a budget stops it. The figures are
+// those of docs/amplification.md.
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ using model::Slot;
 constexpr char list[] = "ntvifit_entry_list_mdtlm";
 constexpr std::uint32_t blocks_of_element = 3;
 
-// A vtable that ends with the last of the slots in use; all of them stand at offset 4 of the table after it.
+// A vtable that ends with the last used slot, and its table. All used slots have offset 4.
 void append_table(Bytes& out, const std::vector<std::size_t>& used)
 {
     const std::size_t slots = used.back() + 1;
@@ -35,7 +35,7 @@ void append_table(Bytes& out, const std::vector<std::size_t>& used)
     append(out, 4 + 2 * slots, 4);
 }
 
-// The list. All elements are one table, whose three blocks are one.
+// The list. All elements share one table, whose three blocks share one body.
 Bytes list_of(std::uint64_t elements, std::uint64_t block)
 {
     Bytes out;
@@ -53,13 +53,12 @@ Bytes list_of(std::uint64_t elements, std::uint64_t block)
     return out;
 }
 
-// Decodes with so much memory and frees, which aborts in the service if anything is given back twice. The counters
-// between the two.
+// Decodes with this budget, then frees; the service aborts on a double free. Returns the counters between the two.
 OsalStandinCounters decode(const Bytes& bytes, std::uint64_t budget)
 {
     OsalStandinPlan plan{};
     plan.budget = budget;
-    plan.use_memory = 1;   // what is logged is counted all the same
+    plan.use_memory = 1;   // logs are counted anyway
     osal_standin_set_plan(&plan);
     const tools::Operations& operations = tools::operations(list);
     std::vector<std::uint64_t> record((operations.record_size + 7) / 8);
@@ -117,7 +116,7 @@ TEST(Document, states_what_a_list_asks_for)
         ++rows;
         EXPECT_EQ(memory, elements * (152 + blocks_of_element * block)) << line;
         if (length > 20000)
-            continue;   // takes too much memory for a test
+            continue;   // needs too much memory for a test
         const Bytes bytes = list_of(elements, block);
         EXPECT_EQ(bytes.size(), length) << line;
         const OsalStandinCounters decoded = decode(bytes, OSAL_STANDIN_NO_LIMIT);
@@ -127,7 +126,7 @@ TEST(Document, states_what_a_list_asks_for)
     EXPECT_EQ(rows, 4);
 }
 
-// A process has to set a budget: the decode ends where the budget does, says so once and gives everything back.
+// A process must set a budget. The decode stops when it is exhausted, logs once and releases everything.
 TEST(List, is_stopped_by_a_budget)
 {
     const Bytes bytes = list_of(7000, 30000);
@@ -141,14 +140,14 @@ TEST(List, is_stopped_by_a_budget)
     }
 }
 
-// The table of record sizes, and what the formulas rest on: a vector stands in no other, and only two have owning
-// elements.
+// The table of record sizes, and the assumptions of the formulas: vectors are not nested, and only two have elements
+// with owned blocks.
 TEST(Document, states_the_record_size_of_every_vector)
 {
     const std::vector<std::string> lines = lines_of_document();
-    std::vector<std::uint32_t> owning;   // blocks of their elements
+    std::vector<std::uint32_t> owning;   // owned blocks per element
     for (const Message& message : expected_catalogue().messages) {
-        if (message.module == "synthetic")   // which is in no document
+        if (message.module == "synthetic")   // not in any document
             continue;
         const Message* const element = element_of(message);
         if (element == nullptr) {

@@ -1,4 +1,4 @@
-// The reader of captures, on what the MESH stand-in writes and on files that are no captures of ours.
+// Tests the capture reader on files written by the MESH stand-in and on other files.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -57,7 +57,7 @@ protected:
     std::string error;
 };
 
-// Of a packet that only a loopback takes, as much as readers do.
+// A packet of a size that only loopback accepts is read up to the readers' limit.
 TEST_F(Captures, of_the_stand_in_are_read_while_they_grow)
 {
     const Bytes longest(262144 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
@@ -93,7 +93,7 @@ TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
     const struct {
         Bytes file;
         std::size_t packets;
-        const char* reason;   // a part of it; empty for none
+        const char* reason;   // a part of the message; empty for none
     } cases[] = {
         {{}, 0, "truncated"},
         {up_to(23), 0, "truncated"},
@@ -167,7 +167,7 @@ TEST_F(Captures, that_are_large_report_their_progress_and_pipes_have_no_end)
 
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
-    std::thread writer([&] {   // of the first packet; it is more than a pipe holds
+    std::thread writer([&] {   // writes the first packet, which is larger than a pipe's buffer
         EXPECT_EQ(write(ends[1], capture.data(), 24 + 16 + 200008), 24 + 16 + 200008);
         close(ends[1]);
     });

@@ -1,5 +1,5 @@
-// The catalogue against the list that was transcribed on its own, the library against the figures, and what is printed
-// or exported against what was committed.
+// Compares the catalogue with the expected catalogue, the library with the figures, and printed files and exported
+// symbols with the committed ones.
 
 #include <gtest/gtest.h>
 
@@ -53,7 +53,7 @@ TEST(Catalogue, is_the_expected_one)
     }
 }
 
-// Of the library: each record is first written by it as by the model.
+// Holds for the library, too: its output for each record is first compared with the model's.
 TEST(Figures, hold_for_the_bytes_that_are_written)
 {
     std::vector<Figure> figures;
@@ -116,7 +116,7 @@ TEST(Library, exports_its_operations_and_nothing_else)
     EXPECT_EQ(exported, expected);
 
     if (KESTO_SANITIZED)
-        return;   // the sanitizer's run-time comes along
+        return;   // the sanitizer's run-time adds dependencies
     const std::string needed = run("readelf -d " KESTO_LIBRARY);
     EXPECT_EQ(needed.find("libstdc++"), std::string::npos);
     EXPECT_EQ(needed.find("libzervamesh"), std::string::npos);   // MESH comes from the process

@@ -1,4 +1,4 @@
-// The inputs that the fuzzers kept, on targets and with checks that the fuzzers do not run with.
+// Runs the fuzzers' corpus on targets and with checks that the fuzzers do not use.
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// The packet analyser's script against the model: every range that it shows, and its verdict.
+// Compares the packet analyser's script with the model: every range that it shows, and its verdict.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ namespace {
 
 using namespace model;
 
-// ---- what the model makes of a byte string, one line a field ----
+// ---- the model's result for a byte string, one line per field ----
 
 std::string line_of(const std::string& field, std::uint64_t position, std::uint64_t size, const std::string& value)
 {
@@ -49,7 +49,7 @@ public:
         options.walk = this;
         Outcome outcome;
         const u32 length = static_cast<u32>(bytes_.size());
-        bytes_.push_back(0);   // of no bytes there is no null pointer then
+        bytes_.push_back(0);   // so that an empty byte string is not a null pointer
         decode(message, bytes_.data(), length, options, outcome);
         shown.refused = text_of(outcome.failure);
         if (outcome.failure)   // a number past the end is shown at the word that leads there
@@ -62,7 +62,7 @@ public:
     {
         if (item.piece == Piece::payload)
             return add_payload(item);
-        if (item.piece == Piece::vtable_offset)   // a table's field stands at its first word
+        if (item.piece == Piece::vtable_offset)   // a table's field is shown at its first word
             add(field_name(*item.path), item.position, 4, "");
         const bool is_scalar = item.piece == Piece::scalar;
         if (!is_scalar && item.piece != Piece::table_length)
@@ -74,7 +74,7 @@ public:
     }
 
     Shown shown;
-    std::vector<std::pair<u32, u32>> words;   // position and width of the numbers that lead on
+    std::vector<std::pair<u32, u32>> words;   // position and width of the numbers that lead to other parts
 
 private:
     static std::string text_of(const Failure& failure)
@@ -89,7 +89,7 @@ private:
 
     std::string field_name(const Path& path) const
     {
-        const Message* message = model::catalogue().find(message_.name);   // which has the names of fields
+        const Message* message = model::catalogue().find(message_.name);   // this one has the field names
         std::string name = "kesto." + message->name;
         for (u32 i = 0; i < path.length; ++i) {
             const Slot& slot = message->slots[path.steps[i].slot];
@@ -119,7 +119,7 @@ private:
     u32 last_word_ = 0;
 };
 
-// ---- what the analyser shows ----
+// ---- the analyser's output ----
 
 std::string attribute(const std::string& tag, const char* name)
 {
@@ -131,8 +131,8 @@ std::string attribute(const std::string& tag, const char* name)
     return tag.substr(from, tag.find('"', from) - from);
 }
 
-// The fields of texts, blocks, u8 arrays, tables and vectors: of these the bytes are compared, of all others the
-// number.
+// The fields that are texts, blocks, u8 arrays, tables and vectors: for these the bytes are compared, for all others
+// the number.
 void add_fields_of_bytes(const model::Message& message, const std::string& path, std::set<std::string>& fields)
 {
     fields.insert(path);
@@ -154,15 +154,15 @@ bool has_bytes(const std::string& field)
     return fields.count(field) != 0;
 }
 
-// One tag of the analyser's XML.
+// Processes one tag of the analyser's XML.
 void take_tag(const std::string& tag, Shown& shown)
 {
     const std::string name = attribute(tag, "name"), value = attribute(tag, "show");
     std::string* const stop = name.starts_with("kesto.refused")   ? &shown.refused
                               : name.starts_with("kesto.ignored") ? &shown.ignored
                                                                   : nullptr;
-    // Below the refusal and with its range. The refusal itself may stand before the table that shows it, and the
-    // analyser prints another `pos` for such items.
+    // This item is below the refusal and has its range. The refusal itself may be before the table that shows it, and
+    // the analyser prints another `pos` for such items.
     if (name == "kesto.refused.position")
         shown.refused_at = std::stoull(attribute(tag, "pos"));
     if (name.starts_with("_ws.lua.error"))
@@ -184,7 +184,7 @@ struct Case {
     Bytes bytes;
 };
 
-// Of a shortened tree what is there must be right, and the verdict.
+// For a shortened tree, the verdict and the fields that are present must be right.
 void compare(const Case& one, const Shown& shown)
 {
     const Shown expected = Expected(*one.message, one.bytes).shown;
@@ -209,7 +209,7 @@ void compare(const Case& one, const Shown& shown)
 
 class Dissector : public CaptureFolder {
 protected:
-    // Away from the preferences and scripts of whoever runs this.
+    // Isolated from the user's own preferences and scripts.
     std::string analyser(const std::string& arguments) const
     {
         return "WIRESHARK_CONFIG_DIR=" + folder.string() +
@@ -229,7 +229,7 @@ protected:
         for (ssize_t length; (length = getline(&line, &room, pipe)) > 0;) {
             tag.append(line, static_cast<std::size_t>(length));
             if (!tag.ends_with(">\n"))
-                continue;   // a text of several lines
+                continue;   // a text with several lines
             if (tag.starts_with("</packet>")) {
                 std::sort(shown.fields.begin(), shown.fields.end());
                 see(std::move(shown));
@@ -245,7 +245,7 @@ protected:
         EXPECT_EQ(errors.find("Lua"), std::string::npos) << errors;
     }
 
-    // Sends all of them into a capture, compares what is shown of each, and gives it.
+    // Sends all cases into a capture, compares what is shown for each, and returns it.
     std::vector<Shown> check(const std::vector<Case>& cases) const
     {
         EXPECT_EQ(mesh_standin_capture(path.c_str()), 0);
@@ -255,7 +255,7 @@ protected:
         }
         std::vector<Shown> all;
         dissect([&](Shown&& shown) {
-            if (all.size() < cases.size() && !HasFailure())   // the first failure says enough
+            if (all.size() < cases.size() && !HasFailure())   // one failure is enough
                 compare(cases[all.size()], shown);
             all.push_back(std::move(shown));
         });
@@ -263,7 +263,7 @@ protected:
         return all;
     }
 
-    // The numbers of the packets that a display filter lets through.
+    // The numbers of the packets that pass a display filter.
     std::string passing(const std::string& filter) const
     {
         std::string numbers = run_command("(" + analyser("-T fields -e frame.number -Y '" + filter + "'") + ")").output;
@@ -272,7 +272,7 @@ protected:
     }
 };
 
-// Each number in turn one off, or far off.
+// Each number in turn is off by one, or by far.
 void add_misled(const Case& sound, Random& random, std::vector<Case>& cases)
 {
     for (const auto& [position, width] : Expected(*sound.message, sound.bytes).words) {
@@ -341,12 +341,12 @@ TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
     Field& elements = list.fields[0];
     elements.present = true;
     elements.records.assign(elements.number = 560, zero_record(*message.slots[0].nested));
-    Field& block = elements.records[0].fields[17];   // without it all would be shown
+    Field& block = elements.records[0].fields[17];   // without it everything would be shown
     block.present = true;
     block.octets.assign(block.number = 200000, 0x62);
     Case sound{&message, compact_form(list)};
     u8* const cell = &sound.bytes[24 + 4 * 557];
-    put(cell + 4, get32(cell) - 4, 4);   // a table that has been read
+    put(cell + 4, get32(cell) - 4, 4);   // a table that has been read before
     Case refused = sound;
     put(&refused.bytes[refused.bytes.size() - 4], 0x7fffffff, 4);   // from the last table to its vtable
     for (const Shown& shown : check({sound, refused}))

@@ -1,8 +1,7 @@
-// Small faults, all of them, for every message and both forms: every other value of every byte, and the values at the
-// borders of every word that leads somewhere or counts something. Every truncation is tried in
-// against_model_test.cpp.
+// All small faults, for every message and both forms: every other value of every byte, and boundary values of every
+// word that is an offset or a count. Every truncation is tested in against_model_test.cpp.
 //
-// KESTO_SHARE=k/n in the environment takes the k-th of n parts (k from 0) where all cases would take too long.
+// If all cases take too long, KESTO_SHARE=k/n in the environment selects the k-th of n parts (k from 0).
 
 #include <gtest/gtest.h>
 
@@ -39,14 +38,14 @@ struct Share {
 
 const Share share;
 
-// One for all cases, so that what it costs to set up is paid once.
+// One for all cases, so that it is set up only once.
 DecodeCheck& check()
 {
     static DecodeCheck instance(1 << 16);
     return instance;
 }
 
-// A byte string in place before the guarded page, to be changed and decoded there.
+// A byte string placed before the guarded page, where it is changed and decoded.
 struct Sample {
     const model::Message& message;
     const ByteString& whole;
@@ -58,7 +57,7 @@ struct Sample {
         std::copy_n(&whole[position], width, bytes + position);
     }
 
-    // False, after a report, where library and model differ.
+    // Reports a difference between library and model and then returns false.
     [[nodiscard]] bool decodes_alike()
     {
         const std::string fault = check().check(message, bytes, length);
@@ -74,18 +73,18 @@ std::vector<ByteString> full_samples(const model::Message& message)
     return both_forms(model::random_record(message, model::Density::full, random));
 }
 
-// ---- the words that lead somewhere or count something ----
+// ---- words that are offsets or counts ----
 
 struct Word {
     std::uint32_t position;
     std::uint32_t width;
     std::uint32_t table;   // position of the table that it belongs to
-    bool repeated;         // in a vector's element after its first
+    bool repeated;         // in a vector element other than the first
 };
 
 struct WordFinder : model::Walk {
     std::vector<Word> words;
-    std::uint32_t tables[model::greatest_depth + 2] = {};   // by depth, those that are being read
+    std::uint32_t tables[model::greatest_depth + 2] = {};   // tables being read, by depth
 
     void read(const Item& item) override
     {
@@ -127,8 +126,8 @@ std::vector<std::uint32_t> few_borders(std::uint32_t length)
     return {0, 4, length - 4, length - 3, 0x40000000, 0x7FFFFFFF, 0xFFFFFFFC};
 }
 
-// What stands at a border: the word itself, or the place that it leads to from its own place or from or to its table.
-// Also counts of 4-byte items that just fit or just do not.
+// Values for which the word itself, or its target relative to its own position or to its table, is at a border.
+// Also counts of 4-byte items that just fit or just do not fit.
 std::vector<std::uint64_t> border_values(const Word& word, const std::vector<std::uint32_t>& borders,
                                          std::uint32_t length)
 {
@@ -183,7 +182,7 @@ TEST_P(EveryFault, border_values_of_any_word)
     }
 }
 
-// One message of each shape, for faults that only two words together can make.
+// One message of each shape, for faults that need two words.
 const char* const shapes[] = {
     "ifit_color_intf_mesh",               // scalars
     "ifit_dfx_query_glbdata_item_mesh",   // text
@@ -194,7 +193,7 @@ const char* const shapes[] = {
     "ifit_dfx_query_stat_rec_mesh",       // a table, and a vector whose elements hold an array and a table
     "ntvifit_entry_list_mdtlm",           // a vector whose elements own blocks
     "ntvifit_stats_info_list",            // a vector whose elements' tables own blocks
-    "synthetic_rows",                     // where the test module is built
+    "synthetic_rows",                     // if the test module is built
     "synthetic_lenient",
 };
 
@@ -217,7 +216,7 @@ TEST_P(EveryShape, border_values_of_any_two_words)
     for (const ByteString& whole : full_samples(message)) {
         Sample sample{message, whole};
         std::vector<Word> words = words_of(message, whole);
-        std::erase_if(words, [](const Word& word) { return word.repeated; });   // the first element stands for all
+        std::erase_if(words, [](const Word& word) { return word.repeated; });   // the first element represents all
         std::vector<std::vector<std::uint64_t>> values;                         // by word
         for (const Word& word : words)
             values.push_back(border_values(word, few_borders(sample.length), sample.length));

@@ -1,5 +1,5 @@
-// The first use of all units by threads that come together. Its own program: it is also run by the race detector, which
-// leaves no room for a dlsym of the test's own.
+// First use of all units by concurrent threads. A separate program, as it also runs under the race detector, which does
+// not allow a test to define its own dlsym.
 
 #include <gtest/gtest.h>
 

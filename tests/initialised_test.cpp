@@ -1,7 +1,7 @@
-// Sends every message through the MESH stand-in, which looks at each byte that it is handed. Under the memory sanitizer
-// a byte that nobody has written is reported there: padding of a record, a gap of a form, the stack.
+// Sends every message through the MESH stand-in, which examines each byte that it receives. The memory sanitizer
+// reports uninitialised bytes there: padding of a record, a gap in a form, stack contents.
 //
-// A program without a test framework: the sanitizer does not know what the C++ library's own code has written.
+// No test framework is used, as the sanitizer does not track writes by the precompiled C++ library.
 
 #include <algorithm>
 #include <cstdio>
@@ -29,7 +29,7 @@ void expect(bool holds, const char* message, const char* what)
     ++failures;
 }
 
-// Delivered records are compared with what was sent: that looks at every byte of every field.
+// Delivered records are compared with the sent ones, which examines every byte of every field.
 void on_message(void* context, uint32_t, uint32_t, const void* record, uint32_t, const uint8_t*, uint32_t)
 {
     const auto* sent = static_cast<const std::vector<model::Record>*>(context);
@@ -49,7 +49,7 @@ void send(const tools::Operations& library, std::vector<model::Record>& records)
            "batch send");
     expect(received == records.size(), library.name, "not all delivered");
 
-    // Packed: what the packer has written, which may be less than it says.
+    // Packed: checks the bytes that the packer has written, which may be fewer than it reports.
     const model::Bytes expected = model::compact_form(records[0]);
     std::vector<uint8_t> buffer(1 << 16);
     uint32_t length = 1 << 16;

@@ -1,6 +1,6 @@
-// Vectors of so many elements that the size of their block wraps 32 bits: what is left of it must hold all that is
-// written, and be gone afterwards. The cells alone take from 64 MiB to 1.4 GB, so most of them are left as the zeros of
-// memory that was never touched, which a reader may take for tables without fields.
+// Vectors with so many elements that the size of their array wraps 32 bits. The truncated array must hold everything
+// that is written, and must be released afterwards. The cells alone take 64 MiB to 1.4 GB, so most of them stay zero in
+// untouched memory, where a reader may interpret them as tables without fields.
 
 #include <gtest/gtest.h>
 
@@ -24,14 +24,14 @@ using model::Piece;
 using model::put;
 
 constexpr std::uint64_t wrap = std::uint64_t{1} << 32;
-constexpr std::uint64_t most_bytes = 0x7FFFFFFF;   // that a decoder takes
+constexpr std::uint64_t most_bytes = 0x7FFFFFFF;   // the longest input that a decoder accepts
 
 struct VectorMessage {
     const model::Message* message;
     const model::Message* element;
 
     std::uint64_t record_size() const { return element->layout(model::host_pointer_width).size; }
-    // The least count whose elements take up 2^32 bytes and `rest` more.
+    // The smallest count whose elements take at least 2^32 + `rest` bytes.
     std::uint32_t count(std::uint64_t rest) const
     {
         return static_cast<std::uint32_t>((wrap + rest + record_size() - 1) / record_size());
@@ -46,7 +46,7 @@ std::ptrdiff_t vectors_in(const model::Message& message)
         });
 }
 
-// Those with one vector: a stem, below, has one place to be pulled apart.
+// Messages with exactly one vector, as a stem (see below) is split at one position.
 std::vector<VectorMessage> vector_messages()
 {
     std::vector<VectorMessage> found;
@@ -70,7 +70,7 @@ model::Record with_one_element(const VectorMessage& vector)
     return record;
 }
 
-// Memory that costs nothing until it is touched.
+// Whether this much memory can be reserved. It costs nothing until it is touched.
 bool has_address_space(std::size_t bytes)
 {
     void* const memory = mmap(nullptr, bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
@@ -80,7 +80,7 @@ bool has_address_space(std::size_t bytes)
     return true;
 }
 
-// The compact form of a record with one element, to be pulled apart after the vector's only cell.
+// The compact form of a record with one element, to be split after the vector's only cell.
 struct Stem : model::Walk {
     explicit Stem(const model::Record& record) : bytes(model::compact_form(record))
     {
@@ -103,8 +103,7 @@ struct Stem : model::Walk {
     std::vector<std::uint32_t> references;   // positions of all cells
 };
 
-// Writes the stem with `count` cells to where it ends with the buffer. All cells that are `filled` lead to the one
-// element.
+// Writes the stem with `count` cells at the end of the buffer. The first `filled` cells lead to the only element.
 std::uint8_t* place(const GuardedBuffer& buffer, const Stem& stem, std::uint32_t count, std::uint32_t filled,
                     std::uint32_t& length)
 {
@@ -126,13 +125,13 @@ std::uint8_t* place(const GuardedBuffer& buffer, const Stem& stem, std::uint32_t
     return at;
 }
 
-// Library and model differ nowhere. One element is filled for each that the block has room for, and two more.
+// Library and model must agree. The filled cells are as many as fit in the array, up to 2^14, plus two.
 void expect_alike(const VectorMessage& vector, std::uint32_t count)
 {
     const Stem stem(with_one_element(vector));
     const auto inside = static_cast<std::uint32_t>(count * vector.record_size() % wrap / vector.record_size());
     std::uint32_t length = 0;
-    // A fresh buffer each time: what was touched is given back.
+    // A fresh buffer each time, so that touched memory is returned.
     DecodeCheck check(stem.bytes.size() + std::size_t{4} * count);
     const std::uint8_t* const bytes = place(check.buffer(), stem, count, std::min(inside, 1U << 14) + 2, length);
     for (const std::uint32_t failing : {model::AllocationFaults::never, 0U, 1U, 2U, 5U}) {
@@ -146,15 +145,15 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
 {
     std::uint32_t tried = 0;
     for (const VectorMessage& vector : vector_messages()) {
-        // One element below the wrap, where the block is too large for any memory; the wrap; some elements above it;
-        // and where nothing at all is left.
+        // One element below the wrap, where the array is too large for any memory; at the wrap; some elements above it;
+        // and a count for which the size wraps to zero.
         const std::uint64_t size = vector.record_size();
         for (const std::uint32_t count :
              {vector.count(0) - 1, vector.count(0), vector.count(size), vector.count(3 * size), vector.count(1 << 16),
               static_cast<std::uint32_t>(wrap / std::gcd(wrap, size))}) {
             const std::uint64_t bytes = std::uint64_t{4} * count + 4096;
-            // Its block cannot wrap, as it would take a longer byte string than is accepted; or this process has no
-            // room.
+            // Its array cannot wrap, as that needs a longer byte string than is accepted; or the process lacks address
+            // space.
             if (bytes > most_bytes || !has_address_space(static_cast<std::size_t>(bytes)))
                 continue;
             ++tried;
@@ -165,15 +164,15 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
     EXPECT_GT(tried, all_modules_built ? 100U : 10U);
 }
 
-// The same written out: elements of 256 bytes, of which 2^24 are 2^32 bytes, and elements with blocks of their own in a
-// block that has room for one and not for two.
+// The same with literal numbers: elements of 256 bytes, of which 2^24 take 2^32 bytes, and elements with owned blocks
+// in an array that holds one but not two.
 TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits_is_released)
 {
     const struct {
         const char* message;
         std::size_t slot;   // of the vector
         const char* record;
-        std::uint64_t rest;   // bytes that the block has room for, at least
+        std::uint64_t rest;   // minimum size of the array in bytes
         std::uint32_t first_cell;
         const char* events;
         const char* left;

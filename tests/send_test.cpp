@@ -1,4 +1,4 @@
-// Encoding as callers see it, beyond the bytes: X__pack's refusals, the four send operations, registration.
+// Encoding as callers see it, apart from the bytes: refusals by X__pack, the four send operations, registration.
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,8 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EverySend);
 
-// A count of one goes single, two and more as one batch, none not at all; but a direct batch of none is MESH's affair.
+// One record is sent as a single message, two or more as one batch, none not at all. A direct batch of none goes to
+// MESH.
 TEST_P(EverySend, counts_decide_what_reaches_mesh)
 {
     const std::vector<Record> made = records(3);
@@ -92,7 +93,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
     const RecordMemory memory(made);
     const std::size_t item = sizeof(MeshSendItem);
     mesh().keeps_sends = false;
-    mesh().send_result = -3;   // that MESH refuses changes nothing
+    mesh().send_result = -3;   // a refusal by MESH changes nothing
     for (const std::uint32_t n : {1u, 3u}) {
         std::size_t size = n == 1 ? model::reported_size(model::exact_size(made[0])) : pool + n * item;
         if (fixed())
@@ -137,7 +138,8 @@ TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
     EXPECT_EQ(services().difference({log}), "");
 }
 
-// A null record is refused where the form is not fixed; a count whose block would pass 32 bits, before it is allocated.
+// A null record is refused if the form is not fixed. A count whose block would exceed 32 bits is refused before the
+// allocation.
 TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
 {
     if (!fixed()) {
@@ -154,7 +156,7 @@ TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
     const std::uint32_t wraps = static_cast<std::uint32_t>((std::uint64_t{1} << 32) / sizeof(MeshSendItem)) + 1;
     for (const std::uint32_t count : {0xFFFFFFFFU, wraps}) {
         {
-            const WatchMalloc watch(0, true);   // what it asked for would be too small
+            const WatchMalloc watch(0, true);   // a wrapped size would be too small
             EXPECT_EQ(library().sendmsg(1, memory.data(), count), -1);
             EXPECT_EQ(library().sendbatch(1, memory.data(), count, 2), -1);
         }
@@ -163,7 +165,7 @@ TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
     EXPECT_TRUE(mesh().sends.empty());
 }
 
-// As a failed decode leaves it. By whichever routine finds it, in whatever room.
+// A failed decode leaves such a record. Every routine must refuse it, with any capacity.
 TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_operation)
 {
     for (std::size_t k = 0; k < message().slots.size(); ++k) {
@@ -189,10 +191,10 @@ TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_opera
     EXPECT_TRUE(mesh().sends.empty());
 }
 
-// Two records that fill the 64 KiB to the byte, and one byte more. The first has an odd size, which leaves no gap.
+// Two records that fill the 64 KiB exactly, and then one byte more. The first has an odd size and leaves no gap.
 TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
 {
-    const std::uint32_t overhead = 18 + 8;   // of a frame with zero numbers around its block
+    const std::uint32_t overhead = 18 + 8;   // bytes of a frame besides its block, if all its numbers are zero
     std::vector<std::uint8_t> block(pool);
     ifit_dfx_query_comm_param_mesh frames[2] = {};
     for (const std::uint32_t more : {0u, 1u}) {
@@ -231,7 +233,7 @@ TEST(BatchPool, fixed_batches_lie_end_to_end_and_may_be_larger)
     EXPECT_EQ(static_cast<const void*>(call.items), call.sent[0].data + std::size_t{count} * 32);
 }
 
-// Sums of sizes beyond 32 bits: texts and blocks that are counted again and again. Needs no memory but the pointers.
+// Sums of sizes beyond 32 bits: the same texts and blocks are counted repeatedly. Needs memory only for the pointers.
 TEST(Sizes, beyond_32_bits_are_refused)
 {
     std::vector<ntvifit_entry_to_mdtlm> entries(3);
@@ -240,7 +242,7 @@ TEST(Sizes, beyond_32_bits_are_refused)
         entry.f17 = {0x7FFFFFFF, &byte};
     ntvifit_entry_list_mdtlm list = {};
     list.f0.items = entries.data();
-    for (const std::uint32_t count : {2u, 3u}) {   // just beyond, and where 32 bits would have wrapped to a small size
+    for (const std::uint32_t count : {2u, 3u}) {   // just beyond 32 bits, and a sum that would wrap to a small size
         list.f0.count = count;
         std::uint32_t length = 0xFFFFFFFF;
         EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
@@ -254,7 +256,7 @@ TEST(Sizes, beyond_32_bits_are_refused)
     EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), 0);   // null buffer: nothing is written
     EXPECT_EQ(length, 24 + around + 0x7FFFFFFF);
 
-    list.f0.count = 2;   // the largest size there is, and one more
+    list.f0.count = 2;   // the largest possible size, and one more
     entries[1].f17.length = 0xFFFFFFFF - 24 - 2 * around - 0x7FFFFFFF;
     EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
     length = 0xFFFFFFFF;

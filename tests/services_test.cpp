@@ -1,7 +1,7 @@
-// What a codec unit makes of the services that its process offers: each case in a process of its own, as a unit looks
-// once.
+// How a codec unit uses the services that its process offers. Each case has its own process, as a unit looks them up
+// only once.
 //
-// The program has its own dlsym, so that a case can offer and count as it likes.
+// The program has its own dlsym, so that a case can choose which services to offer and can count look-ups.
 
 #include <gtest/gtest.h>
 
@@ -67,9 +67,10 @@ const Offer offers[] = {
 
 const Offer* offer = &everything;
 
-// A thread that begins when another one has come to a look-up, which does not end before the newcomer has, or waits.
+// A thread that starts when another one has reached a look-up. The look-up does not return until the newcomer has
+// finished or waits.
 struct Newcomer {
-    const char* service = "";   // the look-up; none once it has been met
+    const char* service = "";   // the look-up; empty once it has been reached
     std::atomic<int> thread = 0;
     std::atomic<bool> may_start = false, finished = false;
 
@@ -110,7 +111,7 @@ private:
 
 Newcomer newcomer;
 
-// In the child of a case: prints what is not as expected and ends the process.
+// Runs in the child process of a case: prints differences from the expectation and ends the process.
 class Verdict {
 public:
     void expect(const std::string& what, std::uint32_t is, std::uint32_t expected)
@@ -126,7 +127,7 @@ private:
     bool failed_ = false;
 };
 
-// Runs a case in a process of its own.
+// Runs a case in its own process.
 template <class Case>
 void expect_in_child(Case run)
 {
@@ -138,7 +139,7 @@ void expect_in_child(Case run)
     EXPECT_EXIT(child(), testing::ExitedWithCode(0), "^$");
 }
 
-// All units have been used: each has looked up once what it needed, whether it found it or not.
+// All units have been used. Each has looked up the services it needed once, whether it found them or not.
 void expect_one_use_of_each_unit_to_look(Verdict& verdict)
 {
     const bool pair_wanted = offer->has[flag] && offer->use_flag == 1;
@@ -170,7 +171,7 @@ TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
             verdict.expect("of them by the service", allocated - before, offer->memory_used);
             use.send();
         }
-        use_every_unit();   // the second time looks nothing up
+        use_every_unit();   // the second use looks nothing up
         expect_one_use_of_each_unit_to_look(verdict);
     });
 }
@@ -181,7 +182,7 @@ TEST(Services, are_not_looked_up_without_need)
         ifit_dfx_datetime_mesh record{};
         ifit_dfx_datetime_mesh_free__unpacked(&record);
         const std::uint8_t refused[] = {3, 0, 0, 0};
-        ifit_dfx_datetime_mesh__unpack(refused, sizeof refused, &record);   // before memory is needed
+        ifit_dfx_datetime_mesh__unpack(refused, sizeof refused, &record);   // refused before memory is needed
         verdict.expect("memory", services[flag].lookups, 0);
         verdict.expect("log", services[log_write].lookups, 1);
         const std::vector<std::uint8_t>& bytes = one_empty_text;
@@ -198,7 +199,7 @@ TEST(Services, are_not_looked_up_without_need)
     });
 }
 
-// Each message as the first that its process decodes, in every form, by the fast paths and by others.
+// Each message is the first that its process decodes, in every form, by fast paths and by general paths.
 TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
 {
     for (const model::Message& message : expected_catalogue().messages) {
@@ -229,7 +230,7 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
     static const ifit_dfx_datetime_mesh plain[2] = {};
     static const ifit_dfx_query_comm_param_mesh with_block[2] = {};
     void (*const ways[])() = {
-        [] {   // one slot is missing: not for a fast path
+        [] {   // one slot is missing, so fast paths decline
             const std::uint8_t bytes[] = {10, 0, 0, 0, 4, 0, 4, 0, 0, 0, 6, 0, 0, 0};
             ifit_dfx_query_comm_param_mesh record{};
             ifit_dfx_query_comm_param_mesh__unpack(bytes, sizeof bytes, &record);
@@ -243,7 +244,7 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
             std::uint32_t length = sizeof buffer;
             ifit_dfx_datetime_mesh__pack(plain, buffer, &length);
         },
-        [] {   // just enough, so that the size is measured first
+        [] {   // exact capacity, so that the size is measured first
             std::uint8_t buffer[24];
             std::uint32_t length = sizeof buffer;
             ifit_dfx_datetime_mesh__pack(plain, buffer, &length);
@@ -260,7 +261,7 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
         });
 }
 
-// While one thread is in a look-up, another one uses the same unit: it has to wait, and then finds everything.
+// While one thread is in a look-up, another one uses the same unit. It must wait and then finds everything.
 TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
 {
     for (const Service& service : services)
@@ -274,7 +275,7 @@ TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
                         newcomer.finished = true;
                     });
                     operation();
-                    newcomer.may_start = true;   // also where nothing was looked up
+                    newcomer.may_start = true;   // also if nothing was looked up
                     second.join();
                 }
             expect_one_use_of_each_unit_to_look(verdict);

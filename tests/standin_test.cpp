@@ -1,4 +1,4 @@
-// The stand-ins of platform/standin, driven by hooks of this file's own.
+// Tests the stand-ins of platform/standin with this file's own hooks.
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ namespace kesto::tests {
 
 namespace {
 
-// Four threads that do the same.
+// Runs the same work in four threads.
 void in_threads(const std::function<void(uint32_t)>& work)
 {
     std::vector<std::thread> threads;
@@ -218,7 +218,7 @@ TEST_F(Mesh, a_connect_waits_for_the_listener_and_a_send_for_a_slow_peer)
     await_waiting(1);
     ASSERT_EQ(mesh_standin_listen(1, socket_path.c_str()), 0);
     connecting.join();
-    // Nothing of a batch with an item that is one byte too long, then more than the buffer takes.
+    // A batch with an item that is one byte too long is not sent at all. Then sends more than the buffer holds.
     const std::string longest(MESH_STANDIN_ITEM_BYTES, 'l'), longer = longest + "r", small = "s";
     const MeshSendItem batch[] = {item(7, small), item(7, longer)};
     EXPECT_EQ(MESH_SendMsg(2, batch, 2), MESH_STANDIN_TOO_LONG);
@@ -255,7 +255,7 @@ std::string bytes_of(const std::string& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The packets of a capture file, which must be whole and shorter than 256 bytes.
+// The packets of a capture file. They must be complete and shorter than 256 bytes.
 Lines packets_in(const std::string& path)
 {
     const std::string bytes = bytes_of(path);
@@ -335,7 +335,7 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
         EXPECT_EQ(status.st_mode, S_IFREG | 0600u) << older;
         EXPECT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
     }
-    if (geteuid() == 0) {   // who may write to what others own
+    if (geteuid() == 0) {   // root may write to files of other owners
         ASSERT_EQ(chown(path.c_str(), 1, 1), 0);
         expect_refused(head, "another user");
     }
@@ -375,7 +375,7 @@ TEST_F(Capture, of_threads_that_share_hooks_and_channels_has_whole_packets)
     EXPECT_EQ(packets_in(path).size(), 2400u);
 }
 
-// A child that sends with the parent's capture, and what it says on stderr.
+// Runs a child that sends with the parent's capture; returns its output on stderr.
 std::string said_by_child(pid_t& child)
 {
     return said([&] {

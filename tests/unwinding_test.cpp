@@ -1,5 +1,5 @@
-// A debugger that stops in MESH or in a memory service sees who called: the stack can be unwound through every
-// operation of the library.
+// The stack can be unwound through every operation of the library, so that a debugger that stops in MESH or in a memory
+// service shows the callers.
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ namespace {
 
 int calls = 0, calls_from_main = 0;
 
-// The functions of the program are exported, so that they have names here.
+// The program exports its functions, so that they have names here.
 _Unwind_Reason_Code visit_frame(_Unwind_Context* context, void* found)
 {
     Dl_info function;

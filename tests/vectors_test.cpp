@@ -1,4 +1,5 @@
-// The files of vectors/ against today's printer and against the library. They are read as a stranger would read them.
+// Compares the files of vectors/ with the current printer and with the library. They are read as a third party would
+// read them.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -63,8 +64,8 @@ TEST(Vectors, are_whole_and_what_is_printed_today)
 
 TEST(Vectors, say_what_the_library_does_with_each)
 {
-    std::map<std::string, std::set<std::string>> cases;   // of records, by message
-    std::map<std::string, int> often;                     // what hostile byte strings end with; "" for accepted ones
+    std::map<std::string, std::set<std::string>> cases;   // record cases, by message
+    std::map<std::string, int> often;                     // hostile byte strings per result; "" if accepted
     std::set<std::string> noncanonical;                   // messages of the accepted ones
     DecodeCheck check;
     for (const ordered_json& file : files())
@@ -101,7 +102,7 @@ TEST(Vectors, say_what_the_library_does_with_each)
                 EXPECT_EQ(model::to_hex(command::encoded(record, command::Form::fixed)), line["fixed"]) << line;
             }
         }
-    // Else a printer that lost half of its cases would pass.
+    // Otherwise a printer that lost half of its cases would pass.
     EXPECT_EQ(cases.size(), expected_catalogue().messages.size());
     for (const auto& [message, names] : cases)
         EXPECT_EQ(names, (std::set<std::string>{"boundary", "empty", "full"})) << message;

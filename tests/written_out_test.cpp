@@ -1,5 +1,5 @@
-// Byte strings, records and traces that were written out by hand, for library and model: each of them is held
-// against the other one, and both against what stands here.
+// Byte strings, records and traces written by hand. Library and model are compared with each other, and both with the
+// expectations here.
 
 #include <gtest/gtest.h>
 
@@ -156,7 +156,7 @@ struct EdgeCase {
     const char* left;   // the record after it; none if it is untouched
 };
 
-// Each on the edge or one off it. The bytes of a case are given whole, root word first.
+// Each case is on an edge or off by one. The bytes of a case are complete, root word first.
 constexpr EdgeCase edge_cases[] = {
     {"ifit_dam_smooth_request", "0a000000 0600 0800 0400 06000000 2a000000", "none", "{42}"},
     {"ifit_dam_smooth_request", "0a000000 0600 0800 0400 06000000 2a0000", "scalar_end", "{0}"},

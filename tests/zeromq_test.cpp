@@ -1,4 +1,4 @@
-// The transport over ZeroMQ inside one process: what goes out on channel 1 comes in on channel 2, or for destination 9
+// Tests the ZeroMQ transport within one process: messages sent on channel 1 arrive on channel 2, or, for destination 9,
 // on channel 6. Built twice, without keys and with keys.
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@
 
 namespace {
 
-// How many calls of one operation of ZeroMQ still go well before one fails; without a plan all do.
+// The number of calls of one ZeroMQ operation that succeed before one fails. Without a plan all succeed.
 struct Failure {
     std::string operation;
     int calls_before;
@@ -42,7 +42,7 @@ Function* real(Function*, const char* name)
 
 }   // namespace
 
-// Instead of ZeroMQ's own, for the transport.
+// These replace ZeroMQ's own functions for the transport.
 extern "C" int zmq_msg_init_size(zmq_msg_t* message, size_t size)
 {
     return fails("init_size") ? -1 : real(zmq_msg_init_size, "zmq_msg_init_size")(message, size);
@@ -50,7 +50,7 @@ extern "C" int zmq_msg_init_size(zmq_msg_t* message, size_t size)
 
 extern "C" int zmq_msg_send(zmq_msg_t* message, void* socket, int flags)
 {
-    std::this_thread::yield();   // to whoever sends without waiting for the rest of this message
+    std::this_thread::yield();   // to a thread that sends without waiting for the rest of this message
     return fails("send") ? -1 : real(zmq_msg_send, "zmq_msg_send")(message, socket, flags);
 }
 
@@ -99,7 +99,7 @@ protected:
 
     void SetUp() override { start_notes(); }
 
-    // The next packet is the one sent now: nothing of an earlier call is under way.
+    // The next packet must be the one sent now; nothing from an earlier call is still in transit.
     static void expect_nothing_under_way()
     {
         seen.clear();
@@ -160,7 +160,7 @@ TEST_F(ZeroMq, a_batch_of_which_one_item_cannot_leave_goes_not_at_all)
         }
 }
 
-#if !KESTO_WITH_KEYS   // for want of a key nobody gets that far
+#if !KESTO_WITH_KEYS   // without a key no sender gets that far
 TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
 {
     void* const context = zmq_ctx_new();
@@ -199,7 +199,7 @@ TEST_F(ZeroMq, many_threads_send_without_mixing_their_batches)
         EXPECT_EQ(seen[i], seen[i - i % items]) << i;
 }
 
-// The last test, as nobody is admitted after it.
+// This must be the last test, as no peer is admitted after it.
 TEST_F(ZeroMq, nobody_is_admitted_once_admission_has_failed)
 {
     if (!KESTO_WITH_KEYS)
@@ -210,7 +210,7 @@ TEST_F(ZeroMq, nobody_is_admitted_once_admission_has_failed)
         planned = {"send", 1};
         EXPECT_EQ(MESH_SendMsg(1, two, 2), MESH_STANDIN_NO_MEMORY);
     };
-    frames_before_admission_fails = 6;   // the seven of one question; it waits for the first one already
+    frames_before_admission_fails = 6;   // the seven of one request; it already waits for the first one
     begin_a_new_connection();
     expect_nothing_under_way();
     while (frames_before_admission_fails >= 0)

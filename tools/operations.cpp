@@ -12,7 +12,7 @@ namespace kesto::tools {
 
 namespace {
 
-// Records cross as void*; the casts go through the type that stands for any function.
+// Records are passed as void*; the casts go through a generic function type.
 using Any = void (*)();
 
 template <class To, class From>

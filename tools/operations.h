@@ -1,4 +1,4 @@
-// The seven operations of every message by name, as the public headers declare them, with records as untyped memory.
+// The seven operations of every message by name. Signatures follow the public headers, with records as untyped memory.
 #pragma once
 
 #include <cstdint>
@@ -22,16 +22,16 @@ struct Operations {
 
 struct ModuleOperations {
     const char* name;
-    std::span<const Operations> messages;   // in the order of the catalogue
+    std::span<const Operations> messages;   // in catalogue order
     int (*recv_init)();
     int (*send_init)();
     void (*send_resource_clean)();
 };
 
-// Those of the modules that are built.
+// The modules that are built.
 std::span<const ModuleOperations> module_operations();
 
-// Null for a name that no message of these has; the second ends the process then.
+// For an unknown name, the first returns null and the second ends the process.
 const Operations* find_operations(std::string_view name);
 const Operations& operations(std::string_view name);
 

@@ -1,4 +1,4 @@
-// Prints the catalogue into the packet analyser's script, dissector/kesto.lua, between the two lines that say so.
+// Prints the catalogue into the packet analyser's script, dissector/kesto.lua, between the two marker lines.
 //
 //   print_dissector FILE    changes FILE in place
 
@@ -18,7 +18,7 @@ namespace {
 constexpr const char first_line[] = "-- printed by ./run headers, from here\n";
 constexpr const char last_line[] = "-- to here\n";
 
-// "u32", "u8[50]", "vector:ifit_mcp_mesh", "table?:..." for a table whose refusal the message ignores: one word each.
+// One word: "u32", "u8[50]", "vector:ifit_mcp_mesh", or "table?:..." for a table whose refusal the message ignores.
 std::string slot_word(const Slot& slot)
 {
     if (slot.nested == nullptr)

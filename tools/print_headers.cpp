@@ -22,7 +22,7 @@ std::string upper(std::string text)
     return text;
 }
 
-// The top of every header. `@` stands for the module.
+// The top of every header. `@` is replaced by the module name.
 constexpr const char head[] =
     R"(/* @.h: records and operations of the @ messages. Printed from the catalogue by `./run headers`; do not edit.
  *

@@ -1,5 +1,5 @@
-// Prints the message reference, docs/messages/<module>.md, from the catalogue: text for a terminal that a code host
-// shows with tables and links.
+// Prints the message reference, docs/messages/<module>.md, from the catalogue. It is readable as plain text, and code
+// hosts render its tables and links.
 //
 //   print_messages FOLDER    writes FOLDER/<module>.md for every module
 
@@ -19,11 +19,11 @@ namespace {
 
 constexpr std::size_t page_width = 120;
 
-// ---- tables whose source is aligned ----
+// ---- tables with aligned source text ----
 
 struct Column {
     std::string title;
-    bool numbers = false;   // stand at the right edge
+    bool numbers = false;   // right-aligned
 };
 
 using Row = std::vector<std::string>;
@@ -57,9 +57,9 @@ void print_table(std::FILE* file, const std::vector<Column>& columns, const std:
         print_row(file, columns, widths, row);
 }
 
-// ---- what the pages say of a message ----
+// ---- facts about a message ----
 
-// Equal for messages whose records and byte strings look alike down to the last nested message.
+// Equal for messages whose records and byte strings have the same structure, including all nested messages.
 std::string shape(const Message& message)
 {
     std::string text;
@@ -77,7 +77,7 @@ std::string shape(const Message& message)
 
 struct Relations {
     std::map<std::string, std::vector<const Message*>> by_shape;
-    std::map<const Message*, std::vector<const Message*>> users;   // the messages that nest this one
+    std::map<const Message*, std::vector<const Message*>> users;   // the messages that contain this one
 };
 
 const Relations& relations()
@@ -109,7 +109,7 @@ std::string form_text(const Message& message)
     return message.owns_blocks ? "compact" : "fixed " + std::to_string(message.fixed_length);
 }
 
-// A name that leads to its message on a code host; the targets stand at the end of the page.
+// A name that links to its message on a code host; the link targets are at the end of the page.
 std::string link(const Message& message) { return "[" + message.name + "]"; }
 
 void print_links(std::FILE* file, const char* what, const std::vector<const Message*>& messages, const Message& self)
@@ -132,7 +132,7 @@ void print_links(std::FILE* file, const char* what, const std::vector<const Mess
         std::fprintf(file, "%s.\n", line.c_str());
 }
 
-// The fields, in as many columns of rows as fit beside each other and are worth it.
+// The fields, in as many side-by-side columns as fit and are worthwhile.
 void print_fields(std::FILE* file, const Message& message)
 {
     const RecordLayout on_32 = message.layout(4), on_64 = message.layout(8);
@@ -200,7 +200,7 @@ void print_message(std::FILE* file, const Message& message)
 
 // ---- the page ----
 
-// `@` stands for the module.
+// `@` is replaced by the module name.
 constexpr const char head[] = R"(# Messages of @
 
 Printed from `messages/@/@.def` by `./run headers`; do not edit. C declarations: `include/@.h`.

@@ -1,6 +1,7 @@
 /* Inline stand-in for the closed bounds-checked memory operations; see platform/bounded_memory.h.
  *
- * A count above the limit does nothing and gives ERANGE. Never called so by the codecs, whose counts are the limits. */
+ * With a count above the limit, an operation does nothing and returns ERANGE. The codecs always pass the count as the
+ * limit. */
 #ifndef KESTO_PLATFORM_STANDIN_BOUNDED_MEMORY_INLINE_H
 #define KESTO_PLATFORM_STANDIN_BOUNDED_MEMORY_INLINE_H
 
@@ -8,7 +9,7 @@
 #include <stddef.h>
 #include <string.h>
 
-/* Empty where platform/standin/bounded_memory.cpp makes a library of them. */
+/* Defined as empty by platform/standin/bounded_memory.cpp, which builds a library of these functions. */
 #ifndef KESTO_BOUNDED_MEMORY_LINKAGE
 #define KESTO_BOUNDED_MEMORY_LINKAGE static inline
 #endif
@@ -29,7 +30,7 @@ KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_s(void* destination, size_t limit, const
     return 0;
 }
 
-/* The closed library's copy for small counts known at compile time; plain memcpy is exactly that here. */
+/* The closed library's copy for small counts known at compile time. Here memcpy does the same. */
 KESTO_BOUNDED_MEMORY_LINKAGE int memcpy_sOptAsm(void* destination, size_t limit, const void* source, size_t count)
 {
     return memcpy_s(destination, limit, source, count);

@@ -17,20 +17,20 @@
 namespace {
 
 constexpr int no_file = -1;
-// The most that readers take. What is longer is cut, and the packet's head in the file says so.
+// The longest packet that readers accept. A longer one is truncated, which shows in the packet's head in the file.
 constexpr uint32_t most_captured = 262144;
-// Magic for microseconds, version 2.4, time zone, accuracy, the most that is captured, link type USER0.
+// Magic number for microseconds, version 2.4, time zone, accuracy, longest packet, link type USER0.
 constexpr uint8_t file_head[24] = {0xd4, 0xc3, 0xb2, 0xa1, 2, 0, 4, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 4, 0, 147};
 
 struct Capture {
     int file;
-    pid_t process;         // that opened the file
+    pid_t process;         // which opened the file
     char name[PATH_MAX];   // as given, with %p
 };
 
 constinit pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;   // guards the capture
 constinit Capture capture{no_file, 0, {}};
-constinit std::atomic<bool> capturing{};   // spares a process without a capture the lock
+constinit std::atomic<bool> capturing{};   // lets a process without a capture skip the lock
 
 [[nodiscard]] bool expand(char (&path)[PATH_MAX])
 {
@@ -70,7 +70,7 @@ void stop()
     return false;
 }
 
-// An empty file is a capture too, and so is one that ended within its head.
+// An empty file counts as a capture, and so does one that ends within its head.
 [[nodiscard]] bool holds_capture()
 {
     uint8_t old[sizeof file_head];
@@ -78,8 +78,9 @@ void stop()
     return got >= 0 && memcmp(old, file_head, static_cast<size_t>(got)) == 0;
 }
 
-// Refuses a file of another user, one that holds anything but a capture, and one that another process is writing, which
-// has locked it. An older capture may have been readable by all; nobody else can open this one. Returns 0 or an error.
+// Opens and empties the file. Refuses a file of another user, one that holds anything but a capture, and one that
+// another process is writing and has therefore locked. An older capture may have been readable by others, but nobody
+// else can open this one. Returns 0 or an error.
 [[nodiscard]] int open_file(const char* path)
 {
     capture.file = open(path, O_RDWR | O_CREAT | O_APPEND | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW, 0600);
@@ -100,7 +101,7 @@ void stop()
     return written < 0 ? errno : written < static_cast<ssize_t>(sizeof file_head) ? ENOSPC : 0;
 }
 
-// With the lock held and `capture.name` set.
+// The lock must be held and `capture.name` set.
 [[nodiscard]] bool start()
 {
     char path[PATH_MAX];
@@ -133,7 +134,7 @@ void capture_packet(const uint8_t* head, uint32_t head_length, const uint8_t* re
     const Lock lock(mutex);
     if (capture.file == no_file)
         return;
-    // A child after a fork: the file belongs to the parent, and the child needs one of its own.
+    // In a child after a fork: the file is the parent's, so the child opens its own.
     if (capture.process != getpid()) {
         stop();
         if (!start())
@@ -154,6 +155,6 @@ void capture_packet(const uint8_t* head, uint32_t head_length, const uint8_t* re
     if (written == static_cast<ssize_t>(sizeof record + head_length + kept))
         return;
     const int error = written < 0 ? errno : ENOSPC;
-    [[maybe_unused]] const int ignored = ftruncate(capture.file, end);   // no half packet at the end
+    [[maybe_unused]] const int ignored = ftruncate(capture.file, end);   // removes an incomplete packet
     (void)fail(error, capture.name);
 }

@@ -1,5 +1,5 @@
-// The stand-ins' replacement for the C++ library, so that C programs which link or preload them need no C++ run
-// time, and a failed allocation is a result like others.
+// The stand-ins' replacement for parts of the C++ library. C programs that link or preload them need no C++ run time,
+// and a failed allocation is reported as a result.
 #ifndef KESTO_PLATFORM_STANDIN_ESSENTIALS_H
 #define KESTO_PLATFORM_STANDIN_ESSENTIALS_H
 
@@ -18,9 +18,9 @@ struct Lock {
     pthread_mutex_t& mutex;
 };
 
-// Chains of nodes that have a `key` and a `next`, in the order in which they were added.
+// Linked lists of nodes with a `key` and a `next`, in the order in which they were added.
 
-// The link to the node of `key`, or the null at the chain's end.
+// The link to the node with `key`, or the null link at the end of the list.
 template <typename Node, typename Key>
 Node** find_link(Node** link, Key key)
 {
@@ -29,7 +29,7 @@ Node** find_link(Node** link, Key key)
     return link;
 }
 
-// Whatever is new is zeroed apart from its key. Null without memory.
+// A new node is zeroed except for its key. Null if there is no memory.
 template <typename Node, typename Key>
 [[nodiscard]] Node* find_or_add(Node** first, Key key)
 {
@@ -51,7 +51,7 @@ void free_chain(Node*& first)
     }
 }
 
-// Numbers of packets and capture files, the same on every host.
+// The numbers in packets and capture files are little-endian on every host.
 
 inline void store_u32(uint8_t* at, uint32_t value)
 {

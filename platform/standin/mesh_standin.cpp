@@ -15,7 +15,7 @@
 namespace {
 
 constexpr int send_patience_ms = 5000;
-constexpr int slice_ms = 10;   // after which a call that waits looks whether its channel has been closed
+constexpr int slice_ms = 10;   // interval at which a waiting call checks whether its channel has been closed
 constexpr int socket_buffer = 2 * static_cast<int>(MESH_STANDIN_ITEM_BYTES);
 constexpr int no_socket = -1;
 
@@ -38,8 +38,8 @@ struct Consumer {
 };
 
 struct Channel {
-    uint64_t binding;           // a number of its own for each socket that is listened on or connected; 0 on a loopback
-    int listener = no_socket;   // until there is a peer
+    uint64_t binding;           // unique for each socket that is listened on or connected; 0 on a loopback
+    int listener = no_socket;   // open until there is a peer
     int peer = no_socket;
     bool owns_path;   // `address` is ours to unlink
     sockaddr_un address;
@@ -57,7 +57,7 @@ constinit MeshStandinCounters counters{};
 
 constinit std::atomic<uint32_t> waiting{};
 constinit std::atomic<bool> check_bytes{};
-constinit std::atomic<uint32_t> zero_checksums{};   // a result of the check, so that it cannot be left out
+constinit std::atomic<uint32_t> zero_checksums{};   // a result of the check, so that the compiler cannot remove it
 
 Hook** hooks_with(uint32_t id) { return &hooks[id * UINT32_C(0x9e3779b1) >> 22]; }
 
@@ -104,7 +104,7 @@ uint64_t now_ms()
     return static_cast<uint64_t>(time.tv_sec) * 1000 + static_cast<uint64_t>(time.tv_nsec) / 1000000;
 }
 
-// Keeps errno, for the failure that led here.
+// Preserves errno for the failure that led here.
 void close_socket(int& socket)
 {
     const int error = errno;
@@ -135,7 +135,7 @@ uint64_t binding_of(uint32_t channel)
     return channels[channel].binding;
 }
 
-// Counts a call among those that wait.
+// Counts a call as waiting during its lifetime.
 struct Wait {
     Wait() { ++waiting; }
     ~Wait() { --waiting; }
@@ -143,14 +143,14 @@ struct Wait {
 
 int open_socket() { return socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
 
-// Best effort: the default buffer holds an item, too.
+// Best effort: the default buffer holds an item too.
 void enlarge_buffers(int socket)
 {
     setsockopt(socket, SOL_SOCKET, SO_SNDBUF, &socket_buffer, sizeof socket_buffer);
     setsockopt(socket, SOL_SOCKET, SO_RCVBUF, &socket_buffer, sizeof socket_buffer);
 }
 
-// Whoever else has connected meanwhile sees its connection end, as the listener goes.
+// Any other process that has connected meanwhile sees its connection end when the listener is closed.
 void accept_peer(Channel& channel)
 {
     channel.peer = accept4(channel.listener, nullptr, nullptr, SOCK_CLOEXEC);
@@ -177,8 +177,9 @@ int result_of_errno()
     }
 }
 
-// Makes attempts at a channel's peer, with the lock held and without waiting, until one ends in something other than a
-// timeout. What is waited for in between is polled on a duplicate, which no close can take away.
+// Calls attempt(peer) until its result is not a timeout, the deadline has passed or the channel is closed. Each attempt
+// runs with the lock held and without waiting.
+// Between attempts the socket is polled through a duplicate, which a close in another thread does not invalidate.
 template <typename Attempt>
 int with_peer(uint32_t number, uint64_t binding, short event, uint64_t deadline, Attempt attempt)
 {
@@ -224,7 +225,7 @@ int send_bound(uint32_t channel, uint64_t binding, const MeshSendItem* items, ui
     return result;
 }
 
-// Reads one packet into `buffer`, which has one byte more than the longest packet, so that a longer one shows.
+// Reads one packet into `buffer`, one byte larger than the longest packet, so that a longer packet is noticed.
 int read_packet(uint32_t channel, uint64_t deadline, uint8_t* buffer, uint32_t capacity, uint32_t& length)
 {
     const uint64_t binding = binding_of(channel);
@@ -234,7 +235,7 @@ int read_packet(uint32_t channel, uint64_t deadline, uint8_t* buffer, uint32_t c
         const ssize_t got = recv(peer, buffer, capacity, MSG_DONTWAIT);
         if (got < 0)
             return result_of_errno();
-        // Nothing is either an empty packet or the end; only after the end nothing more can come.
+        // A length of 0 means an empty packet or the end of the connection; poll tells whether the peer has closed it.
         pollfd end{peer, POLLRDHUP, 0};
         if (got == 0 && poll(&end, 1, 0) > 0)
             return static_cast<int>(MESH_STANDIN_PEER_CLOSED);
@@ -262,14 +263,14 @@ int deliver_packet(uint32_t channel, const uint8_t* packet, uint32_t length)
     return result;
 }
 
-// The transport of a channel that this file does not carry itself.
+// The transport that carries a channel, or null if this file carries it itself.
 const MeshTransport* transport_of(uint32_t channel)
 {
     const MeshTransport* const transport = mesh_transport();
     return transport != nullptr && transport->carries(channel) ? transport : nullptr;
 }
 
-// The tests that listening and connecting share, and the path as an address.
+// Makes the tests that listening and connecting share, and converts the path to an address.
 int make_address(uint32_t channel, const char* path, sockaddr_un& address)
 {
     if (channel >= MESH_STANDIN_CHANNELS)
@@ -289,7 +290,7 @@ int make_address(uint32_t channel, const char* path, sockaddr_un& address)
     return MESH_STANDIN_OK;
 }
 
-// One attempt; a timeout stands for what another one may bring.
+// Makes one attempt. The result is a timeout if another attempt may succeed.
 int try_connect(Channel& channel, const sockaddr_un& address)
 {
     const Lock lock(mutex);
@@ -304,7 +305,7 @@ int try_connect(Channel& channel, const sockaddr_un& address)
         return MESH_STANDIN_OK;
     }
     close_socket(channel.peer);
-    // EAGAIN: the listener has not come round to its earlier callers yet.
+    // EAGAIN: the listener has not accepted earlier connections yet.
     const bool may_come = errno == ENOENT || errno == ECONNREFUSED || errno == EAGAIN || errno == EINTR;
     return may_come ? MESH_STANDIN_TIMEOUT : MESH_STANDIN_BAD_PATH;
 }
@@ -323,8 +324,8 @@ int send_loopback(uint32_t channel, const MeshSendItem* items, uint32_t count)
     return first_failure;
 }
 
-// Folds to one byte without carries: a byte that was never written leaves all eight bits unknown, whatever the others
-// hold. In a wider sum the known bits could settle the comparison, and nothing would be reported.
+// Folds all bytes into one without carries: a byte that was never written makes all eight bits undefined, whatever the
+// other bytes hold. In a wider sum the defined bits could decide the comparison, and nothing would be reported.
 void check(const MeshSendItem& item)
 {
     uint8_t folded = 0;
@@ -365,12 +366,12 @@ int send_items(uint32_t channel, const MeshSendItem* items, uint32_t count, cons
 {
     const char* const path = getenv("MESH_STANDIN_CAPTURE");
     if (path != nullptr && path[0] != '\0') [[maybe_unused]]
-        const bool ignored = capture_to(path);   // has said why on stderr
+        const bool ignored = capture_to(path);   // has printed the reason on stderr
 }
 
 }   // namespace
 
-// Gives way to that of a library with a transport.
+// A library with a transport overrides this definition.
 [[gnu::weak]] const MeshTransport* mesh_transport() { return nullptr; }
 
 void mesh_sent(const MeshSendItem& item)

@@ -7,7 +7,7 @@
 
 #include "platform/standin/essentials.h"
 
-// The declarations carry the visibility; everything else of this library is hidden.
+// The declarations set the visibility of the definitions; everything else in this library is hidden.
 #pragma GCC visibility push(default)
 #include "platform/osal.h"
 #include "platform/standin/osal_standin.h"
@@ -17,21 +17,21 @@ namespace {
 
 constexpr size_t block_alignment = 16;
 
-// A live block. All are known, so that a release is judged without reading memory that may not be ours any more.
+// A live block. All live blocks are listed, so that a release is checked without reading memory that may not be ours.
 struct Block {
-    void* key;   // where it starts
+    void* key;   // its address
     Block* next;
     uint32_t size;
 };
 
 constinit pthread_mutex_t mutex = PTHREAD_MUTEX_INITIALIZER;   // guards all that follows
 constinit Block* blocks[1 << 16]{};
-constinit OsalStandinPlan plan{OSAL_STANDIN_NO_LIMIT, 0, 0, 1, 1, 0};   // as without an environment
+constinit OsalStandinPlan plan{OSAL_STANDIN_NO_LIMIT, 0, 0, 1, 1, 0};   // as with an empty environment
 constinit OsalStandinCounters counters{};
 constinit uint64_t requests = 0;   // since the plan was set
 
-// One write per line, so that lines of several threads do not mix. What does not fit is cut off; a line is a line
-// whatever its text holds.
+// Makes one write per line, so that lines of several threads do not mix. A longer text is truncated, and line breaks in
+// it become blanks.
 [[gnu::format(printf, 1, 2)]] void say(const char* format, ...)
 {
     char line[1024];
@@ -61,7 +61,7 @@ bool plan_refuses(uint32_t size)
            counters.live_bytes > plan.budget - size;
 }
 
-// Decimal digits only; `otherwise` when there is no text, or any other, or one above `limit`.
+// The decimal number in an environment variable; `otherwise` if it is unset, no such number or above `limit`.
 uint64_t number_in(const char* name, uint64_t limit, uint64_t otherwise)
 {
     const char* const text = getenv(name);

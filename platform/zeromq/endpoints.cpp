@@ -19,7 +19,8 @@ namespace {
     return true;
 }
 
-// CHANNEL receive ADDRESS, CHANNEL send ADDRESS, or CHANNEL send ADDRESS to DESTINATION. Null when `words` say so.
+// Parses CHANNEL receive ADDRESS, CHANNEL send ADDRESS, or CHANNEL send ADDRESS to DESTINATION. Returns null, or a text
+// that says what is wrong.
 const char* read_endpoint(const Words& words, Endpoint& endpoint)
 {
     const auto& [channel, direction, address, to, destination, more] = words;

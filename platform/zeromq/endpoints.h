@@ -1,4 +1,4 @@
-// The file that says where channels and destinations are; docs/over-zeromq.md describes it.
+// The file that maps channels and destinations to addresses; docs/over-zeromq.md describes it.
 #ifndef KESTO_PLATFORM_ZEROMQ_ENDPOINTS_H
 #define KESTO_PLATFORM_ZEROMQ_ENDPOINTS_H
 
@@ -9,8 +9,8 @@ enum { MOST_ENDPOINTS = 256, ENDPOINT_ROOM = 256 };
 
 struct Endpoint {
     uint32_t channel;
-    bool receives;          // else it is sent to
-    uint32_t destination;   // 0: of what is sent without one
+    bool receives;          // false: this process sends to it
+    uint32_t destination;   // 0: for items sent without a destination
     char address[ENDPOINT_ROOM];
 };
 
@@ -19,8 +19,8 @@ inline bool is_place(const Endpoint& endpoint, uint32_t channel, bool receives, 
     return endpoint.channel == channel && endpoint.receives == receives && endpoint.destination == destination;
 }
 
-// Reads `file` and returns how many endpoints it names. A line that is not understood, or is about the same place as an
-// earlier one, is reported on stderr under `name` and left out.
+// Reads `file` and returns the number of endpoints in it. A line that is malformed or repeats the channel, direction
+// and destination of an earlier one is reported on stderr under `name` and ignored.
 uint32_t read_endpoints(FILE* file, const char* name, Endpoint (&endpoints)[MOST_ENDPOINTS]);
 
 #endif

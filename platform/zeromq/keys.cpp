@@ -54,7 +54,7 @@ const char* read_receiver(const char* address, const char* word, Keys& keys)
     return nullptr;
 }
 
-// secret KEY, sender KEY, or receiver ADDRESS KEY. Null when `words` say so.
+// Parses secret KEY, sender KEY, or receiver ADDRESS KEY. Returns null, or a text that says what is wrong.
 const char* read_key_line(const Words& words, Keys& keys)
 {
     if (strcmp(words[0], "receiver") == 0 && words[3] == nullptr)
@@ -66,8 +66,8 @@ const char* read_key_line(const Words& words, Keys& keys)
     return "neither secret KEY, sender KEY nor receiver ADDRESS KEY";
 }
 
-// Admission: ZeroMQ asks at inproc://zeromq.zap.01, in frames of 255 bytes at most, and goes by the answer's third
-// frame. A sender has proved by then that it has the secret key to the public one in the question.
+// Admission: ZeroMQ sends requests to inproc://zeromq.zap.01, in frames of at most 255 bytes, and obeys the third frame
+// of the answer. By then the sender has proved that it holds the secret key of the public key in the request.
 
 enum { VERSION, REQUEST, DOMAIN, ADDRESS, IDENTITY, MECHANISM, CREDENTIALS, QUESTION_FRAMES };
 
@@ -84,8 +84,7 @@ struct Admission {
 
 constinit Admission admission{};
 
-// False at the end of the context, and when ZeroMQ has failed. Frames that no question has are read over, and `count`
-// tells.
+// Returns false at the end of the context or if ZeroMQ fails. Surplus frames are discarded, but `count` includes them.
 [[nodiscard]] bool read_question(Frame (&frames)[QUESTION_FRAMES + 1], int& count)
 {
     int more = 1;
@@ -121,10 +120,10 @@ void* admit(void*)
         zmq_send(admission.socket, "1.0", 3, ZMQ_SNDMORE);
         zmq_send(admission.socket, question[REQUEST].bytes, question[REQUEST].length, ZMQ_SNDMORE);
         zmq_send(admission.socket, good ? "200" : "400", 3, ZMQ_SNDMORE);
-        for (int rest = 0; rest < 3; ++rest)   // a text, the user's name and properties
+        for (int rest = 0; rest < 3; ++rest)   // status text, user name and properties
             zmq_send(admission.socket, "", 0, rest < 2 ? ZMQ_SNDMORE : 0);
     }
-    // The socket stays until all others are closed: with nobody to ask, ZeroMQ would admit everyone who knows the
+    // The socket stays open until all others are closed: without it, ZeroMQ would admit everyone who knows the
     // receiver's key.
     return nullptr;
 }
@@ -133,7 +132,7 @@ void* admit(void*)
 
 bool read_keys(FILE* file, const char* name, Keys& keys)
 {
-    // Only whole lines are comments, as # may belong to a key.
+    // Only whole lines are comments, because a key may contain #.
     const bool good = read_lines(file, name, false, "", [&](const Words& words) { return read_key_line(words, keys); });
     if (good && keys.secret_key[0] == '\0')
         fprintf(stderr, "%s: no secret key\n", name);
@@ -154,7 +153,7 @@ bool start_admission(void* zeromq, const Keys& keys)
     admission.socket = zmq_socket(zeromq, ZMQ_REP);
     if (admission.socket == nullptr)
         return false;
-    sigset_t all, before;   // signals are the program's, and for its own threads
+    sigset_t all, before;   // signals are for the program's own threads only
     sigfillset(&all);
     pthread_sigmask(SIG_SETMASK, &all, &before);
     const bool started = zmq_bind(admission.socket, "inproc://zeromq.zap.01") == 0 &&

@@ -1,5 +1,4 @@
-// The file that says with which keys this process sends and receives, and who may send to it; docs/over-zeromq.md
-// describes it.
+// The file with the keys that this process uses and the senders that it admits; docs/over-zeromq.md describes it.
 #ifndef KESTO_PLATFORM_ZEROMQ_KEYS_H
 #define KESTO_PLATFORM_ZEROMQ_KEYS_H
 
@@ -8,7 +7,7 @@
 
 #include "platform/zeromq/endpoints.h"
 
-enum { KEY_BYTES = 32, KEY_ROOM = 41 };   // a key, and its text with a NUL
+enum { KEY_BYTES = 32, KEY_ROOM = 41 };   // of a key, and of its text with the NUL
 
 struct Receiver {
     char address[ENDPOINT_ROOM];
@@ -17,25 +16,25 @@ struct Receiver {
 
 struct Keys {
     char secret_key[KEY_ROOM];
-    char public_key[KEY_ROOM];   // follows from the secret one
+    char public_key[KEY_ROOM];   // derived from the secret key
     uint8_t senders[MOST_ENDPOINTS][KEY_BYTES];
     uint32_t sender_count;
     Receiver receivers[MOST_ENDPOINTS];
     uint32_t receiver_count;
 };
 
-// False after a line on stderr under `name`, when a line is not understood or none has the secret key: then nothing may
-// be opened.
+// If a line is malformed or the secret key is missing, prints a line on stderr under `name` and returns false; then no
+// socket may be opened.
 [[nodiscard]] bool read_keys(FILE* file, const char* name, Keys& keys);
 
-// The public key of the receiver at `address`; null when no line has it.
+// The public key of the receiver at `address`; null if no line has it.
 const char* receiver_key(const Keys& keys, const char* address);
 
-// Call before the first socket is opened. From then on a thread tells ZeroMQ which senders `keys` admit, until the
-// context ends.
+// Must be called before the first socket is opened. Starts a thread that tells ZeroMQ which senders `keys` admit, until
+// the context is shut down. `keys` must outlive the thread.
 [[nodiscard]] bool start_admission(void* zeromq, const Keys& keys);
 
-// Call once the context has been shut down, and before it is terminated. Waits for that thread, if there is one.
+// Must be called after the context has been shut down and before it is terminated. Waits for the thread, if any.
 void end_admission();
 
 #endif

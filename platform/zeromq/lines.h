@@ -1,4 +1,4 @@
-// The files that say where channels are and who may send: words between blanks, one thing a line.
+// The common syntax of the map and the key file: one entry per line, words separated by blanks.
 #ifndef KESTO_PLATFORM_ZEROMQ_LINES_H
 #define KESTO_PLATFORM_ZEROMQ_LINES_H
 
@@ -6,12 +6,12 @@
 #include <stdlib.h>
 #include <string.h>
 
-// One more than any line has; null after the last one.
+// One element more than the longest entry has words; the elements after the last word are null.
 using Words = const char* [6];
 
-// Hands the words of each line that has some to `take`, which returns null or what is wrong with them. That is said on
-// stderr, with the `consequence`, and the result is false then. A comment is a line that starts with #, or with
-// `inside` what follows a # anywhere.
+// Passes the words of each nonempty line to `take`, which returns null or a text that says what is wrong with them. The
+// text is printed on stderr, followed by `consequence`, and the result is false then. A line that starts with # is a
+// comment; with `inside`, so is the rest of a line after any #.
 template <typename Take>
 bool read_lines(FILE* file, const char* name, bool inside, const char* consequence, Take take)
 {

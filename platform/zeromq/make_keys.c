@@ -1,4 +1,4 @@
-/* Prints a new pair of keys, as lines for the files of docs/over-zeromq.md. */
+/* Prints a new key pair, as lines for the files that docs/over-zeromq.md describes. */
 #include <stdio.h>
 #include <zmq.h>
 

@@ -1,7 +1,7 @@
-// Channels over ZeroMQ: one PULL socket for what a channel receives, one PUSH socket for each place it sends to. An
-// item is one message part, head and bytes as on the stand-in's sockets, and the items of one call are one message,
-// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS a socket talks only to peers whose keys it
-// knows.
+// Channels over ZeroMQ: a channel has one PULL socket for receiving and one PUSH socket for each place that it sends
+// to. An item is one message part, head and bytes as on the stand-in's sockets. The items of one call form one message,
+// which ZeroMQ carries as a whole or not at all. With MESH_ZEROMQ_KEYS a socket communicates only with peers whose keys
+// it knows.
 
 #include <algorithm>
 #include <errno.h>
@@ -19,10 +19,10 @@ constexpr uint32_t sealing = 64;   // more than encryption adds to a part
 constexpr int patience_ms =
     5000;   // for a receiver to appear or to make room, and at the end for what is still to leave
 
-// A place with its socket, which one thread uses at a time.
+// An endpoint with its socket, which only one thread may use at a time.
 struct Place {
     Endpoint endpoint;
-    void* socket;   // null when it could not be opened
+    void* socket;   // null if it could not be opened
     pthread_mutex_t mutex;
 };
 
@@ -46,11 +46,11 @@ void set(void* socket, int option, int value) { zmq_setsockopt(socket, option, &
     if (endpoint.receives) {
         set(socket, ZMQ_CURVE_SERVER, 1);
         return set_key(socket, ZMQ_CURVE_SECRETKEY, keys.secret_key) &&
-               zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4) == 0;   // nobody is admitted unasked
+               zmq_setsockopt(socket, ZMQ_ZAP_DOMAIN, "mesh", 4) == 0;   // so that every sender needs admission
     }
     const char* const receiver = receiver_key(keys, endpoint.address);
     if (receiver == nullptr) {
-        errno = EACCES;   // no line has its key
+        errno = EACCES;   // no line has the receiver's key
         return false;
     }
     return set_key(socket, ZMQ_CURVE_SERVERKEY, receiver) && set_key(socket, ZMQ_CURVE_PUBLICKEY, keys.public_key) &&
@@ -69,12 +69,12 @@ void* open_socket(const Endpoint& endpoint)
     void* const socket = zmq_socket(zeromq, endpoint.receives ? ZMQ_PULL : ZMQ_PUSH);
     if (socket == nullptr)
         return nullptr;
-    // The limit is per part, and a longer one ends the connection. ZeroMQ has none for a message of many parts.
+    // The limit is per part, and a longer part ends the connection. ZeroMQ does not limit a message of many parts.
     const int64_t longest = packet_head + MESH_STANDIN_ITEM_BYTES + (with_keys ? sealing : 0);
     zmq_setsockopt(socket, ZMQ_MAXMSGSIZE, &longest, sizeof longest);
     set(socket, ZMQ_LINGER, patience_ms);
     set(socket, ZMQ_SNDTIMEO, patience_ms);
-    set(socket, ZMQ_IMMEDIATE, 1);   // a receiver that has not appeared yet keeps the sender waiting; nothing is queued
+    set(socket, ZMQ_IMMEDIATE, 1);   // until a receiver has appeared, the sender waits; nothing is queued
     if (connect_socket(socket, endpoint))
         return socket;
     fprintf(stderr, "MESH over ZeroMQ: %s: %s\n", endpoint.address, zmq_strerror(errno));
@@ -82,7 +82,7 @@ void* open_socket(const Endpoint& endpoint)
     return nullptr;
 }
 
-// Without keys that were asked for, no socket is opened.
+// Returns false if keys were requested and cannot be used; then no socket may be opened.
 [[nodiscard]] bool prepare_keys()
 {
     const char* const name = getenv("MESH_ZEROMQ_KEYS");
@@ -120,7 +120,7 @@ void open_all()
     }
 }
 
-// What was sent last is given time to leave. A child after a fork has nothing to close: ZeroMQ stayed with its parent.
+// The latest messages get time to leave. A child after a fork has nothing to close: the sockets are its parent's.
 [[gnu::destructor]] void close_all()
 {
     if (opener != getpid())
@@ -160,7 +160,8 @@ int result_of_errno()
     }
 }
 
-// The parts of one message. All are made before the first one is sent, as what has begun cannot be taken back.
+// The parts of one message. All are made before the first one is sent, because a message cannot be taken back once
+// begun.
 struct Parts {
     explicit Parts(uint32_t count) : all(static_cast<zmq_msg_t*>(calloc(count, sizeof(zmq_msg_t)))) {}
     ~Parts()
@@ -223,7 +224,7 @@ int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t d
     return result;
 }
 
-// Waits for the socket's turn as well as for the packet.
+// Waits for exclusive use of the socket as well as for the packet.
 int receive(uint32_t channel, uint64_t deadline, uint8_t* packet, uint32_t capacity, uint32_t& length)
 {
     Place* const place = find_place(channel, true, 0);

@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# Compares the binary interface of a library built with -g with the one that was committed: exported functions, their
-# parameters, every record's size, fields and offsets.
+# Compares the binary interface of a library built with -g with the committed one: exported functions, their parameters,
+# and every record's size, fields and offsets.
 #
-#   abi.sh BASELINE LIBRARY            a difference ends it with 1
+#   abi.sh BASELINE LIBRARY            exits with 1 on a difference
 #   abi.sh --write BASELINE LIBRARY    makes LIBRARY's interface the baseline
 set -euo pipefail
 if [ "$1" = --write ]; then
-    # Without what says nothing of the interface: places in sources, names of parameters, folders.
+    # Omits details that are not part of the interface: source locations, parameter names, folders.
     abidw --no-show-locs --no-parameter-names --no-corpus-path --no-comp-dir-path --exported-interfaces-only "$3" |
         gzip -9n >"$2"
     echo "$2 written: $(zcat "$2" | grep -c '<function-decl') functions"

@@ -17,7 +17,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 sys.dont_write_bytecode = True
 sys.path.append(os.path.join(ROOT, "tests"))
-import exceptions   # noqa: E402, the one beside this folder
+import exceptions   # noqa: E402, the module in the parent folder
 
 build = os.path.abspath(sys.argv[1])
 lines = collections.defaultdict(int)              # (file, line) -> how often

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Compiles the C code of the documents. A block is a whole source file; where the line above it is a comment
-# <!-- c: PARAMETERS -->, it is the body of a function with these parameters.
+# Compiles the C code of the documents. A block is a whole source file, unless the line above it is a comment
+# <!-- c: PARAMETERS -->; then it is the body of a function with these parameters.
 #
 #   documents.sh SOURCE_FOLDER
 set -euo pipefail

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the examples that come with their output, and compares. Pairs of programs talk over a socket.
+# Runs the examples that have an expected output and compares. Pairs of programs communicate over a socket.
 #
 #   examples.sh PROGRAM_FOLDER EXPECTED_FOLDER [emulator]...
 set -uo pipefail
@@ -12,12 +12,13 @@ failed=0
 
 run() { timeout 60 ${emulator[@]+"${emulator[@]}"} "$programs/$@"; }
 
-# $1: the name of the expected output; the actual one is read.
+# $1: name of the expected output. The actual output is read from standard input.
 compare() {
     diff -u "$expected/$1.txt" - || { echo "FAILED: $1"; failed=1; }
 }
 
-# The receiver listens, the sender comes; what both print, the receiver first. $1 receiver, $2 sender, then its arguments.
+# Starts the receiver, then the sender; compares the output of both, the receiver's first. $1 receiver, $2 sender, then
+# the sender's arguments.
 pair() {
     local receiver=$1 sender=$2 result=0
     shift 2

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# How a built library or program is hardened: hardening.sh FILE [READELF OBJDUMP]. Ends with 1 when something is missing.
-# Some checks are for libifit_codec.so alone.
+# Checks the hardening of a built library or program: hardening.sh FILE [READELF OBJDUMP]. Exits with 1 if something is
+# missing. Some checks apply only to libifit_codec.so.
 set -euo pipefail
 library=$1 readelf=${2:-readelf} objdump=${3:-objdump}
 missing=0
@@ -25,7 +25,7 @@ if [[ $library = */libifit_codec.so* ]]; then
     require "flag that keeps it mapped" NODELETE "$dynamic"
     of_codecs=", kept mapped"
     if [ "$objdump" != none ]; then
-        # Copies and clears of a size known when compiled are moves, never string instructions; see core/copy.h.
+        # Copies and clears of compile-time size use moves, never string instructions; see core/copy.h.
         if $objdump -d "$library" | grep 'rep \(stos\|movs\)' >/dev/null; then
             echo "$library: string instructions"
             missing=1

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Compiles each public header by itself, twice over, for every language that it promises.
+# Compiles each public header on its own, included twice, in every language standard that it supports.
 #
 #   headers.sh SOURCE_FOLDER C_COMPILER C++_COMPILER
 set -euo pipefail

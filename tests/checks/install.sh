@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs a build, moves what was installed, and builds and runs programs that have nothing else: by CMake and by
-# pkg-config, in C and in C++, with a MESH of their own and with the stand-in. Then the same programs with the sources
-# taken along.
+# Installs a build, moves the installation, and builds and runs programs that use only this: with CMake and pkg-config,
+# in C and C++, with their own MESH and with the stand-in. Then builds the same programs with the library's sources
+# included.
 #
 #   install.sh BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
@@ -19,13 +19,14 @@ quietly() {
     "$@" >"$work/log" 2>&1 || { cat "$work/log"; fail "$*"; }
 }
 
-# The rest of the line has to fail, and to say $1.
+# The given command must fail and print $1.
 fails_with() {
     "${@:2}" >"$work/log" 2>&1 && fail "this works: ${*:2}"
     grep -q "$1" "$work/log" || { cat "$work/log"; fail "${*:2}"; }
 }
 
-# Both consumers in folder $1 have to say what they were sent. The length is that of docs/wire-format.md's rules: 28.
+# Both consumers in folder $1 must print what they were sent. The length of 28 follows from the rules in
+# docs/wire-format.md.
 runs_well() {
     local says='message 0x91cd149e of 28 bytes says "hello"'
     [ "$("$1/consumer_c")" = "$says" ] && [ "$("$1/consumer_cpp")" = "$says" ] || fail "the consumers in $1"
@@ -43,7 +44,7 @@ quietly cmake -G Ninja -S "$consumer" -B "$work/package" -DIFIT_CODEC_FROM=find_
 quietly cmake --build "$work/package"
 runs_well "$work/package"
 
-# MESH from the stand-in; without it the errors are those that README.md and docs/integrating.md name.
+# MESH from the stand-in. Without it, the errors are those that README.md and docs/integrating.md quote.
 with_standin=(-G Ninja -S "$consumer" -DIFIT_CODEC_FROM=find_package -DCMAKE_PREFIX_PATH="$here"
     -DIFIT_CODEC_COMPONENTS=zervamesh)
 quietly cmake "${with_standin[@]}" -B "$work/standin"
@@ -71,8 +72,8 @@ quietly c++ -std=c++11 "${compile[@]}" "$consumer/consumer.cpp" "$work/pkgconfig
 runs_well "$work/pkgconfig"
 echo "installed and moved: find_package and pkg-config, C and C++"
 
-# With the sources. FetchContent ends in an add_subdirectory, so one of the two is built; with the module that is
-# used alone.
+# Builds with the sources, only with the module that is used. FetchContent ends in an add_subdirectory, so only one of
+# the two is built.
 for way in add_subdirectory FetchContent; do
     quietly cmake -G Ninja -S "$consumer" -B "$work/$way" -DIFIT_CODEC_FROM=$way -DIFIT_CODEC_SOURCES="$sources" \
         -DCMAKE_BUILD_TYPE=None -DKESTO_MODULES=ifit_dfx

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the library once more, in a folder of another name and depth, and compares the bytes, with debugging information
-# and stripped. LIBRARY has been built with it.
+# Builds the library again in a folder of another name and depth, and compares the bytes, with debugging information
+# and stripped. LIBRARY must have been built with debugging information.
 #
 #   reproducible.sh SOURCE_FOLDER LIBRARY
 set -euo pipefail

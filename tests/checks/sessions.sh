@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Runs the sessions of a document in their order and compares what they print. In an indented block a line that begins
-# with "$ " is a command, which goes on after a backslash; what follows is its output, "..." any number of lines. Empty
-# lines do not count. Ends with 77 where no tshark is installed for the commands that need it.
+# Runs the sessions of a document in order and compares their output. In an indented block, a line that begins with "$ "
+# is a command, which continues after a backslash; the lines after it are its output, where "..." matches any number of
+# lines. Empty lines are ignored. Exits with 77 if tshark is not installed for the commands that need it.
 #
 #   sessions.sh DOCUMENT PROGRAM_FOLDER
 set -uo pipefail
@@ -13,7 +13,7 @@ PATH=$2/tools/kesto:$PATH
 export LC_ALL=C.UTF-8
 command="" expected="" pattern="" failed=0 left_out=0 count=0
 
-# The command that was read last, with the output that was read for it.
+# Runs the last command that was read and compares its output.
 compare() {
     [ -n "$command" ] || return
     if [ "${command%% *}" = tshark ] && ! type tshark >/dev/null 2>&1; then

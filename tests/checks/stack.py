@@ -15,7 +15,7 @@ OPERATION = "(__unpack|_free__unpacked|__pack|__sendsingle|__sendbatch|__sendmsg
 NODE = re.compile(r'node: \{ title: "(.*?)" label: ".*\\n(\d+) bytes \((.*?)\)')
 EDGE = re.compile(r'edge: \{ sourcename: "(.*?)" targetname: "(.*?)"(?: label: "(.*?):(\d+):\d+")?')
 SERVICE = re.compile(r"\b(allocate|release)\(")
-# These, and what is called through a pointer, may lead to one another. The catalogue bounds how often: by its nesting.
+# These functions and those called through pointers may be mutually recursive. The catalogue's nesting bounds the depth.
 NESTED = re.compile(r"_ZN5kesto\d+(decode_any_nested|clear_and_decode_nested|release_record)E")
 ANY = "__indirect_call"
 
@@ -30,7 +30,7 @@ def nesting():
     return max(depth.values())
 
 
-# A call through a pointer that leads to a service of the process.
+# True for a call through a pointer to a service of the process.
 def leaves_the_library(file, line):
     return file.endswith("core/unit.cpp") or SERVICE.search(pathlib.Path(file).read_text().splitlines()[int(line) - 1])
 
@@ -60,7 +60,7 @@ def template(name):
     return name.split(":")[-1].split("I")[0]
 
 
-# What is never called by its name is called through a pointer, and so may be all that is made from the same template.
+# A function that is never called by name is called through a pointer; so may be all instances of the same template.
 named = set().union(*calls.values())
 pointed = {template(f) for f in frames if f not in named and not operation(f)} | {"_ZN5kesto11send_single"}
 targets = {side: [f for f in frames if template(f) in pointed and half[f] == side] for side in (False, True)}

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# sender and receiver of examples/ over ZeroMQ in place of the stand-in's sockets: in two processes, without and with
-# keys.
+# Runs sender and receiver of examples/ over ZeroMQ instead of the stand-in's sockets: in two processes, without and
+# with keys.
 #
 #   zeromq.sh LIBRARY PROGRAM_FOLDER EXPECTED_OUTPUT
 set -uo pipefail
@@ -12,7 +12,7 @@ echo "1 receive $address" >"$work/far.map"
 echo "1 send $address" >"$work/near.map"
 failed=0
 
-# $1: file that says where channels are, then the program. Ends what hangs.
+# $1: file with the channel map, then the program. Stops a program that hangs.
 over_zeromq() {
     local map=$1
     shift
@@ -30,14 +30,14 @@ start_receiver() {
     pid=$!
 }
 
-# The sender with keys $1 says the last words, and the receiver has to have heard what is expected.
+# The sender with keys $1 sends the last text, and the receiver must have received the expected ones.
 finish() {
     sender_with "$1" "good morning" "" bye || failed=1
     wait $pid || failed=1
     diff -u "$expected" <(grep -v "still here" "$work/far") || failed=1
 }
 
-# $1: file of keys with which the sender must fail, saying a line that matches $2.
+# $1: file of keys with which the sender must fail and print a line that matches $2.
 expect_refused() {
     sender_with "$1" "refused" 2>"$work/refused" && { echo "FAILED: $1 is admitted"; failed=1; }
     grep -q "$2" "$work/refused" || { echo "FAILED: $1: $(cat "$work/refused")"; failed=1; }
@@ -57,7 +57,7 @@ done
 (cat "$work/admitted.keys" &&
     printf '%s\n' "secret short" "sender ${other}x" "receiver $other" "key 1") >"$work/bad.keys"
 
-# Those who lack a key try for as long as they have patience; the admitted one keeps the receiver from losing its own.
+# Senders without the right key try until they time out; the admitted one keeps the receiver from timing out meanwhile.
 start_receiver "$work/receiver.keys"
 tries=()
 for keys in "$work/stranger.keys" "$work/misled.keys" ""; do

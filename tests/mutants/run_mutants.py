@@ -35,19 +35,19 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 ROOT = os.path.dirname(os.path.dirname(HERE))
 sys.dont_write_bytecode = True
 sys.path.append(os.path.join(ROOT, "tests"))
-import exceptions   # noqa: E402, the one beside this folder
+import exceptions   # noqa: E402, the module in the parent folder
 FILES = ["wire.h", "lanes.h", "copy.h", "layout.h", "image.h", "image_forms.h", "decode.h", "decode.cpp", "decode_fast.h",
          "measure.h", "pack.h", "send.h", "send.cpp", "unit.h", "unit.cpp", "registration.cpp", "receive_unit.h", "send_unit.h"]
 TESTS = ["codec_test", "services_test", "large_test", "first_use_test", "unwinding_test"]
-LAST = ["exhaustive_test", "proof_test"]   # only where the others noticed nothing
+LAST = ["exhaustive_test", "proof_test"]   # only if the others noticed nothing
 
-# A constant that is off can make the compiler take all there is, and the core dump of a test that crashes may be as large
-# as all memory that it maps. CPU seconds do not depend on what else runs here.
+# A wrong constant can make the compiler use all memory, and the core dump of a crashing test may be as large as all the
+# memory that it maps. CPU seconds do not depend on the machine's load.
 OF_COMPILER = {resource.RLIMIT_AS: 2 << 30}
 OF_TEST = {resource.RLIMIT_CORE: 0, resource.RLIMIT_CPU: 60}
-MOST_SECONDS = 600   # of any process, should it wait for something
+MOST_SECONDS = 600   # wall-clock limit of any process, in case it waits for something
 
-# What is looked for in a line without its comment, and what it becomes.
+# Patterns searched in a line without its comment, and their replacements.
 CHANGES = [
     (r" < ", " <= "), (r" <= ", " < "), (r" > ", " >= "), (r" >= ", " > "),
     (r" == ", " != "), (r" != ", " == "), (r" && ", " || "), (r" \|\| ", " && "),
@@ -57,15 +57,15 @@ CHANGES = [
     (r"\btrue\b", "false"), (r"\bfalse\b", "true"),
     (r"^(\s+)(?!return|using|const |constexpr|static|if|for|else|case)[a-z_:]+[^=;{}]*\(.*\);$", r"\1;"),
 ]
-# Lines without behaviour of their own.
+# Lines without run-time behaviour.
 LEFT_OUT = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
 
 
 def runs_here(lines):
     """(number, line, narrow) of those that are not for hosts of the other byte order alone, which no test here runs. What
     only hosts with narrow registers run is narrow."""
-    choice = other = None   # indents: of the choice between two hosts, and of the branch that is not taken here
-    narrow = False          # whether that branch is for narrow registers
+    choice = other = None   # indents: of the host-dependent branch, and of its side that is not taken here
+    narrow = False          # whether that side is for narrow registers
     for number, line in enumerate(lines):
         indent = len(line) - len(line.lstrip())
         if other is not None and line.strip() and indent <= other:
@@ -95,7 +95,7 @@ def mutants_of(path, narrow=False):
         for pattern, replacement in CHANGES:
             for match in re.finditer(pattern, code):
                 if '"' in code[:match.start()] or re.search(r"<[a-z_:0-9 ]*$", code[:match.start()]):
-                    continue   # in a text, or an argument of a template more often than a comparison
+                    continue   # in a string, or more likely a template argument than a comparison
                 changed = code[:match.start()] + match.expand(replacement) + code[match.end():]
                 found.append((number, code, changed + line[len(code):]))
     return found
@@ -158,7 +158,7 @@ class Tree:
     """A copy of the sources and a build of its library."""
 
     def __init__(self, folder, tests, toolchain, thorough):
-        self.thorough = thorough   # every program, whatever the others say
+        self.thorough = thorough   # runs every program, whatever the others report
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
         self.tests = tests
@@ -172,7 +172,7 @@ class Tree:
             sys.exit("configure failed")
 
     def run_test(self, test):
-        # The tests find the library by the path that they were linked with, unless this one comes first.
+        # The tests find the library by the path that they were linked with, unless this path comes first.
         return run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST, cwd=self.root,
                    env=dict(os.environ, LD_LIBRARY_PATH=self.build, KESTO_SHARE="1/25"))
 
@@ -181,7 +181,7 @@ class Tree:
         with open(os.path.join(self.tests, "compile_commands.json")) as file:
             commands = [shlex.split(each["command"]) + [each["file"]] for each in json.load(file)
                         if "proof_test.dir" in each["command"]]
-        if not commands:   # the proof is for this machine alone
+        if not commands:   # the proof exists only in native builds
             return "passed"
         objects = []
         for command in commands:
@@ -201,7 +201,7 @@ class Tree:
         if run(["ninja", "-j1", "-C", self.build, "ifit_codec"], OF_COMPILER) != "passed":
             return "not built", ["compiler"]
         by = []
-        for test in sorted(TESTS + LAST, key=lambda test: test not in first):   # else in their order
+        for test in sorted(TESTS + LAST, key=lambda test: test not in first):   # the others in their order
             if by and (test in LAST or not self.thorough) or test == "proof_test" and name not in ("wire.h", "lanes.h"):
                 continue
             result = self.run_proof() if test == "proof_test" else self.run_test(test)

@@ -1,8 +1,8 @@
-// What each primitive of core/wire.h relies on and what it promises, proved for every length and every byte string.
+// The preconditions and guarantees of each primitive of core/wire.h, proved for every length and every byte string.
 //
-// What one promises and the next relies on is one function, with the role as its argument: so the contracts chain.
-// Expected results are formed as the wire format says them, in numbers that do not wrap. Each contract is a program
-// that returns a number for what it came to, so that a proof that has lost its subject shows.
+// A guarantee of one primitive and the precondition of the next are one function with the role as its argument, so that
+// the contracts chain. Expected results follow the definitions of the wire format, in numbers that do not wrap. Each
+// contract is a program that returns a number for its outcome, so that a proof that has become vacuous is detected.
 
 #include <gtest/gtest.h>
 
@@ -16,7 +16,7 @@
 namespace kesto::proof {
 namespace {
 
-// ---- what is known between two primitives ----
+// ---- facts that hold between two primitives ----
 
 using View = TableView<SymbolicInput>;
 
@@ -70,7 +70,7 @@ void fitting_payload(SymbolicWorld& world, Role role, const Word& payload, const
     world.state(role, wide(payload) + wide(count) * width <= wide(world.input().length), "the payload lies inside");
 }
 
-// Of an image whose own bytes lie inside: what they leave for its bodies is `room`.
+// For an image whose own bytes lie inside: `room` is the number of bytes left for its bodies.
 void bytes_are_left(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& room)
 {
     world.state(role, wide(at) + wide(n) + wide(room) <= wide(world.input().length), "all that is left lies inside");
@@ -81,7 +81,7 @@ Truth cell_lies_inside(SymbolicWorld& world, const View& view, const Word& offse
     return wide(view.table) + wide(offset) + cell_bytes <= wide(world.input().length);
 }
 
-// Where a cell leads to, without a wrap.
+// The position that a cell leads to, without wrapping.
 Exact target_of(SymbolicWorld& world, const Exact& cell) { return cell + wide(world.input().content<u32>(cell)); }
 
 // ---- the contracts ----
@@ -93,7 +93,7 @@ int root_is_the_first_word(SymbolicWorld& world)
     return 0;
 }
 
-// For any table position at all.
+// For every table position.
 int table_is_opened(SymbolicWorld& world)
 {
     const SymbolicInput in = world.input();
@@ -102,7 +102,7 @@ int table_is_opened(SymbolicWorld& world)
     const TableFault fault = open_table(in, table, view);
 
     const Exact length = wide(in.length);
-    const Word vtable = table - in.content<u32>(wide(table));   // modulo 2^32, as the format says
+    const Word vtable = table - in.content<u32>(wide(table));   // modulo 2^32, as the format defines
     const Word vtable_length = in.content<u16>(wide(vtable));
     const Truth table_legal = (table >= 4) & (wide(table) + 4 <= length);
     const Truth vtable_legal = (vtable >= 4) & (wide(vtable) + 4 <= length);
@@ -112,7 +112,7 @@ int table_is_opened(SymbolicWorld& world)
     world.promise((fault == TableFault::vtable_length) == (table_legal & vtable_legal & !vtable_whole),
                   "vtable length");
 
-    // The log of a fault prints these.
+    // The log of a fault prints these values.
     world.promise(view.table == table, "the view has the table");
     if (fault == TableFault::vtable_length || fault == TableFault::none) {
         world.promise(view.vtable == vtable, "the view has the vtable");
@@ -179,7 +179,7 @@ int bytes_are_held(SymbolicWorld& world)
     return held;
 }
 
-// For any image of up to 64 KiB, and any part of it before the table.
+// For every image of up to 64 KiB, and every size of the part before the table.
 int image_lies_inside(SymbolicWorld& world)
 {
     const SymbolicInput in = world.input();
@@ -267,7 +267,7 @@ int payload_lies_inside(SymbolicWorld& world)
     return 1;
 }
 
-// For any number of elements that the record has.
+// For every number of elements in the record.
 template <class T>
 int array_is_read(SymbolicWorld& world)
 {
@@ -323,7 +323,7 @@ int element_table_is_found(SymbolicWorld& world)
 struct Contract {
     const char* name;
     int (*program)(SymbolicWorld&);
-    std::size_t outcomes;   // how many the program can come to; with fewer the proof has lost a part of its subject
+    std::size_t outcomes;   // number of possible outcomes; with fewer the proof has lost a part of its subject
 };
 
 const Contract contracts[] = {
@@ -357,7 +357,7 @@ TEST(Reader, keeps_its_contracts_for_every_length_and_every_byte_string)
     }
 }
 
-// Also shows that a proof can fail.
+// Also tests that a proof can fail.
 TEST(Reader, relies_on_the_least_length)
 {
     EXPECT_NE(SymbolicWorld(least_length - 1).explore(root_is_the_first_word).counterexample, "");
@@ -365,10 +365,11 @@ TEST(Reader, relies_on_the_least_length)
 
 // ---- many fields at once ----
 
-// What a lane of a word tells apart, and a wide one. Not the names in wire.h: those are what is looked at here.
+// The largest value that a lane of a word can handle, and that of a wide lane. The names in wire.h are not used here,
+// as they are under test.
 constexpr unsigned word_room = 0x7FFF, wide_room = 0xFFFE;
 
-// No lane is said to be beyond if and only if every field is inside.
+// No lane is reported as beyond if and only if every field is inside.
 bool lanes_are_proved(unsigned bits, unsigned greatest_room)
 {
     constexpr unsigned widest = 8;
@@ -397,7 +398,7 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
     }
 }
 
-// How the words of scalars_fit are made of a vtable: every slot, at the edges of what can be told apart.
+// Tests how scalars_fit builds its words from a vtable: every slot, at the limits of what a lane can distinguish.
 template <std::size_t N>
 void expect_every_slot_to_be_bounded()
 {
@@ -408,7 +409,7 @@ void expect_every_slot_to_be_bounded()
         Widths<N> widths{{}, static_cast<u8>(width)};
         widths.of[k] = static_cast<u8>(width);
         store(bytes.data() + 4 + 2 * k, static_cast<u16>(offset));
-        const bool matters = N >= 4 || width != 0;   // in lanes all offsets are looked at
+        const bool matters = N >= 4 || width != 0;   // in lanes all offsets are tested
         const bool fits = room >= width && (!matters || offset + width <= std::min(room, greatest_room));
         const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};
         ASSERT_EQ(scalars_fit(in, view, widths), fits)

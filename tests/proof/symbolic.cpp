@@ -8,7 +8,7 @@ namespace {
 
 SymbolicWorld* under_way = nullptr;
 
-// A query that needs more has left the simple arithmetic that the reader is made of. Counts steps, not time.
+// Limit per query, in steps, not time. A query that needs more is beyond the simple arithmetic that the reader uses.
 constexpr unsigned most_solver_steps = 200'000'000;
 
 z3::expr within(const z3::expr& value, u64 range)
@@ -119,7 +119,7 @@ void SymbolicWorld::state(Role role, const Truth& condition, const char* what)
         return;
     }
     if (decided_ < decisions_.size())
-        return;   // proved on an earlier path that began with the same decisions
+        return;   // proved on an earlier path with the same initial decisions
     if (!possible(!condition.expression))
         return;
     path_.add(!condition.expression);

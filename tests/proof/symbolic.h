@@ -1,4 +1,4 @@
-// Words whose value is not known, and the exploration of every path that a program takes on them.
+// Words with unknown values, and the exploration of every path that a program takes with them.
 #pragma once
 
 #include <z3++.h>
@@ -14,7 +14,8 @@ namespace kesto::proof {
 
 z3::context& solver_context();
 
-// A condition. As a plain bool it is a decision: the path goes on with one answer, and another path takes the other.
+// A condition. Converting it to bool is a decision: the path continues with one answer, and another path takes the
+// other.
 struct Truth {
     z3::expr expression;
 
@@ -29,9 +30,9 @@ inline Truth operator==(const Truth& a, const Truth& b) { return Truth(a.express
 
 constexpr u64 word_range = u64{1} << 32;
 
-// The solver reckons in whole numbers, of which a Word is one below 2^32 with the arithmetic of a u32; an Exact does
-// not wrap. Whether a Word's sum wraps is a decision as well: on each path it is a plain sum, which is what the solver
-// is good at.
+// The solver uses integers. A Word is an integer below 2^32 with the arithmetic of a u32; an Exact does not wrap.
+// Whether a Word's sum wraps is a decision as well, so that on each path it is a plain sum, which the solver handles
+// well.
 template <bool wraps>
 struct Number {
     z3::expr expression;
@@ -74,7 +75,7 @@ inline Exact wide(const Word& value) { return Exact(value.expression); }
 
 class SymbolicWorld;
 
-// Stands for Input in the templates of core/wire.h: any bytes, any length. A read outside ends the proof.
+// Replaces Input in the templates of core/wire.h: any bytes, any length. A read outside ends the proof.
 struct SymbolicInput {
     using Word = proof::Word;
 
@@ -100,15 +101,15 @@ struct SymbolicInput {
         touch(wide(at), wide(count) * sizeof(T));
     }
 
-    // The value at a position, without a claim that it may be read: equal positions, equal values. Values that overlap
-    // have nothing to do with each other, which only makes more possible.
+    // The value at a position, without the claim that it may be read. Equal positions give equal values. Overlapping
+    // values are unrelated, which only allows more cases.
     template <class T>
     Word content(const Exact& at) const
     {
         return content(at, sizeof(T));
     }
 
-    // The proof's duty: these bytes lie inside, in numbers that do not wrap, as addresses of 64 bits do not.
+    // Proof obligation: these bytes lie inside, in numbers that do not wrap, like 64-bit addresses.
     void touch(const Exact& at, const Exact& bytes) const;
 
 private:
@@ -116,14 +117,14 @@ private:
 };
 
 struct Verdict {
-    std::string counterexample;   // empty when proved: what was broken, and the length, words and values that do it
+    std::string counterexample;   // empty when proved; otherwise the violated claim, and the length, words and values
     std::set<int> outcomes;       // what the program returned, over all paths
 };
 
 enum class Role { promised, relied_on };
 
-// Runs a program once for every path, depth first. A path is the list of decisions on it; an answer that the path so
-// far excludes is never taken.
+// Runs a program once for every path, depth first. A path is a list of decisions; an answer that the earlier decisions
+// exclude is never taken.
 class SymbolicWorld {
 public:
     explicit SymbolicWorld(u32 least_length);
@@ -133,14 +134,14 @@ public:
 
     Verdict explore(int (*program)(SymbolicWorld&));
 
-    // For programs.
+    // Used by programs.
     SymbolicInput input() { return {this, length_}; }
     Word any();
     void state(Role role, const Truth& condition, const char* what);
     void promise(const Truth& condition, const char* what) { state(Role::promised, condition, what); }
     void rely(const Truth& condition, const char* what) { state(Role::relied_on, condition, what); }
 
-    // For words, conditions and inputs.
+    // Used by words, conditions and inputs.
     bool decide(const z3::expr& condition);
     void restrict(const z3::expr& condition) { path_.add(condition); }
 
@@ -159,7 +160,7 @@ private:
     Word length_;
     z3::solver path_;
     std::vector<Decision> decisions_;
-    std::size_t decided_ = 0;   // so many of them on the path so far
+    std::size_t decided_ = 0;   // number of them on the current path so far
     unsigned words_ = 0;
     Verdict verdict_;
 };

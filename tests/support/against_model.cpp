@@ -28,7 +28,7 @@ std::string first_difference(const ByteString& is, const ByteString& expected)
            "\n  expected " + model::to_hex(expected);
 }
 
-// Whether all bytes between fields are zero, as the record is cleared before it is filled.
+// True if all bytes between fields are zero, as the record is cleared before it is filled.
 bool gaps_are_zero(const model::Message& message, const std::uint8_t* record)
 {
     const model::MemoryView view(message, record);
@@ -55,7 +55,7 @@ bool gaps_are_zero(const model::Message& message, const std::uint8_t* record)
     return zero(end, layout.size);
 }
 
-// Without a search by name, which would take longer than a decode.
+// Avoids a search by name, which would take longer than a decode.
 const Operations& operations_of(const model::Message& message)
 {
     static const std::vector<const Operations*> by_number = [] {
@@ -75,8 +75,8 @@ std::string fault_of_encoders(const Operations& library, const model::Record& re
     const std::uint32_t size = model::reported_size(model::exact_size(record));
     services().start();
 
-    // Packed into a buffer of just the size, and with room for more, where the packer need not measure first. What the
-    // size counts and the packer does not write is left alone, and so is what comes after it.
+    // Packs into a buffer of exactly the size, and into a larger one, where the packer need not measure first. Bytes
+    // that the size counts but the packer does not write stay untouched, and so do the bytes after them.
     static const GuardedBuffer buffer(1 << 20);
     for (const std::uint32_t room : {size, static_cast<std::uint32_t>(buffer.most())}) {
         std::uint8_t* const packed = buffer.place(room);
@@ -93,7 +93,7 @@ std::string fault_of_encoders(const Operations& library, const model::Record& re
     if (library.pack(memory.data(), buffer.place(length), &length) != -1 || length != size - 1)
         return "packed with a byte too few";
 
-    // Sent: in fixed form where there is one, else compact with zeros for those bytes.
+    // Sends: in fixed form if there is one, otherwise in compact form with zeros for those bytes.
     expected = both_forms(record).back();
     if (message.fixed_length == 0)
         expected.resize(size, 0);
@@ -120,7 +120,7 @@ std::vector<ByteString> both_forms(const model::Record& record)
 
 GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 {
-    constexpr std::size_t guard = 0x20000;   // whole pages, and more than an offset of 16 bits leads over
+    constexpr std::size_t guard = 0x20000;   // whole pages, and larger than any 16-bit offset
     mapped_ = (most + guard - 1) / guard * guard + guard;
     void* const memory =
         mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
@@ -208,7 +208,7 @@ std::string DecodeCheck::compare(const Operations& library, std::uint32_t return
 std::string DecodeCheck::pack_again(const Operations& library, const std::uint8_t* record)
 {
     const std::uint64_t size = model::exact_size(outcome_.record);
-    if (model::reported_size(size) == 0) {   // a table whose refusal is ignored may leave such a record
+    if (model::reported_size(size) == 0) {   // an ignored refusal of a nested table may leave such a record
         auto length = static_cast<std::uint32_t>(packed_.most());
         return library.pack(record, packed_.place(length), &length) == -1 ? "" : "packed a vector without elements";
     }

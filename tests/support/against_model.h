@@ -1,4 +1,4 @@
-// Holds the library against the model, one message and one byte string or record at a time.
+// Compares the library with the model, for one message and one byte string or record at a time.
 #pragma once
 
 #include <cstdint>
@@ -18,10 +18,10 @@ using tools::Operations;
 
 using ByteString = std::vector<std::uint8_t>;
 
-// The compact form, and the fixed one where there is one.
+// The compact form, and the fixed form if there is one.
 std::vector<ByteString> both_forms(const model::Record& record);
 
-// A buffer that ends where memory does, so that a read after it ends the process.
+// A buffer that ends at an inaccessible page, so that a read after it ends the process.
 class GuardedBuffer {
 public:
     explicit GuardedBuffer(std::size_t most);
@@ -40,21 +40,21 @@ private:
     std::uint8_t* end_;
 };
 
-// Decodes byte strings with the library and with the model and compares records, logs, allocations and releases, of
-// the decoder and of the free after it.
+// Decodes byte strings with the library and the model, and compares records, logs, allocations and releases of the
+// decoder and of the subsequent free.
 class DecodeCheck {
 public:
     explicit DecodeCheck(std::size_t most_bytes = 1 << 20);
 
     model::AllocationFaults faults;
-    const model::Record* expected = nullptr;   // when set, what a decode must succeed with
-    bool packs_again = false;                  // also packs what was decoded, up to 64 KiB
+    const model::Record* expected = nullptr;   // if set, decoding must succeed with this record
+    bool packs_again = false;                  // also packs the decoded record, up to 64 KiB
 
-    // Both give what differs, empty where nothing does. `bytes` may be changed in place between calls of the second.
+    // Both return the difference; empty if there is none. `bytes` may be changed in place between calls of the second.
     std::string check(const model::Message& message, const ByteString& bytes);
     std::string check(const model::Message& message, const std::uint8_t* bytes, std::uint32_t length);
 
-    // The outcome of the model for the last one.
+    // The model's outcome for the last byte string.
     const model::Outcome& outcome() const { return outcome_; }
 
     const GuardedBuffer& buffer() const { return buffer_; }
@@ -69,7 +69,7 @@ private:
     model::Outcome outcome_;
 };
 
-// Packs and sends a record with the library and compares all bytes with the model's. Empty where nothing differs.
+// Packs and sends a record with the library and compares all bytes with the model's. Empty if there is no difference.
 std::string check_encoders(const model::Record& record);
 
 }   // namespace kesto::tests

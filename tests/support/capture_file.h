@@ -1,4 +1,4 @@
-// Capture files written out by hand, sound ones and others.
+// Builds capture files byte by byte, both valid and invalid ones.
 #pragma once
 
 #include <fstream>
@@ -31,7 +31,7 @@ inline void add_packet(Bytes& capture, const RawPacket& packet)
     capture.insert(capture.end(), packet.bytes.begin(), packet.bytes.end());
 }
 
-// A packet with id and stated length before `bytes`.
+// A packet with its id and stated length before `bytes`.
 inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes, std::size_t stated_length)
 {
     RawPacket packet;

@@ -1,4 +1,4 @@
-// A folder for each test, with a name for the stand-in's capture in it.
+// A folder for each test, with a path in it for the stand-in's capture.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// A program's run from a shell.
+// Runs a program through a shell.
 #pragma once
 
 #include <sys/wait.h>
@@ -9,8 +9,8 @@
 namespace kesto::tests {
 
 struct CommandResult {
-    int exit_code = -1;   // stays for a crash
-    std::string output;   // standard error, too
+    int exit_code = -1;   // unchanged after a crash
+    std::string output;   // including standard error
 };
 
 inline CommandResult run_command(const std::string& command)

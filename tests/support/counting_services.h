@@ -1,5 +1,5 @@
-// The test program's own memory and log services, which count their calls, from any number of threads. They are defined
-// here: for one source of a program.
+// The test program's own memory and log services. They count their calls, from any number of threads. They are defined
+// in this header, so only one source of a program may include it.
 #pragma once
 
 #include <atomic>
@@ -12,7 +12,7 @@
 namespace kesto::tests {
 
 inline std::atomic<std::uint32_t> flag_reads, allocated, released, logged;
-inline std::uint32_t use_flag = 1;   // what RVL_OsalMemUseFlagGet answers
+inline std::uint32_t use_flag = 1;   // result of RVL_OsalMemUseFlagGet
 inline std::function<void()> at_flag_read = [] {}, at_memory_call = [] {};
 
 }   // namespace kesto::tests

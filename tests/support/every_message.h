@@ -1,4 +1,4 @@
-// A test body for every message.
+// Runs a test body for every message.
 #pragma once
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #pragma once
-// The list of messages that was transcribed by hand, against which the library's own catalogue is held.
+// The expected catalogue: a list of messages transcribed by hand, which tests compare with the library's catalogue.
 
 #include <string>
 
@@ -7,7 +7,7 @@
 
 namespace kesto::tests {
 
-// Whether the build has all shipped modules. Tests of single messages may need one that is left out.
+// True if the build has all shipped modules. Tests of single messages may need one that is left out.
 #if defined(KESTO_WITHOUT_ifit_dfx) || defined(KESTO_WITHOUT_ifit) || defined(KESTO_WITHOUT_ifit_sync) || \
     defined(KESTO_WITHOUT_ntvifit)
 constexpr bool all_modules_built = false;
@@ -15,11 +15,11 @@ constexpr bool all_modules_built = false;
 constexpr bool all_modules_built = true;
 #endif
 
-// The messages that are written down in tests/data/messages.txt, which explains its lines, and tests/module/messages.txt:
-// those of the modules that are built. A list that cannot be read ends the process.
+// The messages of tests/data/messages.txt, which explains its lines, and tests/module/messages.txt, for the modules
+// that are built. If a list cannot be read, the process ends.
 const model::Catalogue& expected_catalogue();
 
-// Whether it is a message of a module that is not built. A name that no message has is none.
+// True for a message of a module that is not built, false for an unknown name.
 inline bool is_left_out(const std::string& name)
 {
     return !all_modules_built && expected_catalogue().find(name) == nullptr;

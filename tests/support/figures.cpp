@@ -14,7 +14,7 @@ using namespace model;
 
 u32 number(const std::string& text) { return static_cast<u32>(std::strtoul(text.c_str(), nullptr, 0)); }
 
-// The bytes that a figure is held against, and what is wrong with them.
+// The bytes that are compared with a figure, and the fault found in them.
 struct Subject {
     const Record& record;
     const Bytes& bytes;
@@ -63,7 +63,7 @@ void check_number(const std::string& argument, Subject& subject)
                        get(&subject.bytes[position], width));
 }
 
-// The content as it stands on the wire.
+// The content as stored on the wire.
 Bytes content_of(const Slot& slot, const Field& field)
 {
     Bytes content = field.octets;
@@ -195,7 +195,7 @@ std::string fault_in_bytes(const Figure& figure, const Record& record, const Byt
 
 std::string read_file(const std::string& path)
 {
-    // Not a stream: the memory sanitizer does not know what those have written.
+    // Does not use a stream, as the memory sanitizer does not track writes by streams.
     std::string content;
     if (std::FILE* const file = std::fopen(path.c_str(), "rb")) {
         for (int c; (c = std::fgetc(file)) != EOF;)

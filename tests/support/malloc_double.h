@@ -1,6 +1,7 @@
-// Watches the process's malloc and free while armed, and lets a malloc fail. The library's plain allocations are seen so.
+// Watches the process's malloc and free while armed, and can make a malloc fail. This shows the library's allocations
+// that do not use the services.
 //
-// Not in sanitized builds, whose run-time has its own malloc: there `malloc_double_works` is false.
+// Not available in sanitized builds, whose run-time has its own malloc: there `malloc_double_works` is false.
 #pragma once
 
 #include <cstddef>
@@ -16,18 +17,18 @@ constexpr bool malloc_double_works = true;
 
 struct MallocWatch {
     bool armed = false;
-    std::uint32_t fail_at = 0xFFFFFFFF;   // number of the malloc that gives null
-    bool all_after = false;               // and all that follow
+    std::uint32_t fail_at = 0xFFFFFFFF;   // number of the malloc that returns null
+    bool all_after = false;               // and all later ones
 
     std::uint32_t mallocs = 0;
-    std::uint32_t frees = 0;     // of other than null
-    std::size_t sizes[8] = {};   // what the first ones asked for
+    std::uint32_t frees = 0;     // of non-null pointers
+    std::size_t sizes[8] = {};   // sizes of the first requests
 };
 
-// Not synchronised: for tests of one thread.
+// Not synchronised: only for single-threaded tests.
 extern MallocWatch malloc_watch;
 
-// Watches from its construction to its end.
+// Watches during its lifetime.
 struct WatchMalloc {
     explicit WatchMalloc(std::uint32_t fail_at = 0xFFFFFFFF, bool all_after = false)
     {

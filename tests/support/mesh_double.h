@@ -1,4 +1,4 @@
-// The test process's own MESH: keeps what it was given, in order, and answers as told.
+// The test process's own MESH: records its calls in order and returns the configured results.
 #pragma once
 
 #include <cstdint>
@@ -9,7 +9,7 @@
 namespace kesto::tests {
 
 struct SentItem {
-    const std::uint8_t* data;   // the address that was sent; the bytes after it are gone by now
+    const std::uint8_t* data;   // the address that was sent; the bytes there are no longer valid
     std::uint32_t id;
     std::vector<std::uint8_t> bytes;
 };
@@ -36,7 +36,7 @@ struct MeshDouble {
     std::vector<Registered> registrations;
     std::vector<MeshClean> clean_hooks;
     int send_result = 0;
-    int register_result = 0;   // what the registration of number `register_fails_at` gives
+    int register_result = 0;   // result of the registration with number `register_fails_at`
     std::uint32_t register_fails_at = 0xFFFFFFFF;
     int clean_result = 0;
 

@@ -1,5 +1,5 @@
-// A message for the tests of the MESH stand-ins: any bytes, of which the record keeps a copy. A first byte of 0xff
-// fails the decode.
+// A message for the tests of the MESH stand-ins: arbitrary bytes, of which the record keeps a copy. Decoding fails if
+// the first byte is 0xff.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -16,7 +16,7 @@ namespace kesto::tests {
 
 using Lines = std::vector<std::string>;
 
-inline Lines seen;   // everything the consumer was given, one line a delivery
+inline Lines seen;   // everything delivered to the consumer, one line per delivery
 inline int sizes_asked, notes_freed;
 
 struct Note {

@@ -102,7 +102,7 @@ std::string ServicesDouble::difference(std::size_t i, const model::Event& expect
         if (std::strcmp(event.format, model::text_of(expected.format)) != 0 ||
             event.code != model::code_of(expected.format))
             return "format or code";
-        // What stands for a line is the format's number for good: places are told apart by it, from release to release.
+        // The line argument is the format's number. It must never change, as it identifies the place across releases.
         if (event.line != 1 + static_cast<std::uint32_t>(expected.format))
             return "line " + std::to_string(event.line);
         for (std::uint32_t a = 0; a < model::argument_count(expected.format); ++a)

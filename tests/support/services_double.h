@@ -1,6 +1,6 @@
-// The test process's own optional services: a memory service and a log that keep what they were asked, in order.
+// The test process's own optional services: a memory service and a log that record their calls in order.
 //
-// They are exported from the test program, so that the library finds them as it would find a host's.
+// The test program exports them, so that the library finds them as it would find a host's.
 #pragma once
 
 #include <cstdarg>
@@ -14,17 +14,17 @@ namespace kesto::tests {
 
 class ServicesDouble {
 public:
-    std::uint32_t use_flag = 1;                  // what RVL_OsalMemUseFlagGet answers
-    model::AllocationFaults faults;              // which allocations give null
-    std::vector<std::string>* lines = nullptr;   // when set, gets every log line as a process would print it
+    std::uint32_t use_flag = 1;                  // result of RVL_OsalMemUseFlagGet
+    model::AllocationFaults faults;              // which allocations return null
+    std::vector<std::string>* lines = nullptr;   // if set, receives every log line as a process would print it
 
-    // Forgets events and allocations; what is still allocated stays so and is forgotten too.
+    // Forgets events and allocations. Live blocks stay allocated but are forgotten, too.
     void start();
 
     std::uint32_t allocations() const { return allocations_; }
     std::uint32_t live_blocks() const;
 
-    // How the events since start() differ from what is expected; empty where they do not.
+    // The difference between the events since start() and the expected ones; empty if there is none.
     std::string difference(const model::Trace& expected) const;
 
     void* allocate(std::uint32_t size, std::uint32_t module, const char* caller);
@@ -43,7 +43,7 @@ private:
         std::uint32_t size = 0;
         std::int32_t block = -1;   // -1 for null
         bool failed = false;
-        const char* fault = nullptr;   // what is wrong with the call in itself
+        const char* fault = nullptr;   // fault in the call itself
     };
 
     std::string difference(std::size_t i, const model::Event& expected) const;

@@ -1,4 +1,4 @@
-// Each codec unit used once.
+// Uses each codec unit once.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@
 
 namespace kesto::tests {
 
-// One receive and one send operation of each module, in such a way that each unit logs and each receive unit allocates.
+// One receive and one send operation of each module, such that each unit logs and each receive unit allocates.
 struct Use {
     void (*receive)();
     void (*send)();
@@ -42,7 +42,7 @@ inline const std::vector<std::uint8_t> one_empty_text = {10, 0, 0, 0, 6, 0, 8, 0
                                                          0,  0, 0, 4, 0, 0, 0, 0, 0, 0, 0};
 inline const std::vector<std::uint8_t> one_byte_block = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8,
                                                          0,  0, 0, 4, 0, 0, 0, 1, 0, 0, 0, 7};
-// A list of one element, whose vtable is the 4 at position 16: no slots.
+// A list of one element. Its vtable is the 4 at position 16, which means no slots.
 inline const std::vector<std::uint8_t> one_element = {12, 0, 0, 0, 8, 0, 8, 0, 0, 0, 4, 0, 8,  0, 0, 0,
                                                       4,  0, 0, 0, 1, 0, 0, 0, 4, 0, 0, 0, 12, 0, 0, 0};
 

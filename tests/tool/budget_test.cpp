@@ -1,4 +1,4 @@
-// The memory that kesto itself takes for byte strings that ask for much, by the bytes held at a time.
+// The memory that kesto itself uses for byte strings that request much, measured as peak bytes held.
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -48,8 +48,8 @@ using model::Record;
 
 constexpr std::size_t packet_length = 64 << 10;
 
-// Of a message with a u16 and a vector: cells to tables without slots, `step` apart. As many of both as the packet
-// holds.
+// Bytes of a message with a u16 and a vector: cells that lead to tables without slots, `step` apart, as many as the
+// packet holds.
 Bytes many_elements(std::size_t step)
 {
     Bytes bytes = command::bytes_from_hex("0c000000 08000800 0000 0400 08000000 04000000");
@@ -83,7 +83,7 @@ Bytes full_elements()
     return model::compact_form(record);
 }
 
-// The most that is held at a time beyond what was held before; what is printed goes to a file.
+// The peak memory beyond what was held before. Printed output goes to a file.
 template <class Work>
 std::size_t memory_of(Work work)
 {
@@ -107,10 +107,10 @@ TEST(Memory, of_a_decode_stays_below_what_is_allowed)
         {"ifit_request_app_pid_smooth_mesh", many_elements(0)},
         {"ifit_flow_base_mesh_update", full_elements()},
         {"ifit_dfx_query_glbdata_item_mesh", one_text('a')},
-        {"ifit_dfx_query_glbdata_item_mesh", one_text(1)},      // six letters in JSON
+        {"ifit_dfx_query_glbdata_item_mesh", one_text(1)},      // six characters in JSON
         {"ifit_dfx_query_glbdata_item_mesh", one_text(0xff)},   // hex
     };
-    constexpr std::size_t beside = 64 << 10;   // tables and the like, whatever the bytes
+    constexpr std::size_t beside = 64 << 10;   // tables and the like, independent of the bytes
     for (const auto& each : cases) {
         const model::Message& message = *find_message(each.message);
         bool refused = false, accepted = false;
@@ -142,7 +142,7 @@ TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
     }
 }
 
-// A message whose writer left the bytes reads none twice.
+// Bytes produced by a message's own writer are never read twice.
 TEST(Tries, end_where_bytes_are_read_again)
 {
     const Bytes bytes = many_elements(0);

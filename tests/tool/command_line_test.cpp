@@ -1,4 +1,4 @@
-// The program as it is called.
+// Tests the program through its command line.
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -97,7 +97,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
     }
 }
 
-// The completions that bash is offered after the words so far.
+// The completions that bash offers after the given words.
 std::string completions(const std::string& words)
 {
     return run_command("bash -c 'source " KESTO_SOURCE_DIR "/tools/kesto/kesto.bash; COMP_WORDS=(" KESTO_PROGRAM " " +
@@ -117,10 +117,10 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
 }
 
-// Texts that would steer a terminal or turn a line around, with their first character as it is shown.
+// Texts that would control a terminal or reverse a line, with their first character as shown.
 struct Hostile {
     std::string text, shown;
-    std::string in_json;   // as a JSON text holds it; empty for what is no text
+    std::string in_json;   // as JSON shows it; empty if it is not valid text
 };
 
 const Hostile hostile[] = {
@@ -130,7 +130,7 @@ const Hostile hostile[] = {
     {"\x9b\xe2\x80", "\\x9b", ""},
 };
 
-// The hostile texts leave nothing behind that is harmless, but for ASCII.
+// Only printable ASCII and newlines are left of the hostile texts.
 bool is_harmless(const std::string& output)
 {
     return std::all_of(output.begin(), output.end(), [](char c) { return c == '\n' || (c >= ' ' && c <= '~'); });
@@ -227,7 +227,7 @@ TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
 
 #if KESTO_CAN_CAPTURE
 
-// 1 a text, 2 one cut short, 3 a packet whose length lies, 4 an unknown id, 5 less than a head, 6 as 1.
+// 1: a text, 2: a truncated one, 3: a packet with a wrong length, 4: an unknown id, 5: shorter than a head, 6: like 1.
 Bytes capture_of_six()
 {
     constexpr std::uint32_t id = 0x91cd149e;
@@ -243,7 +243,7 @@ Bytes capture_of_six()
     return capture;
 }
 
-// Packets of the same text, all as far in the future as a capture can say, or in no year at all.
+// Packets of the same text, all as far in the future as a capture can express, or outside any valid year.
 Bytes capture_of_odd_times()
 {
     const Bytes packet = packet_of(0x91cd149e, bytes_from_hex(hello)).bytes;

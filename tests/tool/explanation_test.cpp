@@ -1,4 +1,4 @@
-// Explanations of byte strings, against what the library does with it and against byte strings taken apart by hand.
+// Compares explanations of byte strings with the library's behaviour and with byte strings analysed by hand.
 
 #include <gtest/gtest.h>
 
@@ -26,9 +26,9 @@ using model::Density;
 using model::Random;
 using model::Record;
 
-constexpr std::uint64_t most_memory = 1 << 24;   // what the library is let take in a test
+constexpr std::uint64_t most_memory = 1 << 24;   // limit for the library in a test
 
-// The library decodes while its log lines are kept; the model, held against it, tells how it ended.
+// The library decodes while its log lines are recorded. The model, which is compared with it, gives the outcome.
 class Verdicts : public EveryMessageTest {
 protected:
     void expect_true(const model::Message& message, const ByteString& bytes)
@@ -70,7 +70,7 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
     }
 }
 
-// Those of the test module kesto does not know.
+// kesto does not know the messages of the test module.
 std::vector<const model::Message*> known_messages()
 {
     std::vector<const model::Message*> known = all_messages();
@@ -96,7 +96,7 @@ class Ranges : public EveryMessageTest {};
 
 INSTANTIATE_TEST_SUITE_P(All, Ranges, testing::ValuesIn(known_messages()), name_of_case);
 
-// Nothing is left unread and nothing reads odd in what the writers write, except text of random octets.
+// In encoded byte strings nothing is unread and nothing is odd, except text of random octets.
 TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
 {
     Random chance(message().id);
@@ -115,10 +115,10 @@ TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
                 end += range.length;
             }
             ASSERT_EQ(end, bytes.size());
-            ASSERT_LE(explanation.bytes_read, bytes.size());   // or tries of other messages would end too early
+            ASSERT_LE(explanation.bytes_read, bytes.size());   // or trials of other messages would stop too early
             for (const command::Note& note : explanation.notes)
                 ASSERT_STREQ(note.code, "text_not_utf8") << note.text << " in " << model::to_hex(bytes);
-            // A fixed form can be as long as the compact form, but never be the same.
+            // A fixed form can be as long as the compact form, but is never equal to it.
             ASSERT_EQ(explanation.origin, fixed_form ? command::Origin::fixed : command::Origin::compact);
         }
 }
@@ -126,7 +126,7 @@ TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
 constexpr char keys[] = "ifit_mcp_mesh_delete";
 constexpr char text_item[] = "ifit_dfx_query_glbdata_item_mesh";
 
-// Of `keys`: no f0, and f1 with one element whose f0 is 7.
+// Bytes of `keys`: no f0, and f1 with one element whose f0 is 7.
 ByteString one_element()
 {
     return bytes_from_hex("0c 00 00 00"         //  0 root: 12
@@ -141,7 +141,7 @@ ByteString one_element()
                           "07 00 00 00");       // 38 f0
 }
 
-// Of `text_item`: "hello".
+// Bytes of `text_item`: "hello".
 ByteString one_text() { return bytes_from_hex("0a000000 06001200 0400 06000000 04000000 05000000 68656c6c6f 00"); }
 
 ByteString damaged(ByteString whole, std::size_t at, const char* hex_text)
@@ -151,7 +151,7 @@ ByteString damaged(ByteString whole, std::size_t at, const char* hex_text)
     return whole;
 }
 
-// The range that was read last is the one that the refused number comes from.
+// The range that was read last is the origin of the refused number.
 TEST(Refusals, mark_what_was_read_last)
 {
     const ByteString bytes = damaged(one_element(), 24, "0f");
@@ -179,7 +179,7 @@ TEST(Notes, tell_what_passes_without_a_word)
     } cases[] = {
         {keys, one_element(), {}},
         {keys, damaged(one_element(), 6, "11"), {"table_length 6 ."}},
-        // Without slots nothing after the table's first word is read.
+        // If there are no slots, nothing after the table's first word is read.
         {keys, damaged(one_element(), 4, "03"), {"vtable_short 4 .", "not_read 6 .", "not_read 16 ."}},
         {keys, damaged(one_element(), 28, "05"), {"vtable_odd 28 .f1[0]", "slots_missing 28 .f1[0]", "not_read 38 ."}},
         // The field begins within the table's first word.
@@ -190,7 +190,7 @@ TEST(Notes, tell_what_passes_without_a_word)
         {text_item, damaged(one_text(), 27, "21"), {"table_length 6 .", "text_without_nul 22 .f0", "not_read 27 ."}},
         {text_item, damaged(one_text(), 24, "00"), {"text_with_nul 24 .f0"}},
         {text_item, damaged(one_text(), 24, "ff"), {"text_not_utf8 22 .f0"}},
-        // Two elements that are one table; f1 as a slot that nobody knows.
+        // Two elements that share one table; f1 is an unknown slot.
         {keys,
          bytes_from_hex("0c000000 08001400 0000 0400 08000000 04000000 02000000 10000000 0c000000"
                         "0800 0800 0400 0000 08000000 07000000"),
@@ -217,7 +217,7 @@ TEST(Texts, cannot_steer_a_terminal)
         EXPECT_EQ(command::quoted(reinterpret_cast<const std::uint8_t*>(text.data()), text.size()), '"' + shown + '"');
 }
 
-// X__pack counts 8 bytes for a block of length 0 after a pointer and does not write them.
+// X__pack counts 8 bytes for a block with a pointer and length 0 and does not write them.
 TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
 {
     Record record = model::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));

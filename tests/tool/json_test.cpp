@@ -1,4 +1,4 @@
-// Records as JSON and back: nothing is lost, and nothing is guessed. vectors_test does it for every message.
+// Converts records to JSON and back: nothing is lost, and nothing is guessed. vectors_test does this for every message.
 
 #include <gtest/gtest.h>
 

@@ -102,8 +102,8 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
         return false;
     }
     packet.number = ++number_;
-    // The seconds of a classic capture are unsigned 32-bit numbers, which libpcap reads as signed ones; those of
-    // pcapng, whose version is 1, have 64 bits.
+    // Classic captures store seconds as unsigned 32-bit numbers, which libpcap reads as signed; pcapng, whose version
+    // is 1, has 64 bits.
     packet.seconds = head->ts.tv_sec;
     if (pcap_major_version(handle_.get()) != 1)
         packet.seconds = static_cast<std::uint32_t>(packet.seconds);

@@ -1,4 +1,4 @@
-// Reads capture files of link type USER0, as the MESH stand-in writes them: one packet after the other.
+// Reads capture files of link type USER0, as written by the MESH stand-in, packet by packet.
 #pragma once
 
 #include <cstdint>
@@ -7,39 +7,39 @@
 #include <span>
 #include <string>
 
-struct pcap;   // libpcap's
+struct pcap;   // from libpcap
 
 namespace kesto::tools {
 
-// Why a packet is not a message: all of them are there to be counted and shown, none ends the reading.
+// Why a packet is not a message. Such packets are counted and shown; none of them stops the reader.
 enum class PacketFault : std::uint8_t {
     none,
     cut,                // the capture kept only the first bytes of the packet
-    short_packet,       // no room for id and length
-    length_disagrees,   // with the bytes after the two
+    short_packet,       // too short for id and length
+    length_disagrees,   // length differs from the number of bytes after the header
 };
 
-const char* name_of(PacketFault fault);   // the words of dissector/kesto.lua
-const char* text_of(PacketFault fault);   // a sentence without its full stop
+const char* name_of(PacketFault fault);   // the names used in dissector/kesto.lua
+const char* text_of(PacketFault fault);   // a sentence without a full stop
 
 struct CapturedPacket {
     std::uint64_t number = 0;   // from 1
     std::int64_t seconds = 0;   // since 1970
     std::uint32_t microseconds = 0;
     PacketFault fault = PacketFault::none;
-    std::uint32_t id = 0;                  // 0 where there is no room for it
-    std::span<const std::uint8_t> bytes;   // after id and length; until the next packet is read
+    std::uint32_t id = 0;                  // 0 if the packet is too short for it
+    std::span<const std::uint8_t> bytes;   // after id and length; valid until the next packet is read
 };
 
 class CaptureReader {
 public:
-    // "-" stands for standard input. False for what is no capture or has another link type, with the reason.
+    // "-" means standard input. False with the reason if the file is not a capture or has another link type.
     [[nodiscard]] bool open(const std::string& path, std::string& error);
 
-    // False at the end, and with a reason in `error` where the file breaks off or is damaged.
+    // False at the end, with a reason in `error` if the file is truncated or damaged.
     [[nodiscard]] bool next(CapturedPacket& packet, std::string& error);
 
-    // Called about every megabyte: bytes read, bytes in all (0 where nobody knows, as in a pipe).
+    // Called about every megabyte with the bytes read and the total (0 if unknown, as for a pipe).
     std::function<void(std::uint64_t read, std::uint64_t all)> progress;
 
 private:

@@ -22,14 +22,14 @@ bool is_head(const Item& item)
            item.piece == Piece::table_length;
 }
 
-// A record of its own, and not a part of the one around it.
+// True for a separate record, as opposed to a part of the enclosing one.
 bool begins_record(const Item& item)
 {
     const u32 depth = item.path->length;
     return item.piece == Piece::vtable_offset && (depth == 0 || item.path->steps[depth - 1].element >= 0);
 }
 
-// As the model holds it, with all that stands in it from the start.
+// Size of a record in the model, including the fields and nested records that it always has.
 u64 record_size(const Message& message)
 {
     u64 size = sizeof(Record);
@@ -54,7 +54,7 @@ bool Collector::is_inside_known_table(const Item& item)
     return false;
 }
 
-// False for a table beyond those that are kept. One that was there before is shown up to its first word.
+// False for a table beyond the limit. A table that was read before is shown up to its first word.
 bool Collector::enter(const Item& item)
 {
     const u64 key = u64{item.message->index} << 32 | item.position;
@@ -83,7 +83,7 @@ void Collector::count(const Item& item)
 {
     explanation_.bytes_read += item.length;
     if (item.piece == Piece::payload)
-        explanation_.record_memory += u64{4} * item.length;   // printing them takes more than printing a field
+        explanation_.record_memory += u64{4} * item.length;   // printing octets takes more memory than printing a field
     if (begins_record(item)) {
         if (sized_ != item.message)
             size_ = record_size(*item.message);
@@ -196,7 +196,7 @@ void Collector::note_text(const Item& item, Table& table)
         notes_.add("text_not_utf8", item.position, item.length, path_text(*item.path), "the text is not UTF-8");
 }
 
-// Every writer states the end of what belongs to the table itself; the fixed form counts what is nested, too.
+// All writers state the end of the table's own bytes; in the fixed form the length includes nested tables.
 void Collector::note_table(const Table& table)
 {
     const u32 own = (table.end - table.position) & 0xffff;
@@ -214,7 +214,7 @@ void Collector::finish()
     if (explanation_.refused) {
         last_.read_last = last_.length != 0;
         if (last_.read_last)
-            explanation_.ranges.push_back(last_);   // merged with itself, if it is there
+            explanation_.ranges.push_back(last_);   // merged with the existing range, if there is one
         return;
     }
     for (const Table& table : tables_)

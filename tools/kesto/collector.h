@@ -1,4 +1,4 @@
-// The walk of a decoder turned into ranges and notes.
+// Turns the walk of a decoder into ranges and notes.
 #pragma once
 
 #include <array>
@@ -8,11 +8,11 @@
 
 namespace kesto::command {
 
-// A table that is read again, by another cell, is not followed again: what a few bytes ask the decoder to read a
-// million times would be listed as often.
-// Thrown where a byte string asks for more than the options allow.
+// Thrown if a byte string needs more than the options allow.
 struct GivenUp {};
 
+// A table that is read again through another cell is not followed again. Otherwise a few bytes that the decoder reads a
+// million times would be listed a million times.
 class Collector final : public model::Walk {
 public:
     Collector(Explanation& explanation, Notes& notes, const ExplainOptions& options)
@@ -30,7 +30,7 @@ private:
         u32 vtable_length = 0;
         u32 table_length = 0;
         bool has_table_length = false;
-        u32 end = 0;   // of what belongs to the table itself
+        u32 end = 0;   // end of the table's own bytes
         const Message* message = nullptr;
         model::Path path;
         u32 reads = 1;
@@ -51,12 +51,12 @@ private:
     const ExplainOptions& options_;
     std::vector<Table> tables_;
     std::unordered_map<u64, std::size_t> known_;                  // by message and position
-    std::array<std::size_t, model::greatest_depth + 2> open_{};   // numbers of tables by depth
-    std::array<u32, model::greatest_depth + 2> positions_{};      // of the same
-    u32 known_depth_ = 0xffffffffU;                               // of the table that is read again, or is not kept
-    bool is_left_out_ = false;                                    // that table
+    std::array<std::size_t, model::greatest_depth + 2> open_{};   // indexes of tables by depth
+    std::array<u32, model::greatest_depth + 2> positions_{};      // of the same tables
+    u32 known_depth_ = 0xffffffffU;                               // of the table that is read again or not kept
+    bool is_left_out_ = false;                                    // the table at known_depth_ is not kept
     const Message* sized_ = nullptr;
-    u64 size_ = 0;   // of its record
+    u64 size_ = 0;   // of sized_'s record
     Range last_;
 };
 

@@ -14,7 +14,7 @@ namespace kesto::command {
 
 namespace {
 
-// A writer stops at the NUL.
+// Writers stop at the NUL.
 void warn_of_cut_text(const Record& record)
 {
     for (std::size_t k = 0; k < record.fields.size(); ++k) {
@@ -43,7 +43,7 @@ Explanation explain_fully(const Message& message, std::span<const u8> bytes, con
 {
     Explanation explanation = explain(message, bytes, options);
     if (explanation.refused || explanation.origin == Origin::other)
-        explanation.written_for = fitting_messages(bytes, bytes.size()).written_so;   // no writer leaves shared bytes
+        explanation.written_for = fitting_messages(bytes, bytes.size()).written_so;   // no writer produces shared bytes
     return explanation;
 }
 
@@ -63,7 +63,7 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
 
 Explanation explain_verdict(const Message& message, std::span<const u8> bytes, u64 most_memory)
 {
-    constexpr u64 json_factor = 4;   // record, JSON and its text together, in records
+    constexpr u64 json_factor = 4;   // record, JSON and its text, as a multiple of the record
     return explain(message, bytes, {.most_ranges = 0, .most_memory = 0, .most_record = most_memory / json_factor});
 }
 

@@ -1,5 +1,5 @@
-// The sub-commands on a message and its bytes. All return the program's result: 0 accepted or the same,
-// 1 refused or different.
+// The sub-commands for a message and its bytes. All return the exit status: 0 for accepted or equal, 1 for refused or
+// different.
 #pragma once
 
 #include "tools/kesto/explain.h"
@@ -14,32 +14,32 @@ struct ExplainChoices {
     ColourChoice colour = ColourChoice::automatic;
     bool json = false;
     bool whole = false;
-    std::string html;   // the file to write, empty for none
+    std::string html;   // output file, empty for none
 };
 
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices);
 
-// With the other messages that the bytes may be meant for, where there is something odd.
+// If there is something odd, also lists other messages that the bytes may be meant for.
 Explanation explain_fully(const Message& message, std::span<const u8> bytes, const ExplainOptions& options);
 
-// Without a message: what the bytes themselves tell.
+// Explains the bytes without a message.
 int explain_raw(std::span<const u8> bytes, bool json);
 
-// The messages whose writers leave just these bytes, and all that accept them.
+// The messages whose writers produce exactly these bytes, and all messages that accept them.
 struct Fitting {
     std::vector<std::string> written_so;
     std::vector<std::string> accepted;
-    u32 given_up = 0;     // messages that would read more than what was left to read
+    u32 given_up = 0;     // messages that would exceed the remaining read budget
     u64 bytes_read = 0;   // by all of them
 };
 
-// Each message may read so many bytes, those that are read again counted again. A byte string of more than 1 MiB fits
-// none.
+// Each message may read a limited number of bytes; repeated reads count again. A byte string of more than 1 MiB fits no
+// message.
 Fitting fitting_messages(std::span<const u8> bytes, u64 most_read_by_each);
 
 struct DecodeChoices {
-    u64 most_memory = 256 << 20;   // of the record and its JSON
-    bool compact_json = false;     // in one line
+    u64 most_memory = 256 << 20;   // for the record and its JSON
+    bool compact_json = false;     // on one line
 };
 
 int decode_bytes(const Message& message, std::span<const u8> bytes, const DecodeChoices& choices);
@@ -63,7 +63,7 @@ struct DiffChoices {
 int compare(const Record& left, const Record& right, const DiffChoices& choices);
 
 struct ListChoices {
-    bool names = false;   // nothing but names, one a line
+    bool names = false;   // only names, one per line
     bool json = false;
 };
 
@@ -72,21 +72,21 @@ int show_message(const Message& message, bool json);
 int show_sizes(const Message& message, bool json);
 int show_sizes(const Record& record, bool json);
 
-// What is decoded for `decode` and `diff`; reports a refusal on standard error and then has no record. Throws a Fault
-// if record and JSON would take more memory.
+// Decodes for `decode` and `diff`. Reports a refusal on standard error and then returns no record. Throws a Fault if
+// record and JSON would exceed the memory limit.
 std::optional<Record> decoded(const Message& message, std::span<const u8> bytes, u64 most_memory,
                               const std::string& where);
 
-// Accepted or refused, without ranges; given up where record and JSON would take more memory.
+// Accepted or refused, without ranges; given up if record and JSON would exceed the memory limit.
 Explanation explain_verdict(const Message& message, std::span<const u8> bytes, u64 most_memory);
 std::string given_up_text(u64 most_memory);
 
 Record record_of(const Explanation& accepted);
 
-// The bytes that X__pack writes or that are sent. Throws a Fault if the message has no fixed form.
+// The bytes that X__pack writes or that are sent in fixed form. Throws a Fault if the message has no fixed form.
 Bytes encoded(const Record& record, Form form);
 
-// Throws a Fault with names that are like the mistyped one.
+// Throws a Fault that suggests names similar to the mistyped one.
 const Message& message_named(const std::string& name);
 
 }   // namespace kesto::command

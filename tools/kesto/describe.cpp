@@ -32,7 +32,7 @@ std::string lengths_text(const Message& message)
                        message.compact_full);
 }
 
-// "f0, f2", the fields of the kinds that `belongs` picks.
+// "f0, f2": the fields of the kinds that `belongs` selects.
 template <class Belongs>
 std::string fields_that(const Message& message, Belongs belongs)
 {

@@ -14,7 +14,7 @@ using nlohmann::ordered_json;
 
 struct Difference {
     std::string path;
-    ordered_json left;   // null where there is nothing
+    ordered_json left;   // null if absent
     ordered_json right;
 };
 

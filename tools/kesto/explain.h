@@ -1,4 +1,4 @@
-// Printers of an explanation.
+// Print an explanation.
 #pragma once
 
 #include <nlohmann/json_fwd.hpp>
@@ -10,14 +10,14 @@ namespace kesto::command {
 
 struct TextOptions {
     Colours colours;
-    bool whole = false;   // long payloads to the last byte
+    bool whole = false;   // prints long payloads in full
 };
 
 std::string explanation_text(const Explanation& explanation, const TextOptions& options);
-std::string refused_text(const Explanation& explanation, const Colours& colours);   // the verdict alone
+std::string refused_text(const Explanation& explanation, const Colours& colours);   // only the verdict
 nlohmann::ordered_json explanation_json(const Explanation& explanation);
 nlohmann::ordered_json refused_json(const Explanation& explanation, const Refused& refused);
-std::string explanation_html(const Explanation& explanation);   // a page that needs nothing else
+std::string explanation_html(const Explanation& explanation);   // a self-contained page
 
 // The library's log line: "level 2 code 22 ifit_mcp_mesh_unpack: ...".
 std::string log_line(const model::Event& log);

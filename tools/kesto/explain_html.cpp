@@ -12,8 +12,8 @@ namespace kesto::command {
 namespace {
 
 constexpr u32 bytes_in_a_row = 8;
-constexpr std::size_t most_bytes = 64 << 10;   // of the grid: more than that nobody looks at
-constexpr std::size_t most_rows = 20000;       // of the list
+constexpr std::size_t most_bytes = 64 << 10;   // in the grid, as nobody looks at more
+constexpr std::size_t most_rows = 20000;       // in the list
 constexpr u32 most_hex = 16;                   // bytes of a range in the list
 
 std::string escaped(std::string_view text)
@@ -62,7 +62,7 @@ std::string path_shown(const Explanation& explanation, const Range& range)
     return range.message == nullptr ? "" : path_text(explanation, range);
 }
 
-// The range that each byte belongs to; where some overlap, the one that begins last.
+// The range that each byte belongs to; of overlapping ranges, the one that begins last.
 std::vector<std::size_t> owners(const Explanation& explanation, std::size_t count)
 {
     std::vector<std::size_t> owner(count);

@@ -53,7 +53,7 @@ ordered_json explanation_json(const Explanation& explanation)
         {"message", explanation.message->name},
         {"id", fmt::format("{:#010x}", explanation.message->id)},
         {"length", explanation.bytes.size()},
-        {"bytes", to_hex(explanation.bytes.data(), explanation.bytes.size())},   // once: ranges may overlap a lot
+        {"bytes", to_hex(explanation.bytes.data(), explanation.bytes.size())},   // only once, as ranges may overlap
         {"accepted", !explanation.refused},
         {"refused", nullptr},
         {"ignored", nullptr},

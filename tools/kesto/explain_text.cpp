@@ -80,7 +80,7 @@ void append_range(std::string& out, const Explanation& explanation, const Range&
     } while (done < range.length);
 }
 
-// Where the position that is refused comes from, if it does not stand there itself.
+// The origin of the refused position, if it is stored elsewhere.
 std::string origin_of_position(const Explanation& explanation, const model::Failure& failure)
 {
     const auto last = std::ranges::find_if(explanation.ranges, &Range::read_last);

@@ -11,13 +11,13 @@ namespace kesto::command {
 
 namespace {
 
-// ---- order in the ranges ----
+// ---- order of ranges ----
 
 bool stands_before(const Range& left, const Range& right)
 {
     if (left.position != right.position)
         return left.position < right.position;
-    if (left.length != right.length)   // an empty text before its NUL, else the longer one first
+    if (left.length != right.length)   // an empty text before its NUL, otherwise the longer one first
         return left.length == 0 || (right.length != 0 && left.length > right.length);
     return left.part < right.part;
 }
@@ -29,7 +29,7 @@ void merge_equal(std::vector<Range>& ranges)
     for (const Range& range : ranges) {
         Range* const before = kept == 0 ? nullptr : &ranges[kept - 1];
         if (before != nullptr && !stands_before(*before, range)) {
-            // The range read last comes a second time only to be marked.
+            // The range read last is added a second time only to be marked.
             before->reads += range.read_last ? 0 : 1;
             before->read_last |= range.read_last;
         } else {
@@ -61,7 +61,7 @@ void note_sharing(const Explanation& explanation, Notes& notes)
     }
 }
 
-// As in what is copied out of a capture with the packet around it.
+// Such bytes result from copying a whole packet from a capture.
 void note_packet_head(const Explanation& explanation, Notes& notes)
 {
     const std::span<const u8> bytes = explanation.bytes;
@@ -75,7 +75,7 @@ void note_packet_head(const Explanation& explanation, Notes& notes)
                               named->name, head));
 }
 
-// The bytes after a text, between two ranges or after the last.
+// Fills the gaps with ranges: NULs after texts, bytes between two ranges and bytes after the last.
 class Gaps {
 public:
     Gaps(Explanation& explanation, Notes& notes) : explanation_(explanation), notes_(notes) {}
@@ -110,7 +110,7 @@ private:
         if (at >= next)
             return;
         const bool zero = std::all_of(bytes.begin() + at, bytes.begin() + next, [](u8 byte) { return byte == 0; });
-        // The fixed form rounds up to 8, and right after that a table around it to 4.
+        // The fixed form rounds up to 8; an enclosing table may then round up to 4.
         const bool padding = zero && next - at <= 7 + 3;
         add(padding ? Part::padding : Part::unread, at, next - at, {});
         if (!padding && !explanation_.refused && explanation_.left_out == 0)
@@ -124,13 +124,13 @@ private:
 
     Explanation& explanation_;
     Notes& notes_;
-    Range text_;   // the last one
+    Range text_;   // the last text
 };
 
 // ---- which writer ----
 
-// Memory of the greatest record that a writer puts into so many bytes: each field has two bytes in a vtable of its own,
-// each table eight besides.
+// Memory of the largest record that a writer encodes in the given number of bytes: each field has two bytes in its own
+// vtable, and each table has eight more.
 u64 most_of_written(std::size_t length)
 {
     static_assert(sizeof(model::Field) / 2 + sizeof(Record) / 8 <= 64);

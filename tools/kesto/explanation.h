@@ -1,4 +1,5 @@
-// An explanation of a byte string, as data: every byte's meaning, the verdict, and what passes without a word.
+// An explanation of a byte string, as data: the meaning of every byte, the verdict, and oddities that are accepted
+// silently.
 #pragma once
 
 #include <limits>
@@ -9,10 +10,10 @@
 
 namespace kesto::command {
 
-// The model's pieces in their order, then what no decoder reads.
+// The model's pieces in order, then parts that no decoder reads.
 enum class Part : u8 {
     root,
-    table,   // its first word, the distance to the vtable
+    table,   // the first word, the distance to the vtable
     vtable_length,
     table_length,
     slot,
@@ -21,7 +22,7 @@ enum class Part : u8 {
     count,
     payload,
     element_cell,
-    vtable_rest,   // after the slots that the message has, and an odd byte
+    vtable_rest,   // after the message's slots, including an odd byte
     text_end,
     padding,
     unread,
@@ -35,16 +36,16 @@ struct Range {
     u32 table = 0;                      // position of the table it belongs to
     const Message* message = nullptr;   // of that table
     model::Path path{};
-    u32 reads = 1;            // how often the same bytes are read as the same
-    bool read_last = false;   // before the refusal
+    u32 reads = 1;            // how often these bytes are read as the same piece
+    bool read_last = false;   // the last read before the refusal
 };
 
-// Something that the decoder accepts without a word.
+// An oddity that the decoder accepts silently.
 struct Note {
     const char* code;
     u32 position;
     u32 length;
-    std::string path;   // empty in a note that tells of other notes only
+    std::string path;   // empty in a note that only summarises other notes
     std::string text;
 };
 
@@ -53,9 +54,9 @@ struct Refused {
     std::optional<model::Event> log;   // the line that the library writes
 };
 
-// Which writer leaves just these bytes of the record that they decode to.
+// The writer that produces exactly these bytes from the record that they decode to.
 enum class Origin : u8 {
-    unknown,   // refused, or too much memory to find out
+    unknown,   // refused, or finding out takes too much memory
     compact,
     compact_with_rest,
     fixed,
@@ -66,30 +67,30 @@ struct Explanation {
     const Message* message = nullptr;
     std::span<const u8> bytes;
     std::vector<Range> ranges;   // by position; they cover every byte
-    u64 left_out = 0;            // reads beyond the most ranges that are kept
+    u64 left_out = 0;            // reads beyond the limit of ranges
     std::optional<Refused> refused;
-    std::optional<Refused> ignored;   // a nested table whose refusal is no refusal of the message
+    std::optional<Refused> ignored;   // a nested table whose refusal does not refuse the message
     std::vector<Note> notes;
-    u64 memory = 0;   // what the decoder asks for, in all
+    u64 memory = 0;   // total requested by the decoder
     u32 allocations = 0;
-    u64 bytes_read = 0;      // those that are read again counted again
-    u64 record_memory = 0;   // what the model's record takes here; texts and blocks counted four times
-    bool given_up = false;   // for the limits of the options; there is no verdict then
+    u64 bytes_read = 0;      // repeated reads count again
+    u64 record_memory = 0;   // of the model's record in this program; texts and blocks counted four times
+    bool given_up = false;   // due to the limits in the options; there is no verdict then
     Origin origin = Origin::unknown;
-    std::vector<std::string> written_for;   // other messages whose writers leave just these bytes, if somebody looked
+    std::vector<std::string> written_for;   // other messages whose writers produce exactly these bytes, if searched
 };
 
 struct ExplainOptions {
     u32 pointer_width = model::host_pointer_width;
     std::size_t most_ranges = 50000;   // and as many tables
-    u64 most_memory = 64 << 20;        // of a record that is compared with what the writers write
-    u64 most_read = unlimited;         // bytes, those that are read again counted again
-    u64 most_record = unlimited;       // memory of a record, compared or not
+    u64 most_memory = 64 << 20;        // of a record that is compared with the writers' output
+    u64 most_read = unlimited;         // bytes; repeated reads count again
+    u64 most_record = unlimited;       // memory of any record, compared or not
 
     static constexpr u64 unlimited = std::numeric_limits<u64>::max();
 };
 
-// `bytes` has to outlive the explanation.
+// `bytes` must outlive the explanation.
 Explanation explain(const Message& message, std::span<const u8> bytes, const ExplainOptions& options = {});
 
 // ---- in words ----
@@ -98,7 +99,7 @@ std::string path_text(const Explanation& explanation, const Range& range);
 std::string kind_text(const Range& range);
 std::string value_text(const Explanation& explanation, const Range& range);
 
-std::string rule_text(const model::Failure& failure);         // what the check demands
+std::string rule_text(const model::Failure& failure);         // the requirement that the check tests
 std::string comparison_text(const model::Failure& failure);   // the numbers, empty if there are none
 std::string origin_text(Origin origin);
 std::string place_text(const Note& note);   // " at 18, .f0", or empty

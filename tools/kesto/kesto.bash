@@ -1,4 +1,4 @@
-# Completion of kesto for bash: sub-commands, options, names of messages, files.
+# Bash completion for kesto: sub-commands, options, message names, files.
 
 _kesto()
 {
@@ -32,9 +32,9 @@ _kesto()
             --color | --input-format | --form | --pointers | -o | --output | --html | --memory | --message | --packet)
                 ((++i))
                 ;;
-            --pcap) return ;;   # in place of message and file
+            --pcap) return ;;   # replaces message and file
             --hex) [[ $command == encode ]] || ((++i)) ;;
-            --raw) ((++words)) ;;   # stands for the message
+            --raw) ((++words)) ;;   # replaces the message
             -?*) ;;
             *) ((++words)) ;;
         esac

@@ -48,14 +48,14 @@ void add_memory(CLI::App& app, u64& most)
     app.add_option("--memory", most, "do not decode what takes kesto more memory (256 MiB)")->type_name("BYTES");
 }
 
-// What `explain` and `decode` read: one byte string, or the packets of a capture.
+// The input of `explain` and `decode`: one byte string, or the packets of a capture.
 struct Source {
     std::string message;
     std::string file = "-";
     std::optional<std::string> hex;
     InputFormat format = InputFormat::automatic;
     PacketChoices packets;
-    std::string packets_of;   // the message whose packets are wanted
+    std::string packets_of;   // selects packets by message
 
     void add_to(CLI::App& app)
     {
@@ -93,7 +93,7 @@ struct Source {
         return message_named(message);
     }
 
-    // The only word of a command line that names no message.
+    // The only word on a command line that does not name a message.
     void take_message_for_file()
     {
         if (!message.empty() && (file != "-" || hex))

@@ -10,7 +10,7 @@ namespace kesto::command {
 
 namespace {
 
-// Letters to insert, delete or replace that make `left` the beginning of `right`.
+// Number of letters to insert, delete or replace so that `left` becomes a prefix of `right`.
 std::size_t distance_to_beginning(std::string_view left, std::string_view right)
 {
     std::vector<std::size_t> row(right.size() + 1);
@@ -45,7 +45,7 @@ const Message* find_message(std::string_view name_or_id)
 std::vector<std::string> suggestions(std::string_view name)
 {
     struct Candidate {
-        std::pair<std::size_t, std::size_t> score;   // letters that are wrong, letters that are missing
+        std::pair<std::size_t, std::size_t> score;   // wrong letters, missing letters
         const std::string* name;
     };
     std::vector<Candidate> near;

@@ -1,4 +1,4 @@
-// Messages by the names that people give to them and to their fields.
+// Messages under the names that people give to them and to their fields.
 #pragma once
 
 #include <string>
@@ -21,10 +21,10 @@ using model::u32;
 using model::u64;
 using model::u8;
 
-// By name, or by id as 0x2492d87f or in decimal; null if there is none.
+// Finds a message by name, or by id as 0x2492d87f or in decimal; null if there is none.
 const Message* find_message(std::string_view name_or_id);
 
-// Names like a mistyped one, the likeliest first.
+// Names similar to a mistyped one, the likeliest first.
 std::vector<std::string> suggestions(std::string_view name);
 
 }   // namespace kesto::command

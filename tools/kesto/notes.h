@@ -1,4 +1,4 @@
-// A collection of notes that no byte string can make endless.
+// A collection of notes with a bounded size, whatever the byte string.
 #pragma once
 
 #include <map>
@@ -16,7 +16,7 @@ public:
             notes_.push_back({code, position, length, path, text});
     }
 
-    // By position; after them, how many of a kind are left out.
+    // Sorted by position, followed by the number of omitted notes of each kind.
     std::vector<Note> all() const;
 
 private:

@@ -22,12 +22,12 @@ using tools::PacketFault;
 
 struct Reading {
     CapturedPacket packet;
-    const Message* message = nullptr;   // by the id, null if there is none
+    const Message* message = nullptr;   // found by id, null if there is none
 };
 
-// ---- what a packet is ----
+// ---- classifying packets ----
 
-// As numbers where they are no time of the years 0 to 9999.
+// Prints plain numbers if the time is not within the years 0 to 9999.
 std::string time_text(const CapturedPacket& packet)
 {
     const std::time_t seconds = packet.seconds;
@@ -87,7 +87,7 @@ std::string fault_line(const Reading& reading, const Colours& colours)
 
 void print_line(const ordered_json& json) { print(json_text(json, -1) + "\n"); }
 
-// ---- one after the other ----
+// ---- iterating over packets ----
 
 void show_progress(u64 read, u64 all)
 {
@@ -111,7 +111,7 @@ bool is_wanted(const PacketChoices& which, const CapturedPacket& packet)
            (which.message == nullptr || packet.id == which.message->id);
 }
 
-// A fault in showing a packet names it.
+// Adds the packet number to any fault thrown while showing a packet.
 template <class Show>
 int show_named(const PacketChoices& which, Show show, const Reading& reading)
 {
@@ -122,7 +122,7 @@ int show_named(const PacketChoices& which, Show show, const Reading& reading)
     }
 }
 
-// show(reading) gives its result; the worst of them is that of all.
+// show(reading) returns its exit status; the highest one is the overall result.
 template <class Show>
 int for_each_packet(const PacketChoices& which, Show show)
 {
@@ -158,7 +158,7 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
     int result = accepted;
     const Explanation verdict = explain_verdict(*reading.message, reading.packet.bytes, choices.most_memory);
     if (verdict.given_up) {
-        json["error"] = given_up_text(choices.most_memory);   // the packets after it are still read
+        json["error"] = given_up_text(choices.most_memory);   // later packets are still read
         result = unusable;
     } else if (verdict.refused) {
         json["refused"] = refused_json(verdict, *verdict.refused);

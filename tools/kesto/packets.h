@@ -1,4 +1,4 @@
-// The sub-commands for the packets of a capture file. One that is no message of the catalogue counts as refused.
+// The sub-commands for the packets of a capture file. A packet that is no message of the catalogue counts as refused.
 #pragma once
 
 #include "tools/kesto/commands.h"

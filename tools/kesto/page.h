@@ -1,4 +1,4 @@
-// The constant part of a page: styles for light and dark, and what happens under the pointer.
+// The constant part of a page: styles for light and dark mode, and pointer interaction.
 #pragma once
 
 namespace kesto::command {

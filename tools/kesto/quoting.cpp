@@ -55,7 +55,7 @@ std::string quoted(const u8* text, std::size_t length)
 std::string json_text(const nlohmann::ordered_json& json, int indent)
 {
     std::string text = json.dump(indent, ' ', false, nlohmann::ordered_json::error_handler_t::replace);
-    // Below 0x7f the dump has only the newlines of its indent. Characters above are within strings.
+    // The only control characters below 0x7f in the dump are its own newlines. Characters above occur only in strings.
     const auto is_plain = [](char character) { return static_cast<u8>(character) < 0x7f; };
     if (std::all_of(text.begin(), text.end(), is_plain))
         return text;

@@ -1,5 +1,5 @@
-// A byte string without a message: what its root, tables and vtables tell by themselves, and what may stand in the
-// slots.
+// Analyses a byte string without a message: the structure of its root, tables and vtables, and the likely contents of
+// the slots.
 
 #include <fmt/format.h>
 
@@ -17,7 +17,7 @@ namespace {
 
 constexpr u32 most_tables = 200;
 constexpr u32 most_depth = 8;
-constexpr u32 most_elements = 4;   // of a vector that are shown; more are looked at
+constexpr u32 most_elements = 4;   // shown per vector; more are tested
 constexpr u32 most_elements_tested = 16;
 constexpr u32 most_slots = 256;
 constexpr std::size_t most_bytes_tried = 1 << 20;
@@ -27,8 +27,8 @@ constexpr u32 most_text_tested = 1024;
 struct Table {
     u32 position = 0;
     u32 vtable = 0;
-    u32 length = 0;             // as the vtable says
-    std::vector<u32> offsets;   // by slot, 0 for an absent one
+    u32 length = 0;             // as stated in the vtable
+    std::vector<u32> offsets;   // by slot, 0 if absent
 };
 
 class Guesser {
@@ -74,7 +74,7 @@ bool Guesser::open(u32 position, Table& table) const
     return true;
 }
 
-// And what all writers do. Without it almost any bytes are a table.
+// Conventions of all writers. Without them almost any bytes would pass as a table.
 bool Guesser::is_written_alike(const Table& table) const
 {
     const bool inside = std::all_of(table.offsets.begin(), table.offsets.end(),
@@ -111,9 +111,9 @@ bool Guesser::may_be_text(u64 body) const
     const u8* const text = bytes_.data() + body + 4;
     if (length == 0 || !fits(body + 4, u64{length} + 1) || text[length] != 0)
         return false;
-    u32 tested = std::min(length, most_text_tested);   // many slots may lead to one long text
+    u32 tested = std::min(length, most_text_tested);   // as many slots may lead to one long text
     while (tested < length && tested != 0 && text[tested] >> 6 == 2)
-        --tested;   // not into the middle of a character
+        --tested;   // do not cut a character
     return model::is_utf8(text, tested) &&
            std::none_of(text, text + tested, [](u8 byte) { return byte < ' ' && byte != '\n' && byte != '\t'; });
 }
@@ -156,7 +156,7 @@ void Guesser::show_target(u32 target, u32 depth)
     }
 }
 
-// `room`: bytes up to the next field.
+// `room`: number of bytes up to the next field.
 void Guesser::show_slot(const Table& table, std::size_t slot, u32 room, u32 depth)
 {
     const u32 position = table.position + table.offsets[slot];

@@ -9,7 +9,7 @@
 namespace kesto::command {
 
 struct RawLine {
-    u32 depth;   // how far inside
+    u32 depth;   // nesting depth
     u64 position;
     std::string text;
 };
@@ -18,7 +18,7 @@ struct RawView {
     u64 length = 0;
     bool has_root_table = false;
     std::vector<RawLine> lines;
-    std::optional<Fitting> fitting;   // none of a byte string that is too long to try
+    std::optional<Fitting> fitting;   // none if the byte string is too long to try
 };
 
 RawView look_at(std::span<const u8> bytes);

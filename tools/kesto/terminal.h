@@ -1,4 +1,4 @@
-// Colours, where they are wanted.
+// Colours and progress on a terminal.
 #pragma once
 
 #include <string>
@@ -26,7 +26,7 @@ struct Colours {
 bool is_terminal_output();
 bool shows_progress();   // on standard error, with nothing else on the terminal
 
-// Automatic: on a terminal, unless NO_COLOR is set or TERM is "dumb".
+// Automatic: coloured on a terminal, unless NO_COLOR is set or TERM is "dumb".
 Colours colours_for(ColourChoice choice);
 
 }   // namespace kesto::command

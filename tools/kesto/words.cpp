@@ -70,7 +70,7 @@ const Slot& slot_of(const Range& range) { return range.message->slots[range.path
 
 std::size_t slot_number(const Range& range) { return range.path.steps[range.path.length - 1].slot; }
 
-// Who follows a position reckons with 32 bits.
+// Positions are computed in 32 bits.
 const char* wrap_text(bool wraps) { return wraps ? ", modulo 2^32" : ""; }
 
 std::string distance_text(u32 table, u32 distance)

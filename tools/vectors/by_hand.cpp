@@ -38,7 +38,7 @@ constexpr const char one_block[] = "0e000000 "                   //  0 root: 14
                                    "02000000 "                   // 22 length
                                    "abcd";                       // 26 content
 
-// ifit_smooth_begin_mesh: f1 is an empty table. Its refusal is not one of the message.
+// ifit_smooth_begin_mesh: f1 is a nested table whose refusal does not refuse the message.
 constexpr const char lenient[] = "0c000000 "              //  0 root: 12
                                  "0800 0c00 0400 0800 "   //  4 vtable: 8, the table has 12; slots: 16, 20
                                  "08000000 "              // 12 table: vtable 8 back
@@ -53,7 +53,7 @@ struct Case {
     const char* code;
     const char* message;
     const char* bytes;
-    std::size_t at = 0;   // where `instead` stands in for what `bytes` has
+    std::size_t at = 0;   // position at which `instead` replaces part of `bytes`
     const char* instead = "";
 };
 

@@ -1,4 +1,4 @@
-// Byte strings written out by hand, each for a rule that a reader may get wrong.
+// Byte strings written by hand, each for a rule that a reader may get wrong.
 #pragma once
 
 #include <string>
@@ -18,7 +18,7 @@ struct Sample {
 
 struct ByHand {
     Sample sample;
-    const char* code;   // of the refusal, "none" for what is accepted
+    const char* code;   // of the refusal, "none" if accepted
 };
 
 std::vector<ByHand> by_hand();

@@ -16,7 +16,7 @@ using command::Range;
 using model::u32;
 using model::u64;
 
-// Positions about the end and the start, where a reader may go wrong by a few bytes.
+// Positions near the end and the start, where a reader may be off by a few bytes.
 std::vector<u64> targets(u32 length)
 {
     std::vector<u64> all = {3, 4};
@@ -25,7 +25,7 @@ std::vector<u64> targets(u32 length)
     return all;
 }
 
-// In the order of what they lead to or announce, so that neighbours in the list are neighbours in meaning.
+// Ordered by the position or size that they denote, so that neighbours in the list are neighbours in meaning.
 std::vector<u64> values_of(const Range& range, u32 length)
 {
     std::vector<u64> values;
@@ -76,7 +76,7 @@ class Collection {
 public:
     explicit Collection(const Bytes& whole) : whole_(whole) {}
 
-    // Keeps what stands beside a change of the verdict, if it shows anything new.
+    // Keeps the samples on both sides of a change of the verdict, if they show anything new.
     void add(const std::vector<Sample>& neighbours, const std::string& place)
     {
         std::vector<std::string> verdicts;

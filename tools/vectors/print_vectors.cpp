@@ -1,5 +1,5 @@
-// Prints byte strings with what a decoder has to make of them, for those who write a codec of their own. What they say
-// comes from the model. vectors/README.md explains the files.
+// Prints byte strings with the result that a decoder must produce, for authors of other codecs. The expected results
+// come from the model. vectors/README.md explains the files.
 //
 //   print_vectors FOLDER
 
@@ -32,7 +32,7 @@ using nlohmann::ordered_json;
 
 constexpr std::size_t most_written = 4000;   // bytes of a record, so that the files stay small
 constexpr std::size_t most_strange = 700;
-constexpr int most_draws = 1000;   // then a message that is never so short is taken as it comes
+constexpr int most_draws = 1000;   // after that, a message that is never short enough is taken as it is
 
 using model::to_hex;
 
@@ -43,7 +43,7 @@ ordered_json line_of(const Message& message)
 
 // ---- records ----
 
-// Random octets are hardly ever text.
+// Random octets are rarely readable text.
 void make_readable(Record& record)
 {
     for (std::size_t k = 0; k < record.fields.size(); ++k) {
@@ -55,7 +55,7 @@ void make_readable(Record& record)
     }
 }
 
-// As a decoder leaves it, without the states that only a sender's record can have.
+// A record as a decoder leaves it, without the states that only a sender's record can have.
 Record drawn_record(const Message& message, Density density, Random& random, std::size_t most)
 {
     for (int draw = 0;; ++draw) {
@@ -107,7 +107,7 @@ ordered_json refusal_json(const Message& root, const model::Failure& failure)
 
 ordered_json hostile_line(const Sample& sample)
 {
-    static constexpr u8 nothing = 0;   // no bytes are not a null pointer
+    static constexpr u8 nothing = 0;   // an empty byte string is not a null pointer
     const Bytes& bytes = sample.bytes;
     model::Outcome outcome;
     model::decode(*sample.message, bytes.empty() ? &nothing : bytes.data(), model::position_of_end(bytes), {}, outcome);
@@ -140,7 +140,7 @@ void add_by_hand(std::vector<ordered_json>& lines)
 
 void add_damaged(std::vector<ordered_json>& lines)
 {
-    // Together they have every kind of slot, in a root, in nested tables and in elements.
+    // Together these have every kind of slot, in a root, in nested tables and in elements.
     for (const char* name :
          {"ifit_mcp_mesh_delete", "ifit_smooth_end_mesh", "ifit_dfx_query_comm_rec_mesh",
           "ifit_dfx_query_glbdata_rec_mesh", "ifit_dfx_query_stat_rec_mesh", "ifit_flow_tuplev6_mesh",
