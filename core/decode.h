@@ -7,7 +7,8 @@
 #include "core/layout.h"
 #include "core/unit.h"
 
-namespace kesto {
+// Hidden, so that 32-bit x86 calls them without a table of addresses.
+namespace [[gnu::visibility("hidden")]] kesto {
 
 struct Frame;
 struct NestedDecoder;
@@ -69,8 +70,8 @@ inline bool may_decode(const u8* bytes, u32 length, const void* record)
     return bytes != nullptr && record != nullptr && static_cast<std::int32_t>(length) >= std::int32_t{least_length};
 }
 
-// X__unpack by the general path, without the result. The record is cleared after the root table has passed its tests.
-void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder);
+// X__unpack by the general path. The record is cleared after the root table has passed its tests.
+KESTO_ENTRY u32 decode_message(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record));
 
 // Decodes a nested table into a record that must be clear. If the table cannot be opened, the fault is logged; if one
 // of its fields is refused, what the record owns is released.
@@ -79,9 +80,8 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // The same for a record that need not be clear.
 [[nodiscard]] bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
 
-// Opens a table whose vtable must hold at least `slots` slots. If it is refused, the view's vtable is 0, a position
-// that no vtable can have.
-[[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
+// The vtable of a table, which must hold at least `slots` slots; 0, a position that no vtable can have, if it is refused.
+[[nodiscard]] KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots);
 
 // Allocates an owned block. Logs and returns null if there is no memory.
 inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
@@ -132,6 +132,6 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 void release_record(const Decoder& decoder, u8* record);
 
 // The body of X_free__unpacked for a message with owned blocks.
-void free_unpacked(void* record, const Decoder& decoder);
+KESTO_ENTRY void free_unpacked(KESTO_WITH(const Decoder& decoder, void* record));
 
-}   // namespace kesto
+}   // namespace gnu::visibility("hidden")]]kesto

@@ -10,7 +10,7 @@
 #include "core/routine_name.h"
 #include "platform/mesh.h"
 
-namespace kesto {
+namespace [[gnu::visibility("hidden")]] kesto {
 
 // The constants of one message, made from its type in the catalogue and the unit that decodes it.
 template <class Message, Unit* unit>
@@ -80,4 +80,4 @@ struct Registration {
 // Registers the messages in order. Stops at the first result that is not 0 and returns it; returns 0 otherwise.
 int register_messages(std::span<const Registration> messages);
 
-}   // namespace kesto
+}   // namespace gnu::visibility("hidden")]]kesto

@@ -99,7 +99,7 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
 
 }   // namespace
 
-int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
 {
     const u32 size = encoder.layout->measure(record, encoder.nested);
     if (size == 0 || *length < size)
@@ -115,7 +115,8 @@ int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& enco
     return 0;
 }
 
-int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,
+                                                      [[maybe_unused]] u32 unused, u32 destination))
 {
     const u32 size = encoder.layout->measure(record, encoder.nested);
     if (size == 0)
@@ -131,20 +132,26 @@ int send_single_compact(u32 channel, const u8* record, u32 destination, const En
     return result;
 }
 
-int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count,
+                                      u32 destination))
 {
     if (encoder.layout->write_fixed != nullptr)
         return send_batch_fixed(channel, records, count, destination, encoder);
     return send_batch_compact(channel, records, count, destination, encoder);
 }
 
-int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination))
 {
     if (count == 1)
-        return encoder.layout->send_single(channel, records, destination, encoder);
+        return encoder.layout->send_single(KESTO_WITH_UNUSED(encoder, channel, records, count, destination));
     if (count == 0)
         return failed;
-    return send_batch(channel, records, count, destination, encoder);
+    return send_batch(KESTO_WITH(encoder, channel, records, count, destination));
+}
+
+KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count))
+{
+    return send_to(KESTO_WITH(encoder, channel, records, count, 0));
 }
 
 }   // namespace kesto

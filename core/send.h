@@ -4,17 +4,20 @@
 #include "core/pack.h"
 #include "platform/mesh.h"
 
-namespace kesto {
+namespace [[gnu::visibility("hidden")]] kesto {
 
 struct Encoder;
 
 // The encoding routines of one layout, shared by all messages of that layout.
 struct LayoutEncoder {
-    u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size; 0 if none
-    u8* (*write)(u8* buffer, const u8* record, const NestedEncoder* nested);   // the compact form; returns its end
-    u64 (*bound)(const u8* record, const NestedEncoder* nested);               // upper bound of that size
-    void (*write_fixed)(u8* buffer, const u8* record);                         // null if there is no fixed form
-    int (*send_single)(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
+    u32(KESTO_IN_REGISTERS* measure)(const u8* record,
+                                     const NestedEncoder* nested);   // the compact form's size; 0 if none
+    u8*(KESTO_IN_REGISTERS* write)(u8* buffer, const u8* record,
+                                   const NestedEncoder* nested);   // the compact form; returns its end
+    u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // upper bound of that size
+    void(KESTO_IN_REGISTERS* write_fixed)(u8* buffer, const u8* record);             // null if there is no fixed form
+    int(KESTO_ENTRY* send_single)(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
+                                                    u32 destination));
     u32 fixed_length;   // 0 if there is no fixed form
     u32 record_size;
 };
@@ -35,32 +38,36 @@ inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 dest
 }
 
 // pack_measured is X__pack without its fast path, send_single_compact is X__sendsingle for layouts with owned blocks,
-// send_batch is X__sendbatch, and send serves X__sendmsg and X__sendtomsg. Records are contiguous.
-int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder);
-int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
-int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
-int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
+// send_batch is X__sendbatch, send_to is X__sendtomsg, and send is X__sendmsg. Records are contiguous.
+KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
+KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
+                                                      u32 destination));
+KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count,
+                                      u32 destination));
+KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination));
+KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count));
 
 template <class L>
-[[gnu::noinline]] int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+[[gnu::noinline]] KESTO_ENTRY int pack(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
 {
     if (record == nullptr || buffer == nullptr || *length < bound_message<L>(record, encoder.nested)) [[unlikely]]
-        return pack_measured(record, buffer, length, encoder);
+        return pack_measured(KESTO_WITH(encoder, record, buffer, length));
     ensure_memory_services(*encoder.unit);
     *length = static_cast<u32>(write_message<L>(buffer, record, encoder.nested) - buffer);
     return 0;
 }
 
 template <class L>
-[[gnu::noinline]] int send_single(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+[[gnu::noinline]] KESTO_ENTRY int send_single(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,
+                                                                [[maybe_unused]] u32 unused, u32 destination))
 {
     if constexpr (L::has_owned_blocks) {
-        return send_single_compact(channel, record, destination, encoder);
+        return send_single_compact(KESTO_WITH_UNUSED(encoder, channel, record, unused, destination));
     } else {
         u8 buffer[L::fixed_length];
         ensure_memory_services(*encoder.unit);
-        if constexpr (L::is_small)
-            FixedImage<L>::write_here({buffer}, record);
+        if constexpr (L::is_short)
+            FixedImage<L>::write_here(buffer, record);
         else
             FixedImage<L>::write(buffer, record);
         const MeshSendItem item{buffer, encoder.id, L::fixed_length};
@@ -79,4 +86,4 @@ constexpr LayoutEncoder layout_encoder = [] {
     return made;
 }();
 
-}   // namespace kesto
+}   // namespace gnu::visibility("hidden")]]kesto

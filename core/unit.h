@@ -10,7 +10,7 @@
 #include "core/wire.h"
 #include "platform/osal.h"
 
-namespace kesto {
+namespace [[gnu::visibility("hidden")]] kesto {
 
 using Allocate = void* (*)(u32 size, u32 module, const char* caller);
 using Release = void (*)(void* pointer, u32 module, const char* caller);
@@ -64,4 +64,4 @@ void log_table_fault(Unit& unit, const char* routine, TableFault fault, const In
 void log_allocation(Unit& unit, const char* routine, u32 size);
 void log_pack_parameters(Unit& unit, const char* routine, const void* buffer, u32 capacity, const void* record);
 
-}   // namespace kesto
+}   // namespace gnu::visibility("hidden")]]kesto
