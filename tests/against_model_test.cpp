@@ -49,7 +49,7 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EveryMessage);
 
-TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
+TEST_P(EveryMessage, encodes_like_the_model_and_decodes_its_own_output)
 {
     Random chance = random(1);
     for (int round = 0; round < 12; ++round)
@@ -58,7 +58,7 @@ TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
 }
 
 // Only one text, block or vector keeps such a record off the fast paths.
-TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
+TEST_P(EveryMessage, dense_record_without_one_owned_block_round_trips)
 {
     Random chance = random(7);
     for (const Record& record : model::without_each_owned_block(random_record(message(), Density::full, chance)))
@@ -85,7 +85,7 @@ void mix_elements(Record& record, Random& chance)
     }
 }
 
-TEST_P(EveryMessage, elements_of_every_kind_stand_side_by_side)
+TEST_P(EveryMessage, mixed_elements_round_trip)
 {
     Random chance = random(6);
     for (int round = 0; round < 40; ++round) {
@@ -96,7 +96,7 @@ TEST_P(EveryMessage, elements_of_every_kind_stand_side_by_side)
     }
 }
 
-TEST_P(EveryMessage, decodes_strange_but_valid_layouts)
+TEST_P(EveryMessage, decodes_noncanonical_layouts)
 {
     Random chance = random(2);
     for (int round = 0; round < 60; ++round) {
@@ -120,7 +120,7 @@ TEST_P(EveryMessage, truncation_at_any_byte_releases_every_block)
 
 // Up to three damaged words, in the record's own forms and in noncanonical ones. Tests of single small faults do not
 // cover these combinations.
-TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
+TEST_P(EveryMessage, damaged_byte_strings_decode_like_the_model)
 {
     constexpr std::uint32_t borders[] = {0,          1,          3,          4,          5,         0x3FFFFFFF,
                                          0x40000000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
@@ -143,7 +143,7 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
 
 // One scalar far from its table's start, around the last position that fits: with the fewest bytes after the table's
 // start, and with counts around the limits of 15 and 16 bits.
-TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
+TEST_P(EveryMessage, far_field_is_read_only_if_it_fits)
 {
     const auto slots = static_cast<std::uint32_t>(message().slots.size());
     const std::uint32_t vtable_bytes = 4 + 2 * slots, table = 4 + vtable_bytes;
@@ -172,7 +172,7 @@ TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
 
 // Null pointers, and lengths that are below 4 or negative as signed numbers: one log line, and no access through the
 // other parameters.
-TEST_P(EveryMessage, refused_parameters_touch_nothing)
+TEST_P(EveryMessage, refused_parameters_leave_the_record_untouched)
 {
     const std::tuple<bool, std::uint32_t, bool, const char*> cases[] = {
         {false, 40, true, "null, 40, nonNull"},          {false, 3, false, "null, 3, null"},
@@ -203,7 +203,7 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
 
 // Each allocation fails in turn, alone and with all later ones: checks the log line, null pointers, kept counts, and
 // that no block is left.
-TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
+TEST_P(EveryMessage, failed_allocation_leaks_nothing)
 {
     Random chance = random(5);
     const ByteString bytes = model::compact_form(model::random_record(message(), Density::full, chance));

@@ -319,7 +319,7 @@ std::vector<Case> cases_of_the_corpus()
     return cases;
 }
 
-TEST_F(Dissector, shows_what_the_model_reads_and_stops_where_it_stops)
+TEST_F(Dissector, matches_the_model_in_fields_and_refusals)
 {
     std::vector<Case> cases = cases_of_all_messages();
     for (Case& one : cases_of_the_corpus())
@@ -334,7 +334,7 @@ TEST_F(Dissector, shows_what_the_model_reads_and_stops_where_it_stops)
     EXPECT_EQ(verdicts.size(), 15u) << testing::PrintToString(verdicts);
 }
 
-TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
+TEST_F(Dissector, shows_the_verdict_even_if_the_tree_is_shortened)
 {
     const Message& message = *expected_catalogue().find("ntvifit_entry_list_mdtlm");
     Record list = zero_record(message);
@@ -353,7 +353,7 @@ TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
         EXPECT_TRUE(shown.is_shortened);
 }
 
-TEST_F(Dissector, names_packets_that_are_no_messages)
+TEST_F(Dissector, reports_packets_that_are_not_messages)
 {
     const u32 id = expected_catalogue().messages[0].id;
     const Bytes bytes = compact_form(zero_record(expected_catalogue().messages[0]));
@@ -383,7 +383,7 @@ TEST_F(Dissector, names_packets_that_are_no_messages)
     EXPECT_EQ(number, std::size(packets));
 }
 
-TEST_F(Dissector, finds_messages_by_their_fields)
+TEST_F(Dissector, display_filters_match_fields)
 {
     const auto record_of = [](const char* name, std::string_view text) {
         const Message& message = *expected_catalogue().find(name);

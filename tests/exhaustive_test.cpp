@@ -148,7 +148,7 @@ class EveryFault : public EveryMessageTest {};
 
 KESTO_FOR_EVERY_MESSAGE(EveryFault);
 
-TEST_P(EveryFault, any_other_value_of_any_byte)
+TEST_P(EveryFault, every_value_of_every_byte)
 {
     for (const ByteString& whole : full_samples(message())) {
         Sample sample{message(), whole};
@@ -165,7 +165,7 @@ TEST_P(EveryFault, any_other_value_of_any_byte)
     }
 }
 
-TEST_P(EveryFault, border_values_of_any_word)
+TEST_P(EveryFault, boundary_values_of_every_word)
 {
     for (const ByteString& whole : full_samples(message())) {
         Sample sample{message(), whole};
@@ -210,7 +210,7 @@ class EveryShape : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(All, EveryShape, testing::ValuesIn(built_shapes()),
                          [](const auto& each) { return std::string(each.param); });
 
-TEST_P(EveryShape, border_values_of_any_two_words)
+TEST_P(EveryShape, boundary_values_of_every_pair_of_words)
 {
     const model::Message& message = *expected_catalogue().find(GetParam());
     for (const ByteString& whole : full_samples(message)) {

@@ -166,7 +166,7 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
 
 // The same with literal numbers: elements of 256 bytes, of which 2^24 take 2^32 bytes, and elements with owned blocks
 // in an array that holds one but not two.
-TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits_is_released)
+TEST(WrappedBlock, zero_size_is_logged_by_the_vector_and_elements_that_fit_are_released)
 {
     const struct {
         const char* message;

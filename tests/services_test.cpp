@@ -157,7 +157,7 @@ class EveryOffer : public testing::TestWithParam<Offer> {};
 INSTANTIATE_TEST_SUITE_P(All, EveryOffer, testing::ValuesIn(offers),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
+TEST_P(EveryOffer, is_looked_up_once_per_unit_and_never_mixed_with_malloc)
 {
     expect_in_child([&](Verdict& verdict) {
         offer = &GetParam();
@@ -176,7 +176,7 @@ TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
     });
 }
 
-TEST(Services, are_not_looked_up_without_need)
+TEST(Services, are_looked_up_only_when_needed)
 {
     expect_in_child([](Verdict& verdict) {
         ifit_dfx_datetime_mesh record{};
@@ -200,7 +200,7 @@ TEST(Services, are_not_looked_up_without_need)
 }
 
 // Each message is the first that its process decodes, in every form, by fast paths and by general paths.
-TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
+TEST(Services, are_looked_up_before_any_allocation_or_write_to_the_record)
 {
     for (const model::Message& message : expected_catalogue().messages) {
         model::Random chance(message.id);
@@ -225,7 +225,7 @@ TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_a
     }
 }
 
-TEST(Services, are_looked_up_by_whichever_operation_comes_first)
+TEST(Services, are_looked_up_whichever_operation_comes_first)
 {
     static const ifit_dfx_datetime_mesh plain[2] = {};
     static const ifit_dfx_query_comm_param_mesh with_block[2] = {};
@@ -262,7 +262,7 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
 }
 
 // While one thread is in a look-up, another one uses the same unit. It must wait and then finds everything.
-TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
+TEST(Services, are_found_by_a_thread_that_arrives_during_a_lookup)
 {
     for (const Service& service : services)
         expect_in_child([&](Verdict& verdict) {

@@ -36,7 +36,7 @@ std::vector<ordered_json> lines_of(const std::string& name)
 
 ordered_json files() { return ordered_json::parse(read_file(folder + "manifest.json"))["files"]; }
 
-TEST(Vectors, are_whole_and_what_is_printed_today)
+TEST(Vectors, are_complete_and_up_to_date)
 {
     const std::string printed = testing::TempDir() + "kesto_vectors_" + std::to_string(getpid());
     std::filesystem::create_directory(printed);
@@ -62,7 +62,7 @@ TEST(Vectors, are_whole_and_what_is_printed_today)
     EXPECT_LT(size, 2u << 20);
 }
 
-TEST(Vectors, say_what_the_library_does_with_each)
+TEST(Vectors, match_the_library)
 {
     std::map<std::string, std::set<std::string>> cases;   // record cases, by message
     std::map<std::string, int> often;                     // hostile byte strings per result; "" if accepted

@@ -122,7 +122,7 @@ constexpr TraceCase trace_cases[] = {
      "ifit_smooth_mesh_unpack_non_root logs 22 [KESTO]:Vtable Len(21) is out of range(0 - 20)\n", "{5 {0 0}}"},
 };
 
-TEST(WrittenOut, traces_are_met)
+TEST(WrittenOut, traces_match)
 {
     DecodeCheck check;
     for (const TraceCase& each : trace_cases) {
@@ -215,7 +215,7 @@ constexpr EdgeCase edge_cases[] = {
     {"ifit_sync_ifit_rule_update", "0c000000 0800 0000 0000 0400 08000000 000000", "cell_end", "zero"},
 };
 
-TEST(WrittenOut, edges_of_every_test_are_on_the_right_side)
+TEST(WrittenOut, every_bound_is_exact)
 {
     DecodeCheck check;
     for (const EdgeCase& edge : edge_cases) {

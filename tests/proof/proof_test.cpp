@@ -348,7 +348,7 @@ const Contract contracts[] = {
     {"element_table", element_table_is_found, 2},
 };
 
-TEST(Reader, keeps_its_contracts_for_every_length_and_every_byte_string)
+TEST(Reader, contracts_hold_for_every_length_and_content)
 {
     for (const Contract& contract : contracts) {
         const Verdict verdict = SymbolicWorld(least_length).explore(contract.program);
@@ -358,7 +358,7 @@ TEST(Reader, keeps_its_contracts_for_every_length_and_every_byte_string)
 }
 
 // Also tests that a proof can fail.
-TEST(Reader, relies_on_the_least_length)
+TEST(Reader, contracts_need_the_minimum_length)
 {
     EXPECT_NE(SymbolicWorld(least_length - 1).explore(root_is_the_first_word).counterexample, "");
 }
@@ -426,7 +426,7 @@ void expect_every_slot_to_be_bounded()
     }
 }
 
-TEST(Lanes, bound_every_slot)
+TEST(Lanes, check_the_bounds_of_every_slot)
 {
     [&]<std::size_t... N>(std::index_sequence<N...>) { (expect_every_slot_to_be_bounded<N + 1>(), ...); }
     (std::make_index_sequence<13>());

@@ -96,7 +96,7 @@ std::size_t memory_of(Work work)
     return most;
 }
 
-TEST(Memory, of_a_decode_stays_below_what_is_allowed)
+TEST(Memory, decode_stays_within_its_limit)
 {
     const struct {
         const char* message;
@@ -129,7 +129,7 @@ TEST(Memory, of_a_decode_stays_below_what_is_allowed)
     }
 }
 
-TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
+TEST(Memory, explanation_is_bounded_for_hostile_packets)
 {
     const model::Message& message = *find_message("ifit_flow_base_mesh_update");
     command::ExplainChoices as_json;
@@ -143,7 +143,7 @@ TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
 }
 
 // Bytes produced by a message's own writer are never read twice.
-TEST(Tries, end_where_bytes_are_read_again)
+TEST(Tries, stop_when_bytes_are_read_again)
 {
     const Bytes bytes = many_elements(0);
     const command::Fitting fitting = command::fitting_messages(bytes, bytes.size());

@@ -29,7 +29,7 @@ constexpr const char item[] = "ifit_dfx_query_glbdata_item_mesh";
 constexpr const char hello[] = "0a000000060012000400060000000400000005000000"
                                "68656c6c6f00";
 
-TEST(CommandLine, takes_bytes_and_hex_from_everywhere)
+TEST(CommandLine, reads_bytes_and_hex_from_every_source)
 {
     const std::string decoded = "{\"f0\":\"hello\"}\n";
     const std::string printf_hello = std::string("printf '") + hello + "' |";
@@ -169,7 +169,7 @@ TEST_F(Files, diff_compares_records_and_not_bytes)
     EXPECT_EQ(kesto(diff + "/dev/null").exit_code, 2);
 }
 
-TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
+TEST_F(Files, foreign_text_is_escaped)
 {
     const std::string named = std::string(" ") + item + " ";
     const auto check = [&](const std::string& arguments, const std::string& input, const std::string& says) {
@@ -201,7 +201,7 @@ TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
     }
 }
 
-TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
+TEST_F(Files, text_fields_are_escaped_and_keep_their_value)
 {
     const std::string named = std::string(" ") + item + " ", a = path("a"), b = path("b");
     write_file(b, bytes_from_hex(hello));
@@ -262,7 +262,7 @@ Bytes capture_of_odd_times()
     return capture;
 }
 
-TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
+TEST_F(Files, packets_are_reported_one_by_one_and_one_bad_one_fails)
 {
     const std::string file = path("capture"), broken = path("broken"), odd = path("odd"), odder = path("odder");
     Bytes capture = capture_of_six();
@@ -315,7 +315,7 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
 #endif
 
 // Text from the byte string must not become part of the page.
-TEST_F(Files, a_page_holds_foreign_text_as_text)
+TEST_F(Files, page_escapes_foreign_text)
 {
     const std::string encode = "echo '{\"f0\":\"<script>alert(1)</script>&\\\"\"}' | '" KESTO_PROGRAM "' encode ";
     EXPECT_EQ(kesto(std::string("explain ") + item + " --html " + path("page"), encode + item + " |").exit_code, 0);

@@ -57,7 +57,7 @@ protected:
     DecodeCheck check_;
 };
 
-TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
+TEST_F(Verdicts, match_the_library_on_the_fuzz_corpus)
 {
     std::vector<ByteString> inputs;
     std::string error;
@@ -80,7 +80,7 @@ std::vector<const model::Message*> known_messages()
 
 INSTANTIATE_TEST_SUITE_P(All, Verdicts, testing::ValuesIn(known_messages()), name_of_case);
 
-TEST_P(Verdicts, of_strange_and_of_truncated_layouts_are_the_librarys)
+TEST_P(Verdicts, match_the_library_on_noncanonical_and_truncated_layouts)
 {
     Random chance(message().id);
     for (int round = 0; round < 12; ++round) {
@@ -97,7 +97,7 @@ class Ranges : public EveryMessageTest {};
 INSTANTIATE_TEST_SUITE_P(All, Ranges, testing::ValuesIn(known_messages()), name_of_case);
 
 // In encoded byte strings nothing is unread and nothing is odd, except text of random octets.
-TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
+TEST_P(Ranges, cover_every_byte_of_encoded_records_once)
 {
     Random chance(message().id);
     for (const Density density : model::densities)
@@ -152,7 +152,7 @@ ByteString damaged(ByteString whole, std::size_t at, const char* hex_text)
 }
 
 // The range that was read last is the origin of the refused number.
-TEST(Refusals, mark_what_was_read_last)
+TEST(Refusals, mark_the_last_range_read)
 {
     const ByteString bytes = damaged(one_element(), 24, "0f");
     const Explanation explanation = explain(*find_message(keys), bytes);
@@ -170,7 +170,7 @@ std::vector<std::string> codes_of(const Explanation& explanation)
     return codes;
 }
 
-TEST(Notes, tell_what_passes_without_a_word)
+TEST(Notes, report_oddities_that_the_decoder_accepts_silently)
 {
     const struct {
         const char* message;
@@ -200,7 +200,7 @@ TEST(Notes, tell_what_passes_without_a_word)
         EXPECT_EQ(codes_of(explain(*find_message(each.message), each.bytes)), each.codes) << model::to_hex(each.bytes);
 }
 
-TEST(Texts, cannot_steer_a_terminal)
+TEST(Texts, cannot_control_a_terminal)
 {
     const struct {
         std::string text, shown;
@@ -218,7 +218,7 @@ TEST(Texts, cannot_steer_a_terminal)
 }
 
 // X__pack counts 8 bytes for a block with a pointer and length 0 and does not write them.
-TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
+TEST(Origins, recognise_bytes_that_are_counted_but_not_written)
 {
     Record record = model::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));
     record.fields[2].present = true;

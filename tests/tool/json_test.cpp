@@ -13,7 +13,7 @@ namespace {
 
 using command::find_message;
 
-TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
+TEST(JsonText, distinguishes_null_empty_and_invalid_text)
 {
     const model::Message& message = *find_message("ifit_dfx_query_glbdata_item_mesh");
     for (const char* text : {R"({"f0":null})", R"({"f0":""})", R"({"f0":"\"a\"\n\u00e9"})", R"({"f0":{"hex":"ff"}})",
@@ -24,7 +24,7 @@ TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
     }
 }
 
-TEST(JsonText, that_is_wrong_is_refused_with_the_place)
+TEST(JsonText, errors_name_the_field_or_the_input)
 {
     std::string crowded = R"({"f0":0)";
     for (int k = 1; k < 1000; ++k)
