@@ -45,8 +45,8 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EverySend);
 
-// One record is sent as a single message, two or more as one batch, none not at all. A direct batch of none goes to
-// MESH.
+// sendmsg and sendtomsg refuse a count of 0, send one record as a single message and more as a batch. sendbatch itself
+// passes an empty batch to MESH.
 TEST_P(EverySend, record_count_selects_single_send_or_batch)
 {
     const std::vector<Record> made = records(3);
@@ -178,10 +178,10 @@ TEST_P(EverySend, every_operation_refuses_a_vector_with_a_count_and_a_null_point
         std::memcpy(field, &count, sizeof count);
         std::memset(field + sizeof(void*), 0, sizeof(void*));
         std::vector<std::uint8_t> buffer(pool);
-        for (const std::uint32_t room : {4U, message().compact_zero, message().compact_zero + 16, pool}) {
-            std::uint32_t length = room;
+        for (const std::uint32_t capacity : {4U, message().compact_zero, message().compact_zero + 16, pool}) {
+            std::uint32_t length = capacity;
             EXPECT_EQ(library().pack(memory.data(), buffer.data(), &length), -1);
-            EXPECT_EQ(length, room);
+            EXPECT_EQ(length, capacity);
         }
         EXPECT_EQ(library().sendsingle(1, memory.data(), 0, 0), -1);
         EXPECT_EQ(library().sendbatch(1, memory.data(), 1, 0), -1);

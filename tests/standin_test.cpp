@@ -35,10 +35,10 @@ void in_threads(const std::function<void(uint32_t)>& work)
         one.join();
 }
 
-std::string said(const std::function<void()>& on_stderr)
+std::string stderr_of(const std::function<void()>& work)
 {
     testing::internal::CaptureStderr();
-    on_stderr();
+    work();
     return testing::internal::GetCapturedStderr();
 }
 
@@ -64,7 +64,7 @@ protected:
         ASSERT_EQ(mesh_standin_connect(2, socket_path.c_str(), 0), 0);
     }
 
-    // The other side of channel 1 without the stand-in's own framing.
+    // A peer of channel 1 that sends arbitrary packets.
     int raw_peer() const
     {
         const int peer = socket(AF_UNIX, SOCK_SEQPACKET, 0);
@@ -111,13 +111,13 @@ TEST_F(Mesh, loopback_delivers_in_order_and_continues_after_a_failure)
 
 TEST_F(Mesh, each_bad_argument_has_its_own_result_and_delivers_nothing)
 {
-    const MeshSendItem hollow[] = {{reinterpret_cast<const uint8_t*>("x"), 7, 1}, {nullptr, 7, 1}};
-    for (const int result : {MESH_SendMsg(0, nullptr, 1), MESH_SendMsg(0, hollow, 2), mesh_standin_listen(1, nullptr),
-                             MESH_RegIDLFuncHook(9, nullptr, note_free), MESH_RegIDLFuncHook(9, note_unpack, nullptr),
-                             MESH_RegIDLResorceCleanFuncHook(nullptr)})
+    const MeshSendItem null_data[] = {{reinterpret_cast<const uint8_t*>("x"), 7, 1}, {nullptr, 7, 1}};
+    for (const int result : {MESH_SendMsg(0, nullptr, 1), MESH_SendMsg(0, null_data, 2),
+                             mesh_standin_listen(1, nullptr), MESH_RegIDLFuncHook(9, nullptr, note_free),
+                             MESH_RegIDLFuncHook(9, note_unpack, nullptr), MESH_RegIDLResorceCleanFuncHook(nullptr)})
         EXPECT_EQ(result, MESH_STANDIN_BAD_ARGUMENT);
     for (const int result :
-         {MESH_SendMsg(64, hollow, 1), MESH_SendToMsg(UINT32_MAX, hollow, 1, 1), mesh_standin_listen(64, "x"),
+         {MESH_SendMsg(64, null_data, 1), MESH_SendToMsg(UINT32_MAX, null_data, 1, 1), mesh_standin_listen(64, "x"),
           mesh_standin_receive(64, 0), mesh_standin_close(64), mesh_standin_set_consumer(64, keep, nullptr)})
         EXPECT_EQ(result, MESH_STANDIN_UNKNOWN_CHANNEL);
     for (const std::string& bad : {std::string(), std::string(108, 'x')})
@@ -311,7 +311,7 @@ TEST_F(Capture, replaces_only_captures_and_is_private_to_its_owner)
 {
     const auto expect_refused = [&](const std::string& content, const char* why) {
         const std::string line =
-            said([&] { EXPECT_EQ(mesh_standin_capture(path.c_str()), MESH_STANDIN_BAD_PATH) << content; });
+            stderr_of([&] { EXPECT_EQ(mesh_standin_capture(path.c_str()), MESH_STANDIN_BAD_PATH) << content; });
         EXPECT_NE(line.find(why), std::string::npos) << line;
         EXPECT_EQ(send_text(3, 7, "x"), 0);
         EXPECT_EQ(bytes_of(path), content);
@@ -376,9 +376,9 @@ TEST_F(Capture, concurrent_threads_write_whole_packets)
 }
 
 // Runs a child that sends with the parent's capture; returns its output on stderr.
-std::string said_by_child(pid_t& child)
+std::string stderr_of_child(pid_t& child)
 {
-    return said([&] {
+    return stderr_of([&] {
         child = fork();
         if (child == 0)
             _exit(send_text(3, 7, "child") | send_text(3, 7, "child again"));
@@ -393,14 +393,14 @@ TEST_F(Capture, two_processes_never_share_a_file)
     ASSERT_EQ(mesh_standin_capture(path.c_str()), 0);
     pid_t child = 0;
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
-    EXPECT_EQ(said_by_child(child), "mesh stand-in: no capture to " + path +
-                                        ": another process writes it; %p in the name stands for the process id\n");
+    EXPECT_EQ(stderr_of_child(child), "mesh stand-in: no capture to " + path +
+                                          ": another process writes it; %p in the name stands for the process id\n");
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
     EXPECT_EQ(packets_in(path), (Lines{note("parent"), note("parent")}));
 
     ASSERT_EQ(mesh_standin_capture((path + "%p.x").c_str()), 0);
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
-    EXPECT_EQ(said_by_child(child), "");
+    EXPECT_EQ(stderr_of_child(child), "");
     EXPECT_EQ(packets_in(path + std::to_string(getpid()) + ".x"), Lines{note("parent")});
     EXPECT_EQ(packets_in(path + std::to_string(child) + ".x"), (Lines{note("child"), note("child again")}));
 }
@@ -409,7 +409,7 @@ TEST_F(Capture, write_error_is_reported_once_and_messages_still_pass)
 {
     for (const std::string& bad : {folder.string(), path + "/no/file", std::string("/dev/null"), std::string(5000, 'x'),
                                    std::string(2000, 'x') + std::string(2000, '%') + "p"}) {
-        const std::string lines = said([&] {
+        const std::string lines = stderr_of([&] {
             EXPECT_EQ(mesh_standin_capture(bad.c_str()), MESH_STANDIN_BAD_PATH) << bad;
             EXPECT_EQ(send_text(3, 7, "x") | send_text(3, 7, "x"), 0);
         });
@@ -498,7 +498,7 @@ TEST_F(Osal, releasing_a_block_that_is_not_live_aborts_with_a_reason)
 TEST_F(Osal, each_log_record_is_one_line)
 {
     const OsalLogDescriptor who{"KESTO", "KESTO_MARLOCK_SERIAL", 0x6200, 0};
-    const std::string written = said([&] {
+    const std::string written = stderr_of([&] {
         RVL_OsalLogWrite(&who, 2, 22, "", 1, "a_unpack", "[KESTO]:Table offset(%u) is out of range(4 - %u)", 3u, 22u);
         RVL_OsalLogWrite(&who, 2, 12, "", 1, "b", "two\nlines %s", std::string(5000, 'x').c_str());
         plan.write_log = 0;
@@ -518,7 +518,7 @@ TEST_F(Osal, environment_sets_the_plan_and_bad_values_are_reported_and_ignored)
     OsalStandinPlan now{};
     const auto complaint = [&](const std::string& name, const std::string& value) {
         setenv(name.c_str(), value.c_str(), 1);
-        const std::string line = said(osal_standin_read_environment);
+        const std::string line = stderr_of(osal_standin_read_environment);
         unsetenv(name.c_str());
         osal_standin_plan(&now);
         return line;

@@ -100,7 +100,7 @@ protected:
     void SetUp() override { start_notes(); }
 
     // The next packet must be the one sent now; nothing from an earlier call is still in transit.
-    static void expect_nothing_under_way()
+    static void expect_nothing_in_transit()
     {
         seen.clear();
         EXPECT_EQ(send_text(1, 7, "mark"), MESH_STANDIN_OK);
@@ -143,7 +143,7 @@ TEST_F(ZeroMq, each_receive_delivers_one_item_in_order_even_after_an_unknown_id)
     ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
     EXPECT_EQ(std::filesystem::file_size(capture), 24 + 2 * (4 * (16 + 8) + 1 + 1 + 0 + MESH_STANDIN_ITEM_BYTES))
         << "each item that left, and each that came";
-    expect_nothing_under_way();
+    expect_nothing_in_transit();
 }
 
 TEST_F(ZeroMq, batch_is_sent_whole_or_not_at_all)
@@ -151,12 +151,12 @@ TEST_F(ZeroMq, batch_is_sent_whole_or_not_at_all)
     const std::string a = "a", too_long(MESH_STANDIN_ITEM_BYTES + 1, 'c');
     const MeshSendItem long_one[] = {item(7, a), item(7, too_long)}, three[] = {item(7, a), item(7, a), item(7, a)};
     EXPECT_EQ(MESH_SendMsg(1, long_one, 2), MESH_STANDIN_TOO_LONG);
-    expect_nothing_under_way();
+    expect_nothing_in_transit();
     for (const char* operation : {"init_size", "send"})
         for (int k = 0; k < 3; ++k) {
             planned = {operation, k};
             EXPECT_EQ(MESH_SendMsg(1, three, 3), MESH_STANDIN_NO_MEMORY) << operation << " " << k;
-            expect_nothing_under_way();
+            expect_nothing_in_transit();
         }
 }
 
@@ -165,8 +165,8 @@ TEST_F(ZeroMq, oversized_part_disconnects_the_sender)
 {
     void* const context = zmq_ctx_new();
     void* const foreign = zmq_socket(context, ZMQ_PUSH);
-    const int patience = 0;
-    zmq_setsockopt(foreign, ZMQ_LINGER, &patience, sizeof patience);
+    const int linger_ms = 0;
+    zmq_setsockopt(foreign, ZMQ_LINGER, &linger_ms, sizeof linger_ms);
     ASSERT_EQ(zmq_connect(foreign, address("two").c_str()), 0);
     const std::string part(MESH_STANDIN_ITEM_BYTES + 9, 'p');
     for (const std::size_t length : {part.size() - 1, part.size()}) {
@@ -206,16 +206,16 @@ TEST_F(ZeroMq, no_peer_is_admitted_after_admission_has_failed)
         GTEST_SKIP() << "everybody is admitted";
     const std::string x = "x";
     const MeshSendItem two[] = {item(7, x), item(7, x)};
-    const auto begin_a_new_connection = [&] {
+    const auto reconnect = [&] {
         planned = {"send", 1};
         EXPECT_EQ(MESH_SendMsg(1, two, 2), MESH_STANDIN_NO_MEMORY);
     };
     frames_before_admission_fails = 6;   // the seven of one request; it already waits for the first one
-    begin_a_new_connection();
-    expect_nothing_under_way();
+    reconnect();
+    expect_nothing_in_transit();
     while (frames_before_admission_fails >= 0)
         std::this_thread::yield();
-    begin_a_new_connection();
+    reconnect();
     EXPECT_EQ(MESH_SendMsg(1, two, 1), MESH_STANDIN_TIMEOUT) << "nobody has answered in five seconds";
 }
 

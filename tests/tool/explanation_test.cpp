@@ -26,15 +26,15 @@ using model::Density;
 using model::Random;
 using model::Record;
 
-constexpr std::uint64_t most_memory = 1 << 24;   // limit for the library in a test
+constexpr std::uint64_t max_memory = 1 << 24;   // limit for the library in a test
 
 // The library decodes while its log lines are recorded. The model, which is compared with it, gives the outcome.
 class Verdicts : public EveryMessageTest {
 protected:
-    void expect_true(const model::Message& message, const ByteString& bytes)
+    void expect_library_agrees(const model::Message& message, const ByteString& bytes)
     {
         const Explanation explanation = explain(*find_message(message.name), bytes);
-        if (explanation.memory > most_memory)
+        if (explanation.memory > max_memory)
             return;
         std::vector<std::string> lines;
         services().lines = &lines;
@@ -66,7 +66,7 @@ TEST_F(Verdicts, match_the_library_on_the_fuzz_corpus)
         const model::Message* const message = fuzz::message_of(expected_catalogue(), input.data(), input.size());
         if (message == nullptr || input.size() < fuzz::before_bytes)
             continue;
-        ASSERT_NO_FATAL_FAILURE(expect_true(*message, {input.begin() + fuzz::before_bytes, input.end()}));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(*message, {input.begin() + fuzz::before_bytes, input.end()}));
     }
 }
 
@@ -86,9 +86,9 @@ TEST_P(Verdicts, match_the_library_on_noncanonical_and_truncated_layouts)
     for (int round = 0; round < 12; ++round) {
         const Record record = model::random_record(message(), model::densities[round % 4], chance);
         ByteString bytes = model::noncanonical_layout(record, chance);
-        ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(message(), bytes));
         bytes.resize(chance.below(static_cast<std::uint32_t>(bytes.size())));
-        ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(message(), bytes));
     }
 }
 

@@ -1,4 +1,4 @@
-// Converts records to JSON and back: nothing is lost, and nothing is guessed. vectors_test does this for every message.
+// Converts records to JSON and back without loss. vectors_test does this for every message.
 
 #include <gtest/gtest.h>
 
@@ -48,8 +48,8 @@ TEST(JsonText, errors_name_the_field_or_the_input)
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f26":[1,2,3,4294967296]})", ".f26[3]: "},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"18446744073709551616"})", ".f7: "},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"0x1"})", ".f7: "},
-        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: \"f1\" stands twice"},
-        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: no JSON"},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: duplicate name \"f1\""},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: invalid JSON"},
         {"ifit_dfx_query_queryhash_item_mesh", "[[[[[[[[[[[[[[[[[[[[", "text: nested deeper"},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1e400})", "text: a number is out of range"},
         {"ifit_dfx_query_queryhash_item_mesh", crowded.c_str(), "text: an object has more names"},
