@@ -5,10 +5,10 @@
 -- It makes the same tests as the decoder in the same order and stops where the decoder stops. A vector whose array size
 -- wraps at 4 GiB cannot occur, as a packet has at most 256 KiB.
 --
--- Positions count from the start of the byte string, which follows the packet header. Numbers are Lua numbers: sums of
+-- Positions count from the start of the byte string, which follows the packet's head. Numbers are Lua numbers: sums of
 -- u32 are exact in all versions of Lua and are reduced modulo 2^32 explicitly.
 
-local header_length = 8
+local head_length = 8
 local max_items = 20000 -- in the tree of a packet; a text or a block counts as one more per 64 bytes
 local two_to_32 = 4294967296
 
@@ -264,14 +264,14 @@ local function declare(field)
     return field
 end
 
-local packet_fields = {
+local of_packet = {
     id = declare(ProtoField.uint32("kesto.id", "id", base.HEX)),
     length = declare(ProtoField.uint32("kesto.length", "length")),
     message = declare(ProtoField.string("kesto.message", "message")),
     fault = declare(ProtoField.string("kesto.packet_fault", "packet fault")),
 }
 
-local piece_fields = {
+local of_piece = {
     root = declare(ProtoField.uint32("kesto.root", "root", base.DEC_HEX)),
     vtable_offset = declare(ProtoField.uint32("kesto.vtable_offset", "vtable offset", base.DEC_HEX)),
     vtable_length = declare(ProtoField.uint16("kesto.vtable_length", "vtable length")),
@@ -403,7 +403,7 @@ end
 -- A range, clipped to the byte string.
 function Reader:range(at, length)
     local from = math.min(at, self.length)
-    return self.buffer(header_length + from, math.min(length, self.length - from))
+    return self.buffer(head_length + from, math.min(length, self.length - from))
 end
 
 function Reader:may_show(tree, length)
@@ -438,7 +438,7 @@ end
 
 function Reader:word_at(tree, piece, at, width)
     self.word = { at, width }
-    return self:number(at, width), self:show(tree, piece_fields[piece], at, width)
+    return self:number(at, width), self:show(tree, of_piece[piece], at, width)
 end
 
 -- ---- refusals ----
@@ -496,7 +496,7 @@ function Reader:open_vtable(tree, vtable)
         return self:refuse(item, "vtable_length", vtable, length, remaining)
     end
     if length >= 4 then
-        self:show(item, piece_fields.table_length, vtable + 2, 2)
+        self:show(item, of_piece.table_length, vtable + 2, 2)
     end
     return true, item, length
 end
@@ -687,15 +687,15 @@ end
 -- ---- one packet ----
 
 local function not_a_message(item, range, fault, text)
-    item:add(packet_fields.fault, range, fault):add_proto_expert_info(packet_expert, text)
+    item:add(of_packet.fault, range, fault):add_proto_expert_info(packet_expert, text)
     return text
 end
 
 -- Returns the text for the info column.
 local function read_byte_string(buffer, item, message)
     local reader = setmetatable({
-        bytes = buffer:raw(header_length),
-        length = buffer:captured_len() - header_length,
+        bytes = buffer:raw(head_length),
+        length = buffer:captured_len() - head_length,
         buffer = buffer,
         root_item = item,
         remaining = max_items,
@@ -720,22 +720,22 @@ local function read_packet(buffer, item)
         return not_a_message(item, buffer(), "cut",
             string.format("The capture holds %d of the packet's %d bytes", captured, reported))
     end
-    if captured < header_length then
+    if captured < head_length then
         return not_a_message(item, buffer(), "short_packet",
             string.format("A packet of %d bytes is too short for id and length", captured))
     end
     local id, length = buffer(0, 4):le_uint(), buffer(4, 4):le_uint()
     local message = messages[id]
-    item:add_le(packet_fields.id, buffer(0, 4))
-    item:add_le(packet_fields.length, buffer(4, 4))
-    if length ~= captured - header_length then
+    item:add_le(of_packet.id, buffer(0, 4))
+    item:add_le(of_packet.length, buffer(4, 4))
+    if length ~= captured - head_length then
         return not_a_message(item, buffer(4, 4), "length_disagrees",
-            string.format("The stated length is %d, but %d bytes follow", length, captured - header_length))
+            string.format("The stated length is %d, but %d bytes follow", length, captured - head_length))
     end
     if not message then
         return not_a_message(item, buffer(0, 4), "unknown_id", string.format("No message has the id 0x%08x", id))
     end
-    item:add(packet_fields.message, buffer(0, 4), message.name):set_generated()
+    item:add(of_packet.message, buffer(0, 4), message.name):set_generated()
     item:append_text(", " .. message.name)
     return read_byte_string(buffer, item, message)
 end
