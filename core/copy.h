@@ -41,7 +41,7 @@ constexpr u32 move_bytes = sizeof(void*);
 // Where moves are words, a stretch of this length or more is moved by a function that all layouts share: a call takes
 // some six instructions.
 constexpr u32 never = 0xFFFFFFFF;
-constexpr u32 long_stretch = move_bytes == 16 ? never : 48;
+constexpr u32 long_stretch = move_bytes == 16 ? never : 80;
 
 // Constants are cheaper inside the instructions of 32-bit x86 than in memory, and cheaper in memory on ARM, where a word
 // takes two instructions to make. Sixteen bytes always come from memory.

@@ -7,8 +7,9 @@
 #include "core/layout.h"
 #include "core/unit.h"
 
-// Hidden, so that 32-bit x86 calls them without a table of addresses.
-namespace [[gnu::visibility("hidden")]] kesto {
+#pragma GCC visibility push(hidden)
+
+namespace kesto {
 
 struct Frame;
 struct NestedDecoder;
@@ -21,6 +22,17 @@ struct SlotInfo {
     bool fault_ends_read;   // tables: a refused one ends the decoding of the enclosing message
     u16 count;              // arrays: number of values
     u16 record_offset;
+};
+
+// The fast paths of a flat layout as data; see InlinePaths in decode_fast.h.
+struct FlatPaths {
+    bool(KESTO_IN_REGISTERS* try_fixed)(const u8* bytes, u8* record);
+    bool(KESTO_IN_REGISTERS* try_dense)(const u8* bytes, u8* record);
+    bool(KESTO_IN_REGISTERS* try_table)(Input in, u32 table, u8* record);
+    u32 fixed_length;
+    u32 dense_root;
+    u32 dense_length;
+    u32 record_size;
 };
 
 struct Decoder;
@@ -43,6 +55,7 @@ struct Decoder {
     u32 owned_block_count;
     const OwnedBlock* owned_blocks;   // in slot order
     u32 record_size;
+    const FlatPaths* paths;   // null if they are inlined
 };
 
 // Decodes `count` elements into `records`, which need not be initialized. After a failure all of them are safe to
@@ -134,4 +147,6 @@ void release_record(const Decoder& decoder, u8* record);
 // The body of X_free__unpacked for a message with owned blocks.
 KESTO_ENTRY void free_unpacked(KESTO_WITH(const Decoder& decoder, void* record));
 
-}   // namespace gnu::visibility("hidden")]]kesto
+}   // namespace kesto
+
+#pragma GCC visibility pop

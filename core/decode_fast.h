@@ -59,15 +59,6 @@ template <class L>
            try_image<Form, L::is_short>(in.bytes_unchecked(at, 0, Form::length), record);   // image_fits
 }
 
-// A message in fixed form.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_fixed_message(Input in, u8* record)
-{
-    using Form = FixedImage<L>;
-    return holds_bytes(in, Form::length) &&
-           try_image<Form, L::is_short>(in.bytes_unchecked(0, 0, Form::length), record);   // holds_bytes
-}
-
 // ---- tables whose scalars all lie inside the input ----
 
 template <class L>
@@ -394,32 +385,113 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// Returns false if no fast path applies; decode_message then starts over. The memory services must have been looked up
-// before, because fast paths allocate through the unit's hooks without looking them up.
+// The fast paths of a flat layout, to be inlined; flat_paths has the same as data. The lengths are those of messages.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_message(Input in, u8* record, const Decoder& decoder)
+struct InlinePaths {
+    static constexpr u32 fixed_length = L::fixed_length;
+    static constexpr u32 dense_root = root_bytes + L::vtable_bytes;   // position of the root table
+    static constexpr u32 dense_length = root_bytes + DenseImage<L>::length;
+    static constexpr u32 record_size = L::record_size;
+
+    [[gnu::always_inline]] static bool try_fixed(const u8* bytes, u8* record)
+    {
+        return try_image<FixedImage<L>, !shares_entries>(bytes, record);
+    }
+    [[gnu::always_inline]] static bool try_dense(const u8* bytes, u8* record)
+    {
+        return try_image<DenseImage<L>, L::is_short>(bytes, record);
+    }
+    [[gnu::always_inline]] static bool try_table(Input in, u32 table, u8* record)
+    {
+        return try_short_table<L>(in, table, record);
+    }
+};
+
+template <class L>
+constexpr FlatPaths flat_paths{
+    .try_fixed = try_long_image<FixedImage<L>>,
+    .try_dense = try_long_image<DenseImage<L>>,
+    .try_table = try_flat_table<L>,
+    .fixed_length = L::fixed_length,
+    .dense_root = InlinePaths<L>::dense_root,
+    .dense_length = InlinePaths<L>::dense_length,
+    .record_size = L::record_size,
+};
+
+template <class L>
+constexpr const FlatPaths* paths_as_data()
+{
+    if constexpr (shares_entries && !L::has_owned_blocks)
+        return &flat_paths<L>;
+    else
+        return nullptr;
+}
+
+// A dense image is only looked for where our own writers put it, right after the root word.
+template <class Paths>
+[[nodiscard, gnu::always_inline]] inline bool try_flat_message(const Paths& paths, Input in, u8* record)
 {
     const u32 table = root_table(in);
-    if constexpr (L::has_vectors)   // and so is nested in no other table
-        return try_owning_table_here<L>(in, table, record, decoder, decoder.unpack_routine) != Reading::none;
-    else if constexpr (L::has_owned_blocks)
-        return try_owning_table<L>(in, table, record, decoder, decoder.unpack_routine) != Reading::none;
-    else
-        return (table == root_bytes ? try_fixed_message<L>(in, record) : try_dense_table<L>(in, table, record)) ||
-               try_short_table<L>(in, table, record);
+    if (table == root_bytes) {
+        if (holds_bytes(in, paths.fixed_length) &&
+            paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record))   // holds_bytes
+            return true;
+    } else if (table == paths.dense_root) {
+        if (holds_bytes(in, paths.dense_length) &&
+            paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes), record))   // the same
+            return true;
+    }
+    return paths.try_table(in, table, record);
 }
 
 // The body of X__unpack. required: returns the record's size on every path, but no caller can then detect a failure.
+//
+// The first decoding takes the general path, which looks the services up after the root's tests and before the first
+// store. Fast paths allocate through the unit's hooks without looking them up.
+template <class Try>
+[[gnu::always_inline]] inline u32 unpack_by(const Decoder& decoder, const u8* bytes, u32 length, u8* record,
+                                            const u32& record_size, const Try& try_message)
+{
+    if (may_decode(bytes, length, record) && has_memory_services(*decoder.unit) && try_message()) [[likely]]
+        return record_size;
+    return decode_message(KESTO_WITH(decoder, bytes, length, record));
+}
+
 template <class L>
 [[gnu::noinline]] KESTO_ENTRY u32 unpack(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record))
 {
-    // The first decoding takes the general path, which looks the services up after the root's tests and before the
-    // first store.
-    const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
-                      try_message<L>({bytes, length}, record, decoder);
-    if (!done) [[unlikely]]
-        return decode_message(KESTO_WITH(decoder, bytes, length, record));
-    return L::record_size;
+    return unpack_by(
+        decoder, bytes, length, record, L::record_size, [&]() __attribute__((always_inline)) {
+            const Input in{bytes, length};
+            if constexpr (!L::has_owned_blocks)
+                return try_flat_message(InlinePaths<L>{}, in, record);
+            else if constexpr (L::has_vectors)   // and so is nested in no other table
+                return try_owning_table_here<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
+                       Reading::none;
+            else
+                return try_owning_table<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
+                       Reading::none;
+        });
+}
+
+// The same for all flat layouts.
+[[gnu::noinline]] KESTO_ENTRY inline u32 unpack_flat(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length,
+                                                                u8* record))
+{
+    const FlatPaths& paths = *decoder.paths;
+    return unpack_by(
+        decoder, bytes, length, record, paths.record_size, [&]() __attribute__((always_inline)) {
+            return try_flat_message(paths, {bytes, length}, record);
+        });
+}
+
+template <class L>
+constexpr auto unpack_entry()
+{
+    if constexpr (shares_entries && !L::has_owned_blocks)
+        return &unpack_flat;
+    else
+        return &unpack<L>;
 }
 
 }   // namespace kesto

@@ -113,24 +113,4 @@ KESTO_IN_REGISTERS u64 measure_elements(const u8* records, u32 count, const Nest
     }
 }
 
-// The size of a whole message. 0 for a null record and for a size that does not fit in 32 bits.
-template <class L>
-KESTO_IN_REGISTERS u32 measure_message(const u8* record, const NestedEncoder* nested)
-{
-    if (record == nullptr)
-        return 0;
-    const u64 size = root_bytes + measure_table<L, Measure::exactly>(record, nested);
-    return size <= largest_size ? static_cast<u32>(size) : 0;
-}
-
-// The capacity from which on the packer may run without measuring first. No buffer has it if it exceeds 32 bits.
-template <class L>
-KESTO_IN_REGISTERS u64 bound_message(const u8* record, const NestedEncoder* nested)
-{
-    if constexpr (!L::has_owned_blocks)
-        return root_bytes + DenseImage<L>::length;
-    else
-        return root_bytes + measure_table<L, Measure::bound>(record, nested);
-}
-
 }   // namespace kesto

@@ -360,12 +360,4 @@ KESTO_IN_REGISTERS u8* write_elements(u8* cells, u32 count, u8* at, const u8* re
     return at;
 }
 
-// Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
-template <class L>
-KESTO_IN_REGISTERS u8* write_message(u8* buffer, const u8* record, const NestedEncoder* nested)
-{
-    store(buffer, root_bytes + L::vtable_bytes);
-    return write_table<L>(buffer + root_bytes, record, nested);
-}
-
 }   // namespace kesto

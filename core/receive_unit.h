@@ -10,7 +10,9 @@
 #include "core/routine_name.h"
 #include "platform/mesh.h"
 
-namespace [[gnu::visibility("hidden")]] kesto {
+#pragma GCC visibility push(hidden)
+
+namespace kesto {
 
 // The constants of one message, made from its type in the catalogue and the unit that decodes it.
 template <class Message, Unit* unit>
@@ -67,6 +69,7 @@ struct Receiving {
         .owned_block_count = owned_block_count<L>,
         .owned_blocks = owned_blocks.data(),
         .record_size = L::record_size,
+        .paths = paths_as_data<L>(),
     };
 };
 
@@ -80,4 +83,6 @@ struct Registration {
 // Registers the messages in order. Stops at the first result that is not 0 and returns it; returns 0 otherwise.
 int register_messages(std::span<const Registration> messages);
 
-}   // namespace gnu::visibility("hidden")]]kesto
+}   // namespace kesto
+
+#pragma GCC visibility pop

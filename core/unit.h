@@ -10,7 +10,10 @@
 #include "core/wire.h"
 #include "platform/osal.h"
 
-namespace [[gnu::visibility("hidden")]] kesto {
+// Hidden declarations are called without a table of addresses, which costs a register on 32-bit x86.
+#pragma GCC visibility push(hidden)
+
+namespace kesto {
 
 using Allocate = void* (*)(u32 size, u32 module, const char* caller);
 using Release = void (*)(void* pointer, u32 module, const char* caller);
@@ -64,4 +67,6 @@ void log_table_fault(Unit& unit, const char* routine, TableFault fault, const In
 void log_allocation(Unit& unit, const char* routine, u32 size);
 void log_pack_parameters(Unit& unit, const char* routine, const void* buffer, u32 capacity, const void* record);
 
-}   // namespace gnu::visibility("hidden")]]kesto
+}   // namespace kesto
+
+#pragma GCC visibility pop
