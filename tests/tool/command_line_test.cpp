@@ -77,6 +77,11 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
         {"explain glbdata_item --hex 00", 2, item},
+        {"explain 'glbdata rec' --hex 00", 2, "did you mean ifit_dfx_query_glbdata_rec_mesh"},
+        {"explain 'level 2 code 22 ifit_dfx_query_glbdata_item_mesh_unp' --hex 00", 2, item},   // cut by the log
+        {"explain ifit_dfx_query_glbdata_item_mesh_removed --hex 00", 2, item},
+        {"explain 'ifit_dfx_datetime_mesh ifit_dfx_query_glbdata_item_mesh' --hex 00", 2,
+         "names 2 messages: ifit_dfx_d"},
         {"explain --hex 00", 2, "a MESSAGE is needed"},
         {"explain" + named + " --no-such-option", 2, "--no-such-option"},
         {"", 2, "subcommand"},
@@ -95,6 +100,22 @@ TEST(CommandLine, exits_with_0_1_and_2)
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
     }
+}
+
+// As programs, headers and logs name a message.
+TEST(CommandLine, knows_a_message_by_whatever_names_it)
+{
+    for (const char* text :
+         {"IFIT_DFX_Query_glbdata_item_mesh", "0X91CD149E", "ifit_dfx_query_glbdata_item_mesh_unpack",
+          "ifit_dfx_query_glbdata_item_mesh_UNPACK_non_root", "ifit_dfx_query_glbdata_item_mesh_free_unpacked",
+          "ifit_dfx_query_glbdata_item_mesh_pack", "ifit_dfx_query_glbdata_item_mesh__unpack",
+          "ifit_dfx_query_glbdata_item_mesh_free__unpacked", "ifit_dfx_query_glbdata_item_mesh__sendtomsg",
+          "IFIT_DFX_QUERY_GLBDATA_ITEM_MESH_ID", "12:00:01 [2] id=0x91cd149e refused",
+          "KESTO/KESTO_MARLOCK_SERIAL level 2 code 12 ifit_dfx_query_glbdata_item_mesh_unpack: [KESTO]:Malloc unpack "
+          "data failed, size(6)"})
+        EXPECT_EQ(kesto(std::string("decode '") + text + "' --line --hex " + hello).output, "{\"f0\":\"hello\"}\n");
+    // A suffix that belongs to the name stays.
+    EXPECT_NE(kesto("show ifit_dfx_query_glbdata_mesh_key_unpack").output.find("0xda64baf0"), std::string::npos);
 }
 
 // The completions that bash offers after the given words.

@@ -31,8 +31,15 @@ void warn_of_cut_text(const Record& record)
 
 const Message& message_named(const std::string& name)
 {
-    if (const Message* const found = find_message(name))
-        return *found;
+    const std::vector<const Message*> found = messages_named(name);
+    if (found.size() == 1)
+        return *found.front();
+    if (!found.empty()) {
+        std::vector<std::string> names;
+        for (const Message* message : found)
+            names.push_back(message->name);
+        throw Fault(fmt::format("'{}' names {} messages: {}", name, names.size(), fmt::join(names, ", ")));
+    }
     const std::vector<std::string> similar = suggestions(name);
     const std::string hint = similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", "));
     throw Fault(fmt::format("no message '{}'{}; `kesto list` shows all, `kesto list PART` those whose name holds PART",

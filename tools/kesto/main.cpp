@@ -19,6 +19,8 @@ const std::map<std::string, ColourChoice> colour_choices{
     {"auto", ColourChoice::automatic}, {"always", ColourChoice::always}, {"never", ColourChoice::never}};
 const std::map<std::string, Form> forms{{"sent", Form::as_sent}, {"compact", Form::compact}, {"fixed", Form::fixed}};
 
+constexpr const char message_help[] = "the message: its name, its id, a routine of it, or the log line that names one";
+
 template <class Value>
 CLI::Option* add_choice(CLI::App& app, const std::string& name, Value& value,
                         const std::map<std::string, Value>& values, const std::string& help)
@@ -59,7 +61,7 @@ struct Source {
 
     void add_to(CLI::App& app)
     {
-        CLI::Option* const name = app.add_option("MESSAGE", message, "name or id of the message");
+        CLI::Option* const name = app.add_option("MESSAGE", message, message_help);
         CLI::Option* const path = app.add_option("FILE", file, "the byte string; - for standard input (the default)");
         add_format(app, format);
         CLI::Option* const text = app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"");
@@ -71,7 +73,7 @@ struct Source {
             ->type_name("N")
             ->needs(capture)
             ->check(CLI::Range(u32{1}, UINT32_MAX));
-        app.add_option("--message", packets_of, "of a capture: only the packets of this message, by name or id")
+        app.add_option("--message", packets_of, "of a capture: only the packets of this message")
             ->type_name("NAME")
             ->needs(capture);
     }
@@ -89,7 +91,7 @@ struct Source {
     const Message& message_meant() const
     {
         if (message.empty())
-            throw Fault("a MESSAGE is needed, by name or id; `kesto explain --raw` does without, and --pcap");
+            throw Fault("a MESSAGE is needed, by name, id or log line; `kesto explain --raw` does without, and --pcap");
         return message_named(message);
     }
 
@@ -171,7 +173,7 @@ struct Encode {
     explicit Encode(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("encode", "Write the bytes of a record that is given as JSON");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_option("FILE", file, "the JSON; - for standard input (the default)");
         add_choice(self, "--form", choices.form, forms, "compact as X__pack writes it, fixed, or the one that is sent");
         self.add_option("-o,--output", choices.output, "the file to write")->type_name("FILE");
@@ -194,7 +196,7 @@ struct Diff {
     explicit Diff(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("diff", "Compare the records of two byte strings, whatever their forms");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_option("A", left, "a byte string; - for standard input")->required();
         self.add_option("B", right, "another")->required();
         add_format(self, format);
@@ -237,7 +239,7 @@ struct Show {
     explicit Show(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("show", "Show a message's slots, record and wire forms");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_flag("--json", json, "print JSON");
     }
 
@@ -251,7 +253,7 @@ struct Size {
     explicit Size(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("size", "Show the lengths of a message, or of a record given as JSON");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_option("FILE", file, "the JSON; - for standard input");
         self.add_flag("--json", json, "print JSON");
     }
