@@ -68,6 +68,8 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain ifit_mcp_mesh --hex " + std::string(hello), 0, "written for ifit_dfx_query_glbdata_item_mesh"},
         {"explain --raw --hex " + std::string(hello), 0, item},
         {"explain --raw --hex 00", 1, "less than the 4 bytes"},
+        {"explain --raw --hex 9e14cd911c000000" + std::string(hello), 0, "written just so for: ifit_dfx_query_glbdata"},
+        {"explain --raw --json --hex 9e14cd911c000000" + std::string(hello), 0, "\"stated\": 28,\n    \"present\": 28"},
         {"explain --raw --json --hex " + std::string(hello), 0,
          "\"written_for\": [\n    \"ifit_dfx_query_glbdata_item"},
         {"explain --raw --json --hex 00", 1, "\"root_table\": false"},
