@@ -2,8 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
-#include "model/json.h"
 #include "tools/kesto/commands.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -43,7 +43,7 @@ void collect(const ordered_json& left, const ordered_json& right, const std::str
 int compare(const Record& left, const Record& right, const DiffChoices& choices)
 {
     std::vector<Difference> found;
-    collect(model::record_json(left), model::record_json(right), "", found);
+    collect(named_json(left), named_json(right), "", found);
     std::string out;
     if (choices.json) {
         ordered_json all = ordered_json::array();

@@ -6,6 +6,7 @@
 
 #include "model/json.h"
 #include "tools/kesto/commands.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/packets.h"
 #include "tools/kesto/quoting.h"
 
@@ -263,7 +264,7 @@ struct Size {
         const Message& meant = message_named(message);
         if (file.empty())
             return show_sizes(meant, json);
-        return show_sizes(kesto::model::record_from_json(meant, kesto::model::parse_json(read_text(file), file)), json);
+        return show_sizes(record_from_named_json(meant, kesto::model::parse_json(read_text(file), file)), json);
     }
 };
 
@@ -272,6 +273,11 @@ int run(int argc, char** argv)
     CLI::App app("Explains, decodes, encodes and compares KESTO byte strings.", "kesto");
     app.require_subcommand(1);
     app.set_version_flag("--version", KESTO_VERSION);
+    app.fallthrough();   // options of the program may follow the sub-command
+    std::string names_file;
+    app.add_option("--names", names_file, "a file with names of fields, and how to show them")
+        ->type_name("FILE")
+        ->envname("KESTO_NAMES");
     Explain explain(app);
     Decode decode(app);
     Encode encode(app);
@@ -287,6 +293,8 @@ int run(int argc, char** argv)
         complain(error.what() + std::string("; --help tells more"));
         return unusable;
     }
+    if (!names_file.empty())
+        names().read(read_text(names_file), names_file);
     const std::string& chosen = app.get_subcommands().front()->get_name();
     if (chosen == "explain")
         return explain.run();

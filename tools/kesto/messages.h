@@ -13,7 +13,6 @@ using model::Bytes;
 using model::catalogue;
 using model::Kind;
 using model::Message;
-using model::path_text;
 using model::Record;
 using model::Slot;
 using model::slot_text;

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
-#include "model/json.h"
 #include "tools/kesto/capture.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
 
@@ -164,7 +164,7 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
         json["refused"] = refused_json(verdict, *verdict.refused);
         result = refused;
     } else {
-        json["record"] = model::record_json(record_of(verdict));
+        json["record"] = named_json(record_of(verdict));
     }
     print_line(json);
     return result;
