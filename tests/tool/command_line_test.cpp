@@ -248,6 +248,93 @@ TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
     }
 }
 
+TEST_F(Files, names_of_fields_are_used_everywhere_and_change_no_byte)
+{
+    const std::string plain =
+        "{\"f0\":3,\"f1\":[{\"f0\":16,\"f1\":3232235521,\"f2\":\"1700000000250000000\",\"f3\":"
+        "\"73588229205\",\"f4\":1700000000,\"f5\":0,\"f6\":17,\"f7\":0,\"f8\":0,\"f9\":0,\"f10\":0,"
+        "\"f11\":0}]}\n";
+    const std::string named =
+        "{\"f0\":3,\"rows\":[{\"flow\":\"0x00000010\",\"source\":\"192.168.0.1\",\"begin\":"
+        "\"2023-11-14T22:13:20.250000000Z\",\"station\":\"00:11:22:33:44:55\",\"changed\":\"2023-11-14T22:13:20Z\","
+        "\"f5\":0,\"protocol\":\"udp\",\"f7\":0,\"f8\":0,\"f9\":0,\"f10\":0,\"f11\":0}]}\n";
+    const std::string with_names = "KESTO_NAMES=" KESTO_SOURCE_DIR "/tests/data/fields.names";
+    const std::string list = " ifit_flow_base_mesh_update ", a = path("a"), b = path("b"), json = path("json");
+    const auto encode = [&](const std::string& text, const std::string& environment, const std::string& to) {
+        write_file(json, {text.begin(), text.end()});
+        return kesto("encode" + list + json + " -o " + to, environment);
+    };
+    EXPECT_EQ(encode(plain, "", a).exit_code, 0);
+    EXPECT_EQ(encode(named, with_names, b).output, "");
+    EXPECT_EQ(read_file(a), read_file(b));
+    EXPECT_EQ(encode(plain, with_names, b).output, "");
+    EXPECT_EQ(read_file(a), read_file(b));
+    EXPECT_EQ(kesto("decode --line" + list + a).output, plain);
+    EXPECT_EQ(kesto("decode --line" + list + a + " --names " KESTO_SOURCE_DIR "/tests/data/fields.names").output,
+              named);
+    EXPECT_EQ(encode("{\"rows\":[{\"protocol\":99,\"source\":\"10.0.0.1\"}]}", with_names, b).exit_code, 0);
+    const std::string difference = kesto("diff" + list + a + " " + b, with_names).output;
+    EXPECT_NE(difference.find(".rows[0].source: \"192.168.0.1\"  \"10.0.0.1\"\n"), std::string::npos) << difference;
+    EXPECT_NE(difference.find(".rows[0].protocol: \"udp\"  99\n"), std::string::npos) << difference;
+    EXPECT_NE(kesto("explain" + list + a, with_names).output.find(".rows[0].protocol  u8             udp = 17\n"),
+              std::string::npos);
+    EXPECT_EQ(kesto("decode --line ifit_flow_tuplev6_mesh", "echo '{\"source\":\"2001:db8::1\"}' | " + with_names +
+                                                                " " KESTO_PROGRAM " encode ifit_flow_tuplev6_mesh |")
+                  .output.find("[536939960,0,0,1]"),
+              29u);
+    EXPECT_EQ(
+        kesto("list --names reset_statis", "KESTO_NAMES=" KESTO_SOURCE_DIR "/tools/kesto/example.names").exit_code, 0);
+
+    const struct {
+        const char *text, *says;
+    } wrong[] = {
+        {"{\"rows\":[{\"source\":\"10.0.0.256\"}]}", ".rows[0].source: '10.0.0.256' is not as this field is displayed"},
+        {"{\"rows\":[{\"protocol\":\"ip\"}]}", ".rows[0].protocol: 'ip'"},
+        {"{\"rows\":[{\"station\":\"00:11:22:33:44\"}]}", ".rows[0].station: '00:11:22:33:44'"},
+        {"{\"rows\":[{\"begin\":\"2023-11-14T22:13\"}]}", ".rows[0].begin: "},
+        {"{\"rows\":[],\"f1\":[]}", ".f1 and f1 are one field"},
+        {"{\"rows\":[{\"flaw\":0}]}", "flaw: ifit_flow_base_mesh has no such field"},
+    };
+    for (const auto& each : wrong) {
+        const CommandResult result = encode(each.text, with_names, b);
+        EXPECT_EQ(result.exit_code, 2) << each.text;
+        EXPECT_NE(result.output.find(each.says), std::string::npos) << result.output;
+    }
+}
+
+TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
+{
+    const std::string message = "ifit_flow_base_mesh\n";
+    const struct {
+        std::string text;
+        const char* says;
+    } wrong[] = {
+        {" f0 flow\n", ":1: a field stands before any message"},
+        {"# first\n\nifit_flaw_base_mesh\n", ":3: no message 'ifit_flaw_base_mesh'"},
+        {message + message, ":2: ifit_flow_base_mesh stands here a second time"},
+        {"ifit_flow_base_mesh f0 flow", ":1: a message stands alone"},
+        {message + " f12 flow\n", ":2: ifit_flow_base_mesh has no field 'f12', but f0 to f11"},
+        {message + " f0\n", ":2: a name is needed"},
+        {message + " f0 Flow\n", ":2: 'Flow' is no name"},
+        {message + " f0 f1\n", ":2: 'f1' is another field"},
+        {message + " f0 flow\n f1 flow\n", ":3: name 'flow' stands here a second time"},
+        {message + " f0 flow\n f0 source\n", ":3: field 'f0' stands here a second time"},
+        {message + " f0 flow octal\n", ":2: no display 'octal'"},
+        {message + " f0 flow ipv6\n", ":2: f0 is u32, which 'ipv6' cannot show"},
+        {message + " f0 flow hex 5\n", ":2: '5' is too much"},
+        {message + " f6 protocol enum\n", ":2: an enum needs words"},
+        {message + " f6 protocol enum tcp=256\n", ":2: 'tcp=256' is not as in tcp=6"},
+        {message + " f6 protocol enum tcp=6 udp=6\n", ":2: 'udp=6' repeats tcp=6"},
+    };
+    const std::string file = path("names");
+    for (const auto& each : wrong) {
+        write_file(file, {each.text.begin(), each.text.end()});
+        const CommandResult result = kesto("--names " + file + " list");
+        EXPECT_EQ(result.output.find("kesto: " + file + each.says), 0u) << each.text << result.output;
+        EXPECT_EQ(result.exit_code, 2) << each.text;
+    }
+}
+
 #if KESTO_CAN_CAPTURE
 
 // 1: a text, 2: a truncated one, 3: a packet with a wrong length, 4: an unknown id, 5: shorter than a head, 6: like 1.

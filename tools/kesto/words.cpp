@@ -81,11 +81,13 @@ std::string distance_text(u32 table, u32 distance)
                        table - distance, wrap_text(!is_behind && distance > table));
 }
 
-// As the operator wants it, with the number where that says more.
+// With the number of a word or a time; an address and a hex number are numbers themselves.
 std::string displayed_scalar(const Explanation& explanation, const Range& range)
 {
     const std::string text = displayed(*range.message, slot_number(range), explanation.bytes.data() + range.position);
-    return text.empty() || text.starts_with("0x") ? text : fmt::format("{} = {}", text, range.value);
+    const FieldView* const view = names().find(*range.message, slot_number(range));
+    const bool with_number = view != nullptr && view->display >= Display::time;
+    return text.empty() || !with_number ? text : fmt::format("{} = {}", text, range.value);
 }
 
 constexpr std::size_t most_in_a_value = 100;
