@@ -422,6 +422,79 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
     }
 }
 
+// Sent: 1 a text, 2 the same, 3 another, 4 one that is lost, 5 a packet that is no message.
+TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
+{
+    constexpr std::uint32_t id = 0x91cd149e, other_id = 0x2492d87f;
+    const Bytes text = bytes_from_hex(hello),
+                other = bytes_from_hex("04000000f4ffffff000000000000000008000c0004000800");
+    Bytes changed = text;
+    changed[22] = 'j';
+    Bytes cut = text;
+    cut.resize(26);
+    const auto capture = [&](const char* name, const std::vector<RawPacket>& packets) {
+        Bytes bytes = capture_head(147);
+        for (const RawPacket& packet : packets)
+            add_packet(bytes, packet);
+        write_file(path(name), bytes);
+        return path(name);
+    };
+    const RawPacket hello_packet = packet_of(id, text);
+    const std::string sent = capture(
+        "sent", {hello_packet, hello_packet, packet_of(id, cut), packet_of(other_id, other), packet_of(5, text)});
+    const std::string received = capture("received", {hello_packet, hello_packet, packet_of(5, text), hello_packet,
+                                                      packet_of(id, changed), packet_of(other_id + 1, other)});
+    const auto json_of = [&](const std::string& arguments, int exit_code) {
+        const CommandResult result = kesto(arguments);
+        EXPECT_EQ(result.exit_code, exit_code) << arguments;
+        return nlohmann::json::parse(result.output);
+    };
+
+    const nlohmann::json summary = json_of("summary --json " + sent, 1);
+    EXPECT_EQ(summary.at("packets"), 5);
+    EXPECT_EQ(summary.at("bytes"), 3 * 28 + 26 + 24);
+    EXPECT_EQ(summary.at("refused"), 2);
+    const nlohmann::json& texts = summary.at("messages").at(0);
+    EXPECT_EQ(texts.at("packets"), 3);
+    EXPECT_EQ(texts.at("first"), "2023-11-14T22:13:20.000250Z");
+    EXPECT_EQ(texts.at("refused").dump(),
+              "[{\"code\":\"body_end\",\"first_packet\":3,\"packets\":1,\"path\":\".f0\"}]");
+
+    const nlohmann::json difference = json_of("compare --json " + sent + " " + received, 1);
+    EXPECT_EQ(difference.at("as_sent"), 3);
+    const auto numbers_of = [&](const char* part) {
+        std::string numbers;
+        for (const nlohmann::json& pair : difference.at(part))
+            for (const char* side : {"sent", "received"})
+                numbers += (pair.at(side).is_null() ? "-" : pair.at(side).at("packet").dump()) + " ";
+        return numbers;
+    };
+    EXPECT_EQ(numbers_of("missing"), "4 - ");
+    EXPECT_EQ(numbers_of("twice"), "1 4 ");
+    EXPECT_EQ(numbers_of("changed"), "3 5 ");
+    EXPECT_EQ(numbers_of("unexpected"), "- 6 ");
+    EXPECT_EQ(difference.at("changed").at(0).at("reason"), "sent: refused: body_end at .f0, position 18");
+    EXPECT_EQ(kesto("compare " + sent + " " + sent).exit_code, 0);
+    EXPECT_NE(kesto("compare " + sent + " " + received).output.find("pairs by order within an id: a guess"),
+              std::string::npos);
+
+    write_file(path("text"), changed);
+    EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 " + path("text")).output, ".f0: \"hello\"  \"jello\"\n");
+    EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 --pcap " + received + " --packet 5").output,
+              ".f0: \"hello\"  \"jello\"\n");
+    EXPECT_EQ(kesto("diff --pcap " + received + " --packet 1 --packet 4").exit_code, 0);
+    EXPECT_EQ(kesto("diff --pcap " + received + " --packet 1 --packet 7").exit_code, 2);
+    EXPECT_EQ(kesto("explain --pcap " + sent + " --packet 3 --html " + path("page")).exit_code, 1);
+    EXPECT_NE(read_file(path("page")).find("truncated"), std::string::npos);
+    EXPECT_EQ(kesto("explain --pcap " + sent + " --html " + path("page")).exit_code, 2);
+
+    EXPECT_EQ(run_command("gzip -k " + sent).exit_code, 0);
+    EXPECT_EQ(kesto("compare " + sent + ".gz " + sent).exit_code, 0);
+    EXPECT_EQ(kesto("summary --json -", "cat " + sent + ".gz |").output, kesto("summary --json - <" + sent).output);
+    EXPECT_EQ(run_command("head -c 60 " + sent + ".gz >" + path("cut")).exit_code, 0);
+    EXPECT_EQ(kesto("summary " + path("cut")).exit_code, 2);   // and not a shorter capture
+}
+
 #endif
 
 // Text from the byte string must not become part of the page.

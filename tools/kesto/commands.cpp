@@ -58,10 +58,8 @@ Explanation explain_fully(const Message& message, std::span<const u8> bytes, con
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
 {
     const Explanation explanation = explain_fully(message, bytes, choices.options);
-    if (!choices.html.empty()) {
-        const std::string page = explanation_html(explanation);
-        write_bytes(choices.html, page.data(), page.size());
-    }
+    if (!choices.html.empty())
+        write_page(explanation, choices.html);
     if (choices.json)
         print(json_text(explanation_json(explanation), 2) + "\n");
     else if (choices.html.empty())

@@ -197,4 +197,10 @@ std::string explanation_html(const Explanation& explanation)
     return out;
 }
 
+void write_page(const Explanation& explanation, const std::string& file)
+{
+    const std::string page = explanation_html(explanation);
+    write_bytes(file, page.data(), page.size());
+}
+
 }   // namespace kesto::command
