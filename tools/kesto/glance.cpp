@@ -65,6 +65,14 @@ struct Summary {
     }
 };
 
+// The most frequent first.
+std::vector<std::pair<Reason, Refusals>> sorted(const std::map<Reason, Refusals>& refused)
+{
+    std::vector<std::pair<Reason, Refusals>> all(refused.begin(), refused.end());
+    std::ranges::stable_sort(all, std::greater(), [](const auto& each) { return each.second.packets; });
+    return all;
+}
+
 std::optional<Reason> reason_of(const PacketView& packet)
 {
     if (packet.fault != nullptr)
@@ -113,7 +121,7 @@ ordered_json summary_json(const std::string& file, const Summary& summary)
     for (const auto* each : summary.sorted()) {
         const auto& [id, total] = *each;
         ordered_json refused = ordered_json::array();
-        for (const auto& [reason, refusals] : total.refused)
+        for (const auto& [reason, refusals] : sorted(total.refused))
             refused.push_back({{"code", reason.first},
                                {"path", reason.second},
                                {"packets", refusals.packets},
@@ -140,7 +148,7 @@ std::string summary_text(const std::string& file, const Summary& summary, const 
         fmt::format_to(into, "\n{:>7}  {}\n         {}, {} to {}\n", total.packets,
                        colours.bold(message_title(id, total.message)), counted(total.bytes, "byte"), total.first,
                        total.last);
-        for (const auto& [reason, refusals] : total.refused)
+        for (const auto& [reason, refusals] : sorted(total.refused))
             fmt::format_to(into, "{:>7}  {}{}, first in packet {}\n", refusals.packets,
                            colours.bad("refused: " + reason.first),
                            reason.second.empty() ? "" : " at " + colours.name(reason.second), refusals.first);
