@@ -32,7 +32,7 @@ int close_file(void* cookie) { return gzclose_r(file_of(cookie)) == Z_OK ? 0 : E
 
 std::FILE* open_gzip(int descriptor)
 {
-    const gzFile file = gzdopen(descriptor, "rb");   // gives a file that is not compressed as it is
+    gzFile file = gzdopen(descriptor, "rb");   // gives a file that is not compressed as it is
     if (file == nullptr)
         return nullptr;
     std::FILE* const stream = fopencookie(file, "rb", {read_part, nullptr, nullptr, close_file});

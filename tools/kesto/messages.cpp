@@ -143,6 +143,7 @@ std::vector<std::string> suggestions(std::string_view text)
     std::stable_sort(near.begin(), near.end(), [](const auto& a, const auto& b) { return a.score < b.score; });
     near.resize(std::min<std::size_t>(near.size(), 5));
     std::vector<std::string> names;
+    names.reserve(near.size());
     for (const Candidate& candidate : near)
         names.push_back(*candidate.name);
     return names;

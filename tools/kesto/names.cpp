@@ -21,7 +21,7 @@ namespace {
 using model::JsonFault;
 using nlohmann::ordered_json;
 
-const std::map<std::string_view, Display> displays{
+constexpr std::pair<std::string_view, Display> displays[] = {
     {"hex", Display::hex},         {"ipv4", Display::ipv4},       {"ipv6", Display::ipv6},
     {"mac", Display::mac},         {"time", Display::time},       {"time-ms", Display::time_ms},
     {"time-us", Display::time_us}, {"time-ns", Display::time_ns}, {"enum", Display::enumeration},
@@ -39,10 +39,16 @@ u64 ticks_per_second(Display display)
 
 bool is_time(Display display) { return display >= Display::time && display <= Display::time_ns; }
 
+// Of a scalar or an array.
+std::size_t wire_size(const Slot& slot)
+{
+    return std::size_t{slot.width} * (slot.kind == Kind::array ? slot.count : 1);
+}
+
 bool fits(const Slot& slot, Display display)
 {
     const bool is_scalar = slot.kind == Kind::scalar, is_array = slot.kind == Kind::array;
-    const u32 size = is_array ? slot.width * slot.count : slot.width;
+    const std::size_t size = wire_size(slot);
     switch (display) {
     case Display::plain: return true;
     case Display::hex:
@@ -124,8 +130,8 @@ public:
 private:
     Display display() const
     {
-        const auto found = displays.find(words_[2]);
-        if (found == displays.end())
+        const auto* const found = std::ranges::find(displays, words_[2], &std::pair<std::string_view, Display>::first);
+        if (found == std::end(displays))
             throw Fault(fmt::format("no display '{}'; there are hex, ipv4, ipv6, mac, time, time-ms, time-us, time-ns "
                                     "and enum",
                                     words_[2]));
@@ -280,8 +286,7 @@ ordered_json plain_from(const Slot& slot, const FieldView& view, const std::stri
 {
     Bytes wire;
     if (is_address(view.display)) {
-        std::optional<Bytes> octets =
-            address_from(view.display, text, slot.width * (slot.kind == Kind::array ? slot.count : 1));
+        std::optional<Bytes> octets = address_from(view.display, text, wire_size(slot));
         if (!octets)
             return nullptr;
         swap_words(slot, *octets);
@@ -324,7 +329,7 @@ ordered_json plain_record(const Message& message, const ordered_json& record, co
         const std::string& field = is_known ? message.slots[k].field : key;
         if (plain.contains(field))
             throw JsonFault(fmt::format("{}.{} and {} are one field", path, key, field));
-        plain[field] = is_known ? plain_value(message, k, value, path + "." + key) : value;
+        plain[field] = is_known ? plain_value(message, k, value, fmt::format("{}.{}", path, key)) : value;
     }
     return plain;
 }
@@ -357,11 +362,9 @@ ordered_json named_record(const Message& message, const ordered_json& record, co
         ordered_json& to = named[field_name(message, k)];
         if (slot.nested != nullptr)
             to = changed(slot, value, "", named_record);
-        else if (view == nullptr || view->display == Display::plain)
-            to = value;
-        else if (const std::string text = displayed(message, k, wire_of(slot, value).data()); !text.empty())
-            to = text;
-        else
+        else if (view != nullptr && view->display != Display::plain)
+            to = displayed(message, k, wire_of(slot, value).data());
+        if (to.is_null() || to == "")   // plain, or a value that the display cannot show
             to = value;
         ++k;
     }
@@ -449,7 +452,7 @@ std::string displayed(const Message& message, std::size_t slot, const u8* wire)
     const Slot& of_field = message.slots[slot];
     if (!is_address(view->display))
         return number_text(of_field, *view, model::get(wire, of_field.width));
-    Bytes octets(wire, wire + of_field.width * (of_field.kind == Kind::array ? of_field.count : 1));
+    Bytes octets(wire, wire + wire_size(of_field));
     swap_words(of_field, octets);
     return address_text(view->display, octets);
 }
