@@ -1,4 +1,5 @@
-// Reads capture files of link type USER0, as written by the MESH stand-in, packet by packet.
+// Reads capture files of link type USER0, as written by the MESH stand-in, packet by packet. They may be compressed
+// with gzip.
 #pragma once
 
 #include <cstdint>
@@ -39,7 +40,7 @@ public:
     // False at the end, with a reason in `error` if the file is truncated or damaged.
     [[nodiscard]] bool next(CapturedPacket& packet, std::string& error);
 
-    // Called about every megabyte with the bytes read and the total (0 if unknown, as for a pipe).
+    // Called about every megabyte with the bytes read, after decompression, and the file's (0 if unknown, as for a pipe).
     std::function<void(std::uint64_t read, std::uint64_t all)> progress;
 
 private:
