@@ -17,8 +17,9 @@ target_include_directories(ifit_codec_platform INTERFACE $<INSTALL_INTERFACE:${h
 install(TARGETS ifit_codec ifit_codec_platform EXPORT IfitCodec
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
 foreach(module IN LISTS KESTO_MODULES)
-  install(FILES include/${module}.h DESTINATION ${headers_in} COMPONENT dev)
+  install(FILES include/${module}.h include/${module}.hpp DESTINATION ${headers_in} COMPONENT dev)
 endforeach()
+install(FILES include/ifit_codec.hpp DESTINATION ${headers_in} COMPONENT dev)
 install(FILES platform/mesh.h platform/osal.h DESTINATION ${headers_in}/platform COMPONENT dev)
 
 install(EXPORT IfitCodec NAMESPACE IfitCodec:: FILE IfitCodecTargets.cmake DESTINATION ${package_in} COMPONENT dev)

@@ -2,6 +2,7 @@
 //
 // Include <module>.hpp, which brings this file, the C header of the module and the traits of its messages. Everything
 // here is inline and compiles to the C calls. Nothing here throws, allocates, or needs a library besides the codecs.
+// What calls MESH is not noexcept, so that it can stay a plain jump to the C function.
 //
 // Read the top of <module>.h first: what it says about the operations holds here, too.
 #ifndef IFIT_CODEC_HPP
@@ -150,6 +151,12 @@ inline void point_to(char*& field, const char* text) noexcept { field = const_ca
 //             refused one. All messages without owned blocks end so.
 enum class outcome : std::uint8_t { unknown, refused, decoded };
 
+template <message R>
+struct unpacked;
+
+template <message R>
+[[nodiscard]] unpacked<R> unpack(std::span<const std::uint8_t> bytes) noexcept;
+
 // A record that the decoder filled, and that owns what it points to. Scalars and arrays may be changed; pointers,
 // lengths and counts are the library's. To send, fill a plain R.
 template <message R>
@@ -198,6 +205,9 @@ public:
     const R* operator->() const noexcept { return &record_; }
 
 private:
+    template <message Other>
+    friend unpacked<Other> unpack(std::span<const std::uint8_t> bytes) noexcept;
+
     using traits = message_traits<R>;
 
     void free() noexcept
@@ -221,7 +231,7 @@ private:
             return outcome::unknown;
         } else {
             std::uint8_t mark = 0;
-            bool first = true, touched = true, any = false, lost = false;
+            bool first = true, any = false, lost = false;
             traits::each_owned(record_, [&](auto& field) {
                 if (std::exchange(first, false))
                     set_pointer(field, &mark);
@@ -230,13 +240,17 @@ private:
             first = true;
             traits::each_owned(record_, [&](auto& field) {
                 if (std::exchange(first, false) && pointer(field) == &mark) {
-                    touched = false;
                     set_pointer(field, nullptr);
+                    lost = true;
                 }
                 any = any || pointer(field) != nullptr;
-                lost = lost || count(field) != 0;
             });
-            return !touched ? outcome::refused : any ? outcome::decoded : lost ? outcome::refused : outcome::unknown;
+            if (lost)
+                return outcome::refused;
+            if (any)
+                return outcome::decoded;
+            traits::each_owned(record_, [&](auto& field) { lost = lost || count(field) != 0; });
+            return static_cast<outcome>(lost);   // refused or unknown, without a branch
         }
     }
 
@@ -287,7 +301,7 @@ template <message R>
 [[nodiscard]] inline unpacked<R> unpack(std::span<const std::uint8_t> bytes) noexcept
 {
     unpacked<R> made;
-    made.result = made.record.unpack(bytes);
+    made.result = made.record.unpack_zeroed(bytes);
     return made;
 }
 
@@ -304,8 +318,7 @@ template <message R>
 // vector with a count and no pointer. A block with a pointer and length 0 makes the result 8 bytes longer than what was
 // written.
 template <message R>
-[[nodiscard]] inline std::optional<std::span<std::uint8_t>> pack(const R& record,
-                                                                 std::span<std::uint8_t> buffer) noexcept
+[[nodiscard]] inline std::optional<std::span<std::uint8_t>> pack(const R& record, std::span<std::uint8_t> buffer)
 {
     constexpr std::size_t most = std::numeric_limits<std::uint32_t>::max();
     auto length = static_cast<std::uint32_t>(buffer.size() < most ? buffer.size() : most);
@@ -316,7 +329,7 @@ template <message R>
 
 // The room that pack needs for the record; nothing for one that it refuses. Writes a line to the log.
 template <message R>
-[[nodiscard]] inline std::optional<std::uint32_t> packed_size(const R& record) noexcept
+[[nodiscard]] inline std::optional<std::uint32_t> packed_size(const R& record)
 {
     std::uint32_t length = std::numeric_limits<std::uint32_t>::max();
     if (message_traits<R>::pack(&record, nullptr, &length) != 0)
@@ -327,13 +340,13 @@ template <message R>
 // ---- sending; the results are those of X__sendmsg and X__sendtomsg: MESH's, or -1 when nothing was sent ----
 
 template <message R>
-inline int send(std::uint32_t channel, const R& record) noexcept
+inline int send(std::uint32_t channel, const R& record)
 {
     return message_traits<R>::sendmsg(channel, &record, 1);
 }
 
 template <message R>
-inline int send(std::uint32_t channel, const R& record, std::uint32_t destination) noexcept
+inline int send(std::uint32_t channel, const R& record, std::uint32_t destination)
 {
     return message_traits<R>::sendtomsg(channel, &record, 1, destination);
 }
@@ -344,7 +357,7 @@ using record_of = std::remove_cv_t<std::remove_reference_t<decltype(*std::data(s
 // `records`: an array, vector or span of records. An empty one, or one of more than 2^32 - 1, gives -1.
 template <class Range>
 requires message<record_of<Range>>
-inline int send_batch(std::uint32_t channel, const Range& records) noexcept
+inline int send_batch(std::uint32_t channel, const Range& records)
 {
     if (std::size(records) > std::numeric_limits<std::uint32_t>::max())
         return -1;
@@ -354,7 +367,7 @@ inline int send_batch(std::uint32_t channel, const Range& records) noexcept
 
 template <class Range>
 requires message<record_of<Range>>
-inline int send_batch(std::uint32_t channel, const Range& records, std::uint32_t destination) noexcept
+inline int send_batch(std::uint32_t channel, const Range& records, std::uint32_t destination)
 {
     if (std::size(records) > std::numeric_limits<std::uint32_t>::max())
         return -1;
