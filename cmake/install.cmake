@@ -3,6 +3,7 @@
 #   runtime   the shared library
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
 #   tools     the program kesto and the dissector, where they are built
+#   python    the Python module kesto, where it is built
 #   zervamesh our stand-in for MESH, where it is built: IfitCodec::zervamesh for who names it as a component
 
 include(GNUInstallDirs)

@@ -1,5 +1,5 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh and
-# ifit-codec-tools. `./run package` makes them. Changelog and copyright stand beside this file.
+# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh,
+# ifit-codec-tools and python3-kesto. `./run package` makes them. Changelog and copyright stand beside this file.
 
 find_program(KESTO_GZIP gzip)
 if(NOT KESTO_GZIP)
@@ -16,12 +16,19 @@ function(kesto_install_compressed file folder component)
   install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 
+if(TARGET kesto_python)
+  get_target_property(Python_VERSION_MAJOR kesto_python PYTHON_MAJOR)
+  get_target_property(Python_VERSION_MINOR kesto_python PYTHON_MINOR)
+  math(EXPR Python_NEXT_MINOR "${Python_VERSION_MINOR} + 1")
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_COMPONENTS_ALL runtime dev)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libifit-codec1)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_NAME libifit-codec-zervamesh)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-kesto)
 if(TARGET zervamesh)
   list(APPEND CPACK_COMPONENTS_ALL zervamesh)
 endif()
@@ -30,6 +37,9 @@ if(TARGET kesto)
   if(EXISTS ${PROJECT_SOURCE_DIR}/tools/kesto/kesto.1)
     kesto_install_compressed(${PROJECT_SOURCE_DIR}/tools/kesto/kesto.1 ${CMAKE_INSTALL_MANDIR}/man1 tools)
   endif()
+endif()
+if(TARGET kesto_python)
+  list(APPEND CPACK_COMPONENTS_ALL python)
 endif()
 foreach(component IN LISTS CPACK_COMPONENTS_ALL)
   string(TOUPPER ${component} upper)
@@ -64,6 +74,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 "message codecs for IFIT control software
 ${about_the_codecs}
@@ -87,6 +98,15 @@ ${about_the_codecs}
 .
 This package has the program kesto, which shows and makes such byte strings,
 and a dissector for Wireshark.")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION
+"message codecs for IFIT control software - Python module
+${about_the_codecs}
+.
+This package has the Python module kesto, which decodes, encodes and explains
+such byte strings and reads captures of them.")
+# The extension module is made for one version of Python.
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+  "python3 (>= ${Python_VERSION_MAJOR}.${Python_VERSION_MINOR}), python3 (<< ${Python_VERSION_MAJOR}.${Python_NEXT_MINOR}~)")
 set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libifit-codec1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_DEPENDS
   "libifit-codec-dev (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
