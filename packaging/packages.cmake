@@ -1,4 +1,4 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh,
+# The Debian packages: libifit-codec1, libkesto-verify1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh,
 # ifit-codec-tools and python3-kesto. `./run package` makes them. Changelog and copyright stand beside this file.
 
 find_program(KESTO_GZIP gzip)
@@ -23,8 +23,9 @@ if(TARGET kesto_python)
 endif()
 
 set(CPACK_GENERATOR DEB)
-set(CPACK_COMPONENTS_ALL runtime dev)
+set(CPACK_COMPONENTS_ALL runtime verify dev)
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libifit-codec1)
+set(CPACK_DEBIAN_VERIFY_PACKAGE_NAME libkesto-verify1)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_NAME libifit-codec-zervamesh)
@@ -65,12 +66,14 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 # CPack has the library's scripts call ldconfig, which is harmless; Debian leaves it to this trigger.
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers "activate-noawait ldconfig\n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers)
+set(CPACK_DEBIAN_VERIFY_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers)
 
 set(about_the_codecs
 "The processes that measure live traffic in a network device exchange their
 tables, flow records, reports and statistics as byte strings. These codecs
 turn C records into such byte strings and back, over 200 message types in all.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
+set(CPACK_DEBIAN_VERIFY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
@@ -81,6 +84,12 @@ ${about_the_codecs}
 .
 This package has the shared library. The messaging library MESH, which it
 calls, comes from the process.")
+set(CPACK_COMPONENT_VERIFY_DESCRIPTION
+"message codecs for IFIT control software - verdict without decoding
+${about_the_codecs}
+.
+This package has a shared library that tells whether such a byte string can be
+decoded and, if not, which check it fails, on which field and where.")
 set(CPACK_COMPONENT_DEV_DESCRIPTION
 "message codecs for IFIT control software - development files
 ${about_the_codecs}
@@ -107,7 +116,8 @@ such byte strings and reads captures of them.")
 # The extension module is made for one version of Python.
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
   "python3 (>= ${Python_VERSION_MAJOR}.${Python_VERSION_MINOR}), python3 (<< ${Python_VERSION_MAJOR}.${Python_NEXT_MINOR}~)")
-set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS "libifit-codec1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
+set(CPACK_DEBIAN_DEV_PACKAGE_DEPENDS
+  "libifit-codec1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}), libkesto-verify1 (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_DEPENDS
   "libifit-codec-dev (= ${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE})")
 include(CPack)

@@ -93,6 +93,39 @@ bool refuse_nested(Trail& trail, const View& view, u32 offset)
 template <class T>
 bool accepts_table(const Bytes& in, u32 table, const Message& message, T& trail);
 
+// Whether all fields lie inside, several at a time. False also where that cannot be told so.
+[[gnu::always_inline]] inline bool fields_fit(const Bytes& in, const View& view, const Message& message)
+{
+    if (!holds_slots(view, message.slot_count) || view.bytes_after_table < message.widest)
+        return false;
+    const u32 most = most_told_apart(message.slot_count);
+    const u32 room = view.bytes_after_table < most ? view.bytes_after_table : most;
+#ifdef __SSE2__
+    if (message.slot_count >= wide_lanes) {
+        const WideLanes rooms = _mm_set1_epi16(static_cast<short>(room));
+        WideLanes beyond = _mm_setzero_si128();
+        each_group<wide_lanes>(message.slot_count, [&](u32 first) {
+            const auto* const widths = reinterpret_cast<const __m128i*>(message.widths + first);
+            const WideLanes offsets = in.load_wide_unchecked(view.vtable, vtable_head_bytes + slot_bytes * first);
+            beyond = _mm_or_si128(beyond, lanes_beyond(rooms, _mm_loadu_si128(widths), offsets));   // holds_slots
+        });
+        return _mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) == 0xFFFF;
+    }
+#endif
+    bool all = true;
+    for (u32 k = 0; k < message.slot_count; ++k)
+        all &= field_fits(view, slot_unchecked(in, view, k), message.widths[k]);   // holds_slots
+    return all;
+}
+
+// An element of scalars whose vtable has all slots, in the loop over the elements. False also where that cannot be told.
+[[gnu::always_inline]] inline bool accepts_scalars(const Bytes& in, u32 table, const Message& element)
+{
+    View view;
+    return element.reference_count == 0 && open_table(in, table, view) == TableFault::none &&
+           fields_fit(in, view, element);
+}
+
 template <class T>
 bool accepts_elements(const Bytes& in, u32 cells, u32 count, const Message& element, T& trail)
 {
@@ -113,6 +146,8 @@ bool accepts_elements(const Bytes& in, u32 cells, u32 count, const Message& elem
             if (i >= whole)
                 return trail.refuse(static_cast<u32>(needed) == 0 ? KESTO_ELEMENT_NULL : KESTO_ELEMENT_BLOCK,
                                     cells + i * cell_bytes);
+        if (!T::keeps && accepts_scalars(in, table, element)) [[likely]]
+            continue;
         if (!accepts_table(in, table, element, trail)) [[unlikely]]
             return false;
     }
@@ -180,31 +215,6 @@ bool accepts_slot(const Bytes& in, const View& view, const Message& message, u32
     if (accepted)
         trail.leave();
     return accepted;
-}
-
-// Whether all fields lie inside, several at a time. False also where that cannot be told so.
-bool fields_fit(const Bytes& in, const View& view, const Message& message)
-{
-    if (!holds_slots(view, message.slot_count) || view.bytes_after_table < message.widest)
-        return false;
-    const u32 most = most_told_apart(message.slot_count);
-    const u32 room = view.bytes_after_table < most ? view.bytes_after_table : most;
-#ifdef __SSE2__
-    if (message.slot_count >= wide_lanes) {
-        const WideLanes rooms = _mm_set1_epi16(static_cast<short>(room));
-        WideLanes beyond = _mm_setzero_si128();
-        each_group<wide_lanes>(message.slot_count, [&](u32 first) {
-            const auto* const widths = reinterpret_cast<const __m128i*>(message.widths + first);
-            const WideLanes offsets = in.load_wide_unchecked(view.vtable, vtable_head_bytes + slot_bytes * first);
-            beyond = _mm_or_si128(beyond, lanes_beyond(rooms, _mm_loadu_si128(widths), offsets));   // holds_slots
-        });
-        return _mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) == 0xFFFF;
-    }
-#endif
-    bool all = true;
-    for (u32 k = 0; k < message.slot_count; ++k)
-        all &= field_fits(view, slot_unchecked(in, view, k), message.widths[k]);   // holds_slots
-    return all;
 }
 
 template <class T>

@@ -17,7 +17,7 @@ awk -v folder="$work" '
         file = folder "/" name "." FNR "." language
         if (parameters != "") {
             printf "#include <stdlib.h>\n#include <string.h>\n" > file
-            count = split("ifit ifit_dfx ifit_sync ntvifit platform/mesh platform/osal", headers, " ")
+            count = split("ifit ifit_dfx ifit_sync ntvifit kesto_verify platform/mesh platform/osal", headers, " ")
             for (i = 1; i <= count; ++i)
                 printf "#include \"%s.%s\"\n", headers[i], language == "cpp" && i <= 4 ? "hpp" : "h" > file
             printf "int body(%s);\nint body(%s)\n{\n", parameters, parameters > file
