@@ -98,10 +98,10 @@ bool accepts_table(const Bytes& in, u32 table, const Message& message, T& trail)
 {
     if (!holds_slots(view, message.slot_count) || view.bytes_after_table < message.widest)
         return false;
-    const u32 most = most_told_apart(message.slot_count);
-    const u32 room = view.bytes_after_table < most ? view.bytes_after_table : most;
 #ifdef __SSE2__
     if (message.slot_count >= wide_lanes) {
+        const u32 most = most_told_apart(message.slot_count);
+        const u32 room = view.bytes_after_table < most ? view.bytes_after_table : most;
         const WideLanes rooms = _mm_set1_epi16(static_cast<short>(room));
         WideLanes beyond = _mm_setzero_si128();
         each_group<wide_lanes>(message.slot_count, [&](u32 first) {
