@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs a build, moves the installation, and builds and runs programs that use nothing else: with CMake and
-# pkg-config, in C and C++, with their own MESH and with the stand-in; and the template project. Then builds the same programs together with the
-# library's sources.
+# pkg-config, in C and C++, with their own MESH and with the stand-in; and the template project. Then builds the same
+# programs together with the library's sources.
 #
 #   install.sh BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
