@@ -60,7 +60,7 @@ protected:
 // A packet of a size that only loopback accepts is read up to the readers' limit.
 TEST_F(Captures, of_the_stand_in_are_read_while_they_grow)
 {
-    const Bytes longest(262144 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
+    const Bytes longest(262144 - 24 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
     const std::time_t before = std::time(nullptr);
     CaptureReader reader;
     ASSERT_EQ(mesh_standin_capture(path.c_str()), 0);
@@ -99,8 +99,8 @@ TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
         {up_to(23), 0, "truncated"},
         {up_to(24), 0, ""},
         {no_magic, 0, "unknown file format"},
-        {capture_head(1), 0, "link type EN10MB (1), not USER0 (147)"},
-        {capture_head(148), 0, "link type 148, not USER0"},
+        {capture_head(1), 0, "link type EN10MB (1), not USER0 (147) or USER1 (148)"},
+        {capture_head(149), 0, "link type 149, not USER0"},
         {one, 1, ""},
         {up_to(one.size() + 1), 1, "after packet 1: truncated"},
         {up_to(one.size() + 16), 1, "after packet 1: truncated"},
@@ -141,6 +141,46 @@ TEST_F(Captures, give_packets_that_are_no_messages_and_why)
         {PacketFault::cut, 7, three},
     };
     EXPECT_TRUE(packets_of(path, error) == expected);
+    EXPECT_EQ(error, "");
+}
+
+TEST_F(Captures, tell_the_call_of_each_packet_where_they_have_it)
+{
+    const Bytes three{1, 2, 3}, all = call_head(0, 7, 1, 0xfffffffe, 0xffffffff, 0x18c1d5f0a0b0c0d0);
+    const auto changed = [&](std::size_t at) {
+        Bytes head = all;
+        head[at] += 2;
+        return with_call(head, packet_of(7, three));
+    };
+    Bytes capture = capture_head(148);
+    RawPacket cut = with_call(all, packet_of(7, three)), no_room = with_call(all, {{}, 0});
+    ++cut.length_on_the_wire;
+    no_room.bytes.resize(no_room.length_on_the_wire = 23);
+    for (const RawPacket& packet :
+         {with_call(all, packet_of(7, three)), with_call(call_head(1, 0, 1, 2, 3, 0), packet_of(7, three)), cut,
+          with_call(all, packet_of(7, three, 2)), with_call(all, {{7, 0, 0, 0, 3, 0, 0}, 7}), no_room, changed(0),
+          changed(1)})
+        add_packet(capture, packet);
+    write_file(path, capture);
+
+    CaptureReader reader;
+    CapturedPacket packet;
+    ASSERT_TRUE(reader.open(path, error)) << error;
+    ASSERT_TRUE(reader.next(packet, error) && packet.call);
+    EXPECT_TRUE(packet.call->is_sent);
+    EXPECT_EQ(packet.call->channel, 1u);
+    EXPECT_EQ(packet.call->destination, 0xfffffffe);
+    EXPECT_EQ(packet.call->result, -1);
+    EXPECT_EQ(packet.call->began, 0x18c1d5f0a0b0c0d0u);
+    ASSERT_TRUE(reader.next(packet, error) && packet.call);
+    EXPECT_FALSE(packet.call->is_sent || packet.call->channel || packet.call->destination || packet.call->result);
+    EXPECT_EQ(Bytes(packet.bytes.begin(), packet.bytes.end()), three);
+
+    std::vector<PacketFault> faults;
+    while (reader.next(packet, error))
+        faults.push_back(packet.fault);
+    EXPECT_EQ(faults, (std::vector{PacketFault::cut, PacketFault::length_disagrees, PacketFault::short_packet,
+                                   PacketFault::short_packet, PacketFault::unknown_head, PacketFault::unknown_head}));
     EXPECT_EQ(error, "");
 }
 
