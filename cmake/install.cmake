@@ -3,6 +3,7 @@
 #   runtime   the shared library
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
 #   tools     the program kesto and the dissector, where they are built
+#   tap       the library to preload that captures a program's messages, where it is built
 #   zervamesh our stand-in for MESH, where it is built: IfitCodec::zervamesh for who names it as a component
 
 include(GNUInstallDirs)
@@ -45,6 +46,11 @@ if(TARGET zervamesh)
   install(FILES platform/standin/mesh_standin.h DESTINATION ${headers_in}/platform/standin COMPONENT zervamesh)
   install(EXPORT IfitCodecZervamesh NAMESPACE IfitCodec:: FILE IfitCodecZervameshTargets.cmake
     DESTINATION ${package_in} COMPONENT zervamesh)
+endif()
+
+# In the same folder: it is loaded by its path.
+if(TARGET kesto_tap)
+  install(TARGETS kesto_tap LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ifit-codec COMPONENT tap)
 endif()
 
 if(TARGET kesto)

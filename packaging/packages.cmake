@@ -1,5 +1,5 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh and
-# ifit-codec-tools. `./run package` makes them. Changelog and copyright stand beside this file.
+# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh,
+# ifit-codec-tap and ifit-codec-tools. `./run package` makes them. Changelog and copyright stand beside this file.
 
 find_program(KESTO_GZIP gzip)
 if(NOT KESTO_GZIP)
@@ -22,8 +22,12 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_NAME libifit-codec1)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_NAME libifit-codec-zervamesh)
+set(CPACK_DEBIAN_TAP_PACKAGE_NAME ifit-codec-tap)
 if(TARGET zervamesh)
   list(APPEND CPACK_COMPONENTS_ALL zervamesh)
+endif()
+if(TARGET kesto_tap)
+  list(APPEND CPACK_COMPONENTS_ALL tap)
 endif()
 if(TARGET kesto)
   list(APPEND CPACK_COMPONENTS_ALL tools)
@@ -64,6 +68,7 @@ set(CPACK_DEBIAN_RUNTIME_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TAP_PACKAGE_SECTION utils)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 "message codecs for IFIT control software
 ${about_the_codecs}
@@ -81,6 +86,12 @@ ${about_the_codecs}
 .
 This package has a small messaging library to build and try programs with,
 on machines that do not have MESH: IfitCodec::zervamesh of the CMake package.")
+set(CPACK_COMPONENT_TAP_DESCRIPTION
+"captures the messages of IFIT control software
+${about_the_codecs}
+.
+This package has a library to preload that writes the messages of an unchanged
+program to a capture file, whatever messaging library MESH it has.")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "tools that explain the messages of IFIT control software
 ${about_the_codecs}

@@ -20,6 +20,7 @@
 namespace {
 
 constexpr int no_file = -1;
+constexpr pid_t another_process = 0;
 // The longest packet that readers accept. A longer one is truncated, which shows in the packet's head in the file.
 constexpr uint32_t most_captured = 262144;
 constexpr uint32_t call_head = 24;
@@ -46,13 +47,16 @@ constinit Capture capture{no_file, 0, 0, 0, "", capture_without_limit, 1, {}, {}
 constinit char older[PATH_MAX]{}, newer[PATH_MAX]{};   // for rotation; the caller's stack may be small
 constinit std::atomic<bool> capturing{};               // lets a process without a capture skip the lock
 
-// A child after a fork must not inherit the lock from a thread that it does not have.
-void keep_lock_across_fork()
+// A child after a fork must not inherit the lock from a thread that it does not have, and needs a file of its own.
+void follow_forks()
 {
     static constinit pthread_once_t once = PTHREAD_ONCE_INIT;
     pthread_once(&once, [] {
         pthread_atfork([] { pthread_mutex_lock(&mutex); }, [] { pthread_mutex_unlock(&mutex); },
-                       [] { pthread_mutex_unlock(&mutex); });
+                       [] {
+                           capture.process = another_process;
+                           pthread_mutex_unlock(&mutex);
+                       });
     });
 }
 
@@ -239,14 +243,14 @@ int open_above_standard(const char* path)
     return true;
 }
 
-// Ensures that the file is open and still the capture: a child after a fork needs its own, and the process may have
-// closed our descriptor and got the number for a file of its own.
+// Ensures that the file is open, this process's own and still the capture: the process may have closed our descriptor
+// and got the number for a file of its own.
 [[nodiscard]] bool ensure_file(struct stat& status)
 {
     if (capture.file != no_file) {
         const bool is_ours =
             fstat(capture.file, &status) == 0 && status.st_dev == capture.device && status.st_ino == capture.inode;
-        if (is_ours && capture.process == getpid())
+        if (is_ours && capture.process != another_process)
             return true;
         if (!is_ours)
             capture.file = no_file;   // not ours to close
@@ -328,7 +332,7 @@ void write_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_l
 
 bool capture_to(const CapturePlan& plan)
 {
-    keep_lock_across_fork();
+    follow_forks();
     const Lock lock(mutex);
     stop();
     if (plan.path == nullptr)
