@@ -29,6 +29,7 @@ expect_packets() {
         "$kesto" decode --pcap "$capture" >"$capture.json" || fail "$capture: $("$kesto" decode --pcap "$capture" 2>&1 | grep -v '"record"' | head -3)"
         [ "$(stat -c %a "$capture")" = 600 ] || fail "$capture can be read by others"
     done
+    # shellcheck disable=SC2086   # a pattern
     cat $2.json | grep "\"direction\":\"$1" | sed 's/.*"record"://; s/}$//' | sort >"$work/records"
     [ -z "$3" ] || diff "$3" "$work/records" || fail "$2: $1"
 }
@@ -70,4 +71,8 @@ expect_packets received 'plugin.*.pcap' text
 tapped none sh -c 'true; exec true' || fail "a shell"
 LD_PRELOAD=$tap "$build/examples/exchange" >/dev/null || fail "exchange, tap without KESTO_TAP"
 [ -z "$(find . -name 'none.*' -o -name '*.pcap' -newer text ! -name 'plugin*')" ] || fail "files that nobody asked for"
+
+complaints=$(KESTO_TAP=none.pcap KESTO_TAP_MIB=0 KESTO_TAP_FILES=4x KESTO_TAP_OTHERS=1 LD_PRELOAD=$tap /bin/true 2>&1)
+[ "$complaints" = "kesto tap: KESTO_TAP_MIB=0 ignored: not a number from 1 to 4096
+kesto tap: KESTO_TAP_FILES=4x ignored: not a number from 1 to 99" ] || fail "settings: $complaints"
 exit $failed
