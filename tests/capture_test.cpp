@@ -144,44 +144,32 @@ TEST_F(Captures, give_packets_that_are_no_messages_and_why)
     EXPECT_EQ(error, "");
 }
 
-TEST_F(Captures, tell_the_call_of_each_packet_where_they_have_it)
+TEST_F(Captures, tell_the_call_of_each_packet_unless_its_head_is_damaged)
 {
     const Bytes three{1, 2, 3}, all = call_head(0, 7, 1, 0xfffffffe, 0xffffffff, 0x18c1d5f0a0b0c0d0);
-    const auto changed = [&](std::size_t at) {
-        Bytes head = all;
-        head[at] += 2;
-        return with_call(head, packet_of(7, three));
-    };
-    Bytes capture = capture_head(148);
-    RawPacket cut = with_call(all, packet_of(7, three)), no_room = with_call(all, {{}, 0});
+    Bytes capture = capture_head(148), later = all;
+    later[0] = 2;
+    RawPacket cut = with_call(all, packet_of(7, three));
     ++cut.length_on_the_wire;
-    no_room.bytes.resize(no_room.length_on_the_wire = 23);
     for (const RawPacket& packet :
          {with_call(all, packet_of(7, three)), with_call(call_head(1, 0, 1, 2, 3, 0), packet_of(7, three)), cut,
-          with_call(all, packet_of(7, three, 2)), with_call(all, {{7, 0, 0, 0, 3, 0, 0}, 7}), no_room, changed(0),
-          changed(1)})
+          with_call(all, packet_of(7, three, 2)), with_call(all, {{7, 0, 0, 0, 3, 0, 0}, 7}), RawPacket{{1, 0}, 2},
+          with_call(later, packet_of(7, three)), with_call(call_head(2, 7, 1, 2, 3, 4), packet_of(7, three))})
         add_packet(capture, packet);
     write_file(path, capture);
 
     CaptureReader reader;
     CapturedPacket packet;
-    ASSERT_TRUE(reader.open(path, error)) << error;
-    ASSERT_TRUE(reader.next(packet, error) && packet.call);
-    EXPECT_TRUE(packet.call->is_sent);
-    EXPECT_EQ(packet.call->channel, 1u);
-    EXPECT_EQ(packet.call->destination, 0xfffffffe);
-    EXPECT_EQ(packet.call->result, -1);
-    EXPECT_EQ(packet.call->began, 0x18c1d5f0a0b0c0d0u);
+    ASSERT_TRUE(reader.open(path, error) && reader.next(packet, error) && packet.call) << error;
+    EXPECT_TRUE(packet.call->is_sent && packet.call->channel == 1 && packet.call->destination == 0xfffffffe &&
+                packet.call->result == -1 && packet.call->began == 0x18c1d5f0a0b0c0d0);
     ASSERT_TRUE(reader.next(packet, error) && packet.call);
     EXPECT_FALSE(packet.call->is_sent || packet.call->channel || packet.call->destination || packet.call->result);
     EXPECT_EQ(Bytes(packet.bytes.begin(), packet.bytes.end()), three);
-
-    std::vector<PacketFault> faults;
+    std::string faults;
     while (reader.next(packet, error))
-        faults.push_back(packet.fault);
-    EXPECT_EQ(faults, (std::vector{PacketFault::cut, PacketFault::length_disagrees, PacketFault::short_packet,
-                                   PacketFault::short_packet, PacketFault::unknown_head, PacketFault::unknown_head}));
-    EXPECT_EQ(error, "");
+        faults += name_of(packet.fault) + std::string(" ");
+    EXPECT_EQ(faults, "cut length_disagrees short_packet short_packet unknown_head unknown_head ");
 }
 
 TEST_F(Captures, that_are_large_report_their_progress_and_pipes_have_no_end)

@@ -386,8 +386,6 @@ TEST_F(Dissector, names_packets_that_are_no_messages)
         ASSERT_LT(number, std::size(packets));
         EXPECT_EQ(shown.fault, packets[number].second) << "packet " << number;
         EXPECT_EQ(shown.fields.empty(), !shown.fault.empty()) << "packet " << number;
-        for (const std::string& field : shown.fields)   // without a head about the call, the byte string is at 8
-            EXPECT_TRUE(field.find(" at 8, 4 bytes") != std::string::npos || !field.starts_with("kesto.root")) << field;
         ++number;
     });
     EXPECT_EQ(number, std::size(packets));
@@ -396,30 +394,18 @@ TEST_F(Dissector, names_packets_that_are_no_messages)
 TEST_F(Dissector, shows_the_call_of_a_packet)
 {
     const RawPacket packet = packet_of(5, {1, 2});
-    RawPacket cut = with_call(call_head(0, 0, 0, 0, 0, 0), packet);
-    cut.bytes.resize(cut.length_on_the_wire = 31);
-    Bytes later = call_head(0, 0, 0, 0, 0, 0);
+    Bytes later = call_head(0, 0, 0, 0, 0, 0), capture = capture_head(148);
     later[0] = 2;
-    const std::tuple<RawPacket, const char*, const char*> packets[] = {
-        {with_call(call_head(0, 7, 1, 0xfffffffe, 0xffffffff, 1'700'000'000'250'000'001), packet), "unknown_id",
-         "0 1 4294967294 -1 Nov 14, 2023 22:13:20.250000001 UTC"},
-        {with_call(call_head(1, 0, 1, 2, 3, 0), packet), "unknown_id", "1 Jan  1, 1970 00:00:00.000000000 UTC"},
-        {with_call(call_head(2, 0, 1, 2, 3, 0), packet), "unknown_head", ""},
-        {with_call(later, packet), "unknown_head", ""},
-        {cut, "short_packet", ""},
-    };
-    Bytes capture = capture_head(148);
-    for (const auto& [raw, fault, call] : packets)
-        add_packet(capture, raw);
+    for (const Bytes& head : {call_head(0, 7, 1, 0xfffffffe, 0xffffffff, 1'700'000'000'250'000'001),
+                              call_head(1, 0, 1, 2, 3, 0), call_head(2, 0, 1, 2, 3, 0), later})
+        add_packet(capture, with_call(head, packet));
+    add_packet(capture, {call_head(0, 0, 0, 0, 0, 0), 24});
     write_file(path, capture);
-    std::size_t number = 0;
-    dissect([&](const Shown& shown) {
-        ASSERT_LT(number, std::size(packets));
-        EXPECT_EQ(shown.fault, std::get<1>(packets[number])) << "packet " << number;
-        EXPECT_EQ(shown.call, std::get<2>(packets[number])) << "packet " << number;
-        ++number;
-    });
-    EXPECT_EQ(number, std::size(packets));
+    std::vector<std::string> all;
+    dissect([&](const Shown& shown) { all.push_back(shown.fault + " " + shown.call); });
+    EXPECT_EQ(all, (std::vector<std::string>{"unknown_id 0 1 4294967294 -1 Nov 14, 2023 22:13:20.250000001 UTC",
+                                             "unknown_id 1 Jan  1, 1970 00:00:00.000000000 UTC", "unknown_head ",
+                                             "unknown_head ", "short_packet "}));
 }
 
 TEST_F(Dissector, finds_messages_by_their_fields)

@@ -7,38 +7,26 @@ namespace kesto::tests {
 
 ScriptedMesh scripted_mesh{};
 
-namespace {
-
-int finish()
-{
-    if (scripted_mesh.error != 0)
-        errno = scripted_mesh.error;
-    return scripted_mesh.result;
-}
-
-}   // namespace
-
 }   // namespace kesto::tests
 
 using kesto::tests::scripted_mesh;
 
-int MESH_SendToMsg(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
+static int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
 {
     scripted_mesh.channel = channel;
     scripted_mesh.items = items;
     scripted_mesh.count = count;
     scripted_mesh.destination = destination;
-    return kesto::tests::finish();
+    errno = scripted_mesh.error != 0 ? scripted_mesh.error : errno;
+    return scripted_mesh.result;
 }
 
-int MESH_SendMsg(uint32_t channel, const MeshSendItem* items, uint32_t count)
+int MESH_SendToMsg(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
 {
-    scripted_mesh.channel = channel;
-    scripted_mesh.items = items;
-    scripted_mesh.count = count;
-    scripted_mesh.destination = 0;
-    return kesto::tests::finish();
+    return send(channel, items, count, destination);
 }
+
+int MESH_SendMsg(uint32_t channel, const MeshSendItem* items, uint32_t count) { return send(channel, items, count, 0); }
 
 int MESH_RegIDLFuncHook(uint32_t id, MeshUnpack unpack, MeshFree free_record)
 {
@@ -47,5 +35,5 @@ int MESH_RegIDLFuncHook(uint32_t id, MeshUnpack unpack, MeshFree free_record)
         scripted_mesh.unpack = unpack;
         scripted_mesh.free_record = free_record;
     }
-    return kesto::tests::finish();
+    return scripted_mesh.result;
 }
