@@ -1,7 +1,7 @@
 // Measures the library and its peers, case by case. Case names are OPERATION/MESSAGE[:ROWS]/FILL/CONTENDER.
 //
-//   send           from a record to the messaging library; only ours, as for the others it equals packing
-//   unpack_sent    from the sent bytes to a record, and its release; only ours, if they differ from the packed bytes
+//   send           from a record to the messaging library; ours only, as it equals packing for the others
+//   unpack_sent    from the sent bytes to a record, with its release; ours only, if they differ from the packed bytes
 //   pack, unpack   all contenders; unpacking includes the release
 
 #include <benchmark/benchmark.h>
@@ -147,7 +147,7 @@ const T& keep(T&& value)
     return all.emplace_back(std::forward<T>(value));
 }
 
-void add_both_ways(const RecordSet& set, const Contender& contender)
+void add_pack_and_unpack(const RecordSet& set, const Contender& contender)
 {
     const Codec& codec = contender.codec(set.shape.message);
     const ByteStrings& strings = keep(encode_all(codec, set, contender.name));
@@ -198,7 +198,7 @@ void add_all()
     const std::vector<RecordSet>& sets = keep(make_all_records());
     for (const RecordSet& set : sets) {
         for (const Contender& contender : contenders())
-            add_both_ways(set, contender);
+            add_pack_and_unpack(set, contender);
         add_send(set);
         if (set.name() == "ifit_flow_base_mesh/full")
             add_threads(set);
@@ -207,7 +207,7 @@ void add_all()
         const RecordSet& set = keep(make_records({"ifit_flow_base_mesh_update", rows, 0, 0, false, false}, Fill::full));
         for (const Contender& contender : contenders())
             if (std::string_view(contender.name) != "nanopb")
-                add_both_ways(set, contender);
+                add_pack_and_unpack(set, contender);
     }
 }
 

@@ -1,4 +1,4 @@
-// Shared by the printed Cap'n Proto adapters.
+// Shared by the generated Cap'n Proto adapters.
 #pragma once
 
 #include <capnp/message.h>

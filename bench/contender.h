@@ -1,5 +1,5 @@
-// Contenders turn plain records into bytes and back. All have the signatures of the library's own operations, so that
-// all are called in the same way: through a pointer, with untyped records.
+// Contenders turn plain records into bytes and back. All have the signatures of the library's operations and are called
+// in the same way: through a pointer, with untyped records.
 #pragma once
 
 #include <cstdint>
@@ -21,15 +21,15 @@ struct Codec {
     void (*release)(void* record);                                // frees those
 };
 
-// Printed for each peer. The limit is a straight copy of everything, in two ways.
+// Generated for each peer. The limit is a straight copy of the whole record, in two variants.
 extern const std::span<const Codec> limit_memcpy;
 extern const std::span<const Codec> limit_moves;
 extern const std::span<const Codec> protobuf;
 extern const std::span<const Codec> capnproto;
 extern const std::span<const Codec> nanopb;
 
-// Allocates memory for a part of a decoded record.
-inline void* take(std::size_t bytes)
+// Allocates a part of a decoded record.
+inline void* allocate(std::size_t bytes)
 {
     void* const memory = std::malloc(bytes);
     if (memory == nullptr)
@@ -41,7 +41,7 @@ inline void* take(std::size_t bytes)
 template <class T>
 T* copy_of(const void* data, std::size_t bytes)
 {
-    return static_cast<T*>(std::memcpy(take(bytes), data, bytes));
+    return static_cast<T*>(std::memcpy(allocate(bytes), data, bytes));
 }
 
 // An array that arrives with another length is padded with zeros or truncated.
@@ -60,7 +60,7 @@ void read_array(const T* data, std::size_t size, T (&out)[count])
 template <class Element>
 Element* elements(u32 count)
 {
-    return count == 0 ? nullptr : static_cast<Element*>(take(count * sizeof(Element)));
+    return count == 0 ? nullptr : static_cast<Element*>(allocate(count * sizeof(Element)));
 }
 
 }   // namespace kesto::bench

@@ -47,7 +47,7 @@ std::vector<bool> uniform_zeros(const Message& message)
     return zeros;
 }
 
-u64 not_zero(u32 width, Random& random)
+u64 nonzero(u32 width, Random& random)
 {
     const u64 value = random.next() >> (64 - 8 * width);
     return value == 0 ? 1 : value;
@@ -57,7 +57,7 @@ void fill_octets(std::vector<u8>& octets, std::size_t count, Random& random)
 {
     octets.resize(count);
     for (u8& octet : octets)
-        octet = static_cast<u8>(not_zero(1, random));
+        octet = static_cast<u8>(nonzero(1, random));
 }
 
 Record make_record(const Message& message, const Shape& shape, Fill fill, Random& random)
@@ -70,7 +70,7 @@ Record make_record(const Message& message, const Shape& shape, Fill fill, Random
         switch (slot.kind) {
         case Kind::scalar: {
             const bool zero = fill == Fill::uniform ? zeros[k] : fill != Fill::full && random.below(10) < 6;
-            field.number = zero ? 0 : not_zero(slot.width, random);
+            field.number = zero ? 0 : nonzero(slot.width, random);
             break;
         }
         case Kind::string:
@@ -81,9 +81,9 @@ Record make_record(const Message& message, const Shape& shape, Fill fill, Random
             break;
         case Kind::array:
             for (u8& octet : field.octets)
-                octet = static_cast<u8>(not_zero(1, random));
+                octet = static_cast<u8>(nonzero(1, random));
             for (u32& word : field.words)
-                word = static_cast<u32>(not_zero(4, random));
+                word = static_cast<u32>(nonzero(4, random));
             break;
         case Kind::table: field.records[0] = make_record(*slot.nested, shape, fill, random); break;
         case Kind::vector:
@@ -122,13 +122,13 @@ RecordSet make_records(const Shape& shape, Fill fill)
     const Message& message = message_named(shape.message);
     Random random(message.id + shape.rows + static_cast<u32>(fill));
     RecordSet set{shape, fill, {}, {}};
-    const std::size_t most_records = fill == Fill::varied ? 16384 : 64;
-    const u64 most_bytes = fill == Fill::varied ? 4 << 20 : 256 << 10;
+    const std::size_t max_records = fill == Fill::varied ? 16384 : 64;
+    const u64 max_bytes = fill == Fill::varied ? 4 << 20 : 256 << 10;
     u64 bytes = 0;
     do {
         set.records.push_back(make_record(message, shape, fill, random));
         bytes += 2 * model::exact_size(set.records.back());   // the record is smaller than its byte string
-    } while (set.records.size() < most_records && bytes + bytes / set.records.size() <= most_bytes);
+    } while (set.records.size() < max_records && bytes + bytes / set.records.size() <= max_bytes);
     for (const Record& record : set.records)
         set.memory.push_back(std::make_unique<model::RecordMemory>(record));
     return set;

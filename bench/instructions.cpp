@@ -35,7 +35,7 @@ void end_count()
     (void)!write(-1, "", 0);
 }
 
-// A first uncounted pass does the one-time set-up and fills the heap; the second is counted.
+// The first pass does one-time set-up and warms the heap; only the second one is counted.
 template <class Operation>
 void count(const std::string& name, std::size_t records, Operation&& operation)
 {

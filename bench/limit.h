@@ -1,4 +1,4 @@
-// Two ways of copying.
+// Two copy functions.
 #pragma once
 
 #include "bench/contender.h"
@@ -45,7 +45,7 @@ template <class Copy>
 template <class Copy, class T>
 [[gnu::always_inline]] inline const u8* get(T*& part, const u8* from, std::size_t bytes)
 {
-    part = static_cast<T*>(take(bytes));
+    part = static_cast<T*>(allocate(bytes));
     Copy::copy(part, from, bytes);
     return from + bytes;
 }

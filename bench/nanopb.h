@@ -1,4 +1,4 @@
-// Shared by the printed nanopb adapters.
+// Shared by the generated nanopb adapters.
 //
 // Texts, blocks and vectors use callbacks that read and write the record directly. Pointer fields would need another
 // copy, and a realloc for every decoded row.
@@ -14,7 +14,7 @@ namespace kesto::bench {
 using Encode = bool (*)(pb_ostream_t* stream, const pb_field_t* field, void* const* argument);
 using Decode = bool (*)(pb_istream_t* stream, const pb_field_t* field, void** argument);
 
-// A `Peer` is printed for each message: its structure and description, and fill, prepare and read for a single record.
+// A `Peer` is generated for each message: its structure and description, and fill, prepare and read for a single record.
 
 inline pb_callback_t encoding(Encode function, const void* argument)
 {
@@ -66,7 +66,7 @@ inline bool get_text(pb_istream_t* stream, const pb_field_t*, void** argument)
     char*& text = *static_cast<char**>(*argument);
     const std::size_t length = stream->bytes_left;
     std::free(text);
-    text = static_cast<char*>(take(length + 1));
+    text = static_cast<char*>(allocate(length + 1));
     text[length] = 0;
     return pb_read(stream, reinterpret_cast<pb_byte_t*>(text), length);
 }
@@ -77,7 +77,7 @@ bool get_block(pb_istream_t* stream, const pb_field_t*, void** argument)
     Block& block = *static_cast<Block*>(*argument);
     std::free(block.data);
     block.length = static_cast<u32>(stream->bytes_left);
-    block.data = static_cast<u8*>(take(block.length));
+    block.data = static_cast<u8*>(allocate(block.length));
     return pb_read(stream, block.data, block.length);
 }
 
@@ -86,10 +86,10 @@ template <class Vector, class Peer>
 bool get_element(pb_istream_t* stream, const pb_field_t*, void** argument)
 {
     Vector& vector = *static_cast<Vector*>(*argument);
-    constexpr u32 first_room = 4;
-    if (vector.count == 0 || (vector.count >= first_room && (vector.count & (vector.count - 1)) == 0)) {
-        const std::size_t room = vector.count == 0 ? first_room : 2 * std::size_t{vector.count};
-        void* const grown = std::realloc(vector.items, room * sizeof *vector.items);
+    constexpr u32 first_capacity = 4;
+    if (vector.count == 0 || (vector.count >= first_capacity && (vector.count & (vector.count - 1)) == 0)) {
+        const std::size_t capacity = vector.count == 0 ? first_capacity : 2 * std::size_t{vector.count};
+        void* const grown = std::realloc(vector.items, capacity * sizeof *vector.items);
         if (grown == nullptr)
             std::abort();
         vector.items = static_cast<decltype(vector.items)>(grown);

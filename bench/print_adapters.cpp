@@ -1,5 +1,5 @@
-// Prints from the catalogue what the contenders need for each measured message: schemas, and the code that a user of
-// the peer would write to fill its objects from a plain record and to read them back into one.
+// Generates from the catalogue what the contenders need for each measured message: schemas, and the code that a user of
+// the peer would write to fill its objects from a plain record and to read them back.
 //
 //   print_adapters FOLDER
 
@@ -80,7 +80,7 @@ struct Lines {
     const char* table = "";
     const char* vector = "";
 
-    const char* of(const Slot& slot) const
+    const char* for_slot(const Slot& slot) const
     {
         switch (slot.kind) {
         case Kind::scalar: return slot.width < 4 && narrow != nullptr ? narrow : scalar;
@@ -108,7 +108,7 @@ std::string each(const Messages& messages, std::initializer_list<Part> parts)
         for (const Part& part : parts) {
             out += filled(part.head, *message);
             for (const Slot& slot : message->slots)
-                out += filled(part.lines.of(slot), *message, &slot);
+                out += filled(part.lines.for_slot(slot), *message, &slot);
             out += filled(part.tail, *message);
         }
     return out;

@@ -1,4 +1,4 @@
-// Shared by the printed protobuf adapters.
+// Shared by the generated protobuf adapters.
 //
 // Message objects are reused: their strings, rows and arrays keep their storage, which is in an arena. Filling sets
 // every field, so objects are not cleared first. This is faster, as Clear would visit each field once more.

@@ -1,13 +1,12 @@
-"""Takes the benchmark's JSON files and says how the library does: tables, goals, plots, and the measured part of
-docs/performance.md.
+"""Reports the benchmark's JSON files as tables, goals and plots, and writes the measured part of docs/performance.md.
 
   report.py FILE...           prints the tables and the goals
   report.py --docs FILE...    also writes the measured part of docs/performance.md and docs/performance/*.svg, with the
-                              allocations.txt that lies beside the first file
+                              allocations.txt in the folder of the first file
 
-A case's time is the median of its processor time over all repetitions in all files. Of the two ways to copy, the faster
-one is the limit. On a quiet machine a median is within a few hundredths of the next run's; single repetitions are not.
-On a busy one the least of the times says more, so the goals are judged by that as well.
+A case's time is the median CPU time over all repetitions in all files. The limit is the faster of the two copies. On an
+idle machine medians differ by a few percent between runs, single repetitions by more. On a busy machine the minimum is
+more reliable, so the goals are also judged by it.
 """
 
 import argparse
@@ -27,7 +26,7 @@ UPDATE = "ifit_flow_base_mesh_update"
 HASH = "ifit_dfx_query_queryhash_rec_mesh"
 LIST = "ntvifit_stats_info_list:32"
 
-# Performance goals: maximum ratios to the limit, to the faster one of protobuf and Cap'n Proto, and to protobuf.
+# Performance goals: the maximum ratios to the limit, to the faster of protobuf and Cap'n Proto, and to protobuf.
 GOALS = []
 
 
@@ -61,14 +60,14 @@ EVEN = 1.05   # maximum ratio of sending a sparse record in fixed form to sendin
 OPERATIONS = ["send", "pack", "unpack", "unpack_sent"]
 COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # the matching operation of the peers and the limit
 CONTENDERS = ["ours", "limit", "protobuf", "capnp", "nanopb"]
-PEERS = ["protobuf", "capnp"]   # the faster one is `best`
+PEERS = ["protobuf", "capnp"]   # `best` is the faster one
 FILLS = ["full", "sparse", "varied", "uniform"]
 ROWS = [1, 4, 16, 64, 256, 1024, 4096]
 SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
 
 
 class Results:
-    """Times in nanoseconds by (operation, set, contender), each picked from all repetitions, and mean lengths."""
+    """Times in nanoseconds by (operation, set, contender), reduced over all repetitions by `pick`, and mean lengths."""
 
     def __init__(self, paths, pick=statistics.median):
         times, lengths, rates = {}, {}, {}
@@ -98,7 +97,7 @@ class Results:
                 self.times[key] = min(time, self.times.get(key, time))
 
     def time(self, operation, records, contender):
-        """None for what was not measured."""
+        """None if it was not measured."""
         if contender != "ours":
             operation = COUNTERPART.get(operation, operation)
         return self.times.get((operation, records, contender))
@@ -115,7 +114,7 @@ class Results:
 
 
 def number(value):
-    """About three digits."""
+    """Rounds to about three digits."""
     if value is None:
         return "-"
     return f"{value:.0f}" if value >= 100 else f"{value:.1f}" if value >= 10 else f"{value:.2f}"
@@ -174,19 +173,19 @@ def threads(results):
     return head, rows
 
 
-def parts(results, least):
-    """What is reported: a title and a table each."""
+def parts(results, minima):
+    """The parts of the report, each a title and a table."""
     for operation in OPERATIONS:
         if results.sets(operation):
-            yield f"{operation}: nanoseconds, and ours as a multiple of the others'", table(results, operation)
+            yield f"{operation}: nanoseconds, and the ratio of ours to the others", table(results, operation)
     head, rows = goals(results)
     met, missed = (sum(row[-1] == word for row in rows) for word in ("met", "NOT MET"))
-    by_least = goals(least)[1]
-    met_by_least = sum(row[-1] == "met" for row in by_least)
-    for row, other in zip(rows, by_least):
+    by_minimum = goals(minima)[1]
+    met_by_minimum = sum(row[-1] == "met" for row in by_minimum)
+    for row, other in zip(rows, by_minimum):
         if row[-1] != other[-1]:
-            row[-1] += f" ({other[-1]} by the least times)"
-    yield f"Goals: {met} of {met + missed} met; by the least times instead of the medians, {met_by_least}", (head, rows)
+            row[-1] += f" ({other[-1]} by the minima)"
+    yield f"Goals: {met} of {met + missed} met; {met_by_minimum} by the minima instead of the medians", (head, rows)
     if results.rates:
         yield "Threads", threads(results)
 

@@ -3,8 +3,8 @@ set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR i686)
 set(CMAKE_C_COMPILER i686-linux-gnu-gcc)
 set(CMAKE_CXX_COMPILER i686-linux-gnu-g++)
-# Programs run on x86-64 as they are, with the 32-bit libraries that come with the compiler, or in an emulator where the
-# kernel runs 64-bit programs alone.
+# Programs run natively on x86-64 with the 32-bit libraries of the compiler, or in an emulator if the kernel runs only
+# 64-bit programs.
 set(CMAKE_EXE_LINKER_FLAGS_INIT
   "-Wl,--dynamic-linker=/usr/i686-linux-gnu/lib/ld-linux.so.2 -Wl,-rpath,/usr/i686-linux-gnu/lib")
 execute_process(COMMAND /usr/i686-linux-gnu/lib/ld-linux.so.2 --version RESULT_VARIABLE fails OUTPUT_QUIET ERROR_QUIET)

@@ -1,10 +1,10 @@
-# What `cmake --install` and CPack put where. Nothing in it names the prefix, so an installed tree can be moved.
+# Install rules for `cmake --install` and CPack. No installed file contains the prefix, so the tree can be moved.
 #
 #   runtime   the shared library
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
-#   tools     the program kesto and the dissector, where they are built
-#   tap       the library to preload that captures a program's messages, where it is built
-#   zervamesh our stand-in for MESH, where it is built: IfitCodec::zervamesh for who names it as a component
+#   tools     the program kesto and the dissector, if they are built
+#   tap       the preload library that captures a program's messages, if it is built
+#   zervamesh our stand-in for MESH, if it is built: IfitCodec::zervamesh, for projects that request the component
 
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
@@ -30,7 +30,7 @@ write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfigVers
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfig.cmake ${CMAKE_CURRENT_BINARY_DIR}/IfitCodecConfigVersion.cmake
   DESTINATION ${package_in} COMPONENT dev)
 
-# From the .pc file's own folder up to the prefix, and from there down.
+# Paths relative to the folder of the .pc file: up to the prefix, then down.
 file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
 string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
@@ -38,7 +38,7 @@ file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_IN
 configure_file(cmake/ifit-codec.pc.in ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
 
-# In a folder of its own: where the closed library is, a program must not get this one by its name.
+# In a folder of its own, so that programs on a machine with the closed library do not load this one by mistake.
 if(TARGET zervamesh)
   target_include_directories(zervamesh INTERFACE $<INSTALL_INTERFACE:${headers_in}>)
   install(TARGETS zervamesh EXPORT IfitCodecZervamesh
@@ -57,7 +57,7 @@ if(TARGET kesto)
   install(TARGETS kesto RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
   install(FILES tools/kesto/kesto.bash RENAME kesto
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools OPTIONAL)
-  # Where Wireshark looks for Lua of all users.
+  # The system-wide folder for Lua plugins of Wireshark.
   install(FILES dissector/kesto.lua
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/wireshark/plugins COMPONENT tools OPTIONAL)
 endif()

@@ -1,12 +1,16 @@
-// Copying and clearing of sizes known at compile time, in 16-byte moves.
+// Copying and clearing of sizes known at compile time, in moves as wide as the target's registers.
 //
 // By default the compiler turns such copies above 256 bytes, and clears above 80, into `rep` instructions, which take
 // longer than everything else that a codec does with a record.
 #pragma once
 
+#include <bit>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
 #include <utility>
+
+#include "core/calls.h"
 
 namespace kesto {
 
@@ -14,6 +18,9 @@ using u8 = std::uint8_t;
 using u16 = std::uint16_t;
 using u32 = std::uint32_t;
 using u64 = std::uint64_t;
+
+template <u32 bytes>
+using Unsigned = std::tuple_element_t<std::bit_width(bytes) - 1, std::tuple<u8, u16, u32, u64>>;
 
 namespace detail {
 
@@ -24,15 +31,34 @@ template <class Visit, u32... I>
     return (visit.template operator()<I>() && ...);
 }
 
+// Sixteen bytes where the target has a register for them, else a word: wider moves would be split anyway.
+#if defined(__SSE2__) || defined(__ARM_NEON) || UINTPTR_MAX > 0xFFFFFFFF
 constexpr u32 move_bytes = 16;
+#else
+constexpr u32 move_bytes = sizeof(void*);
+#endif
+
+// Where moves are words, a stretch of this length or more is moved by a function that all layouts share: a call takes
+// some six instructions.
+constexpr u32 never = 0xFFFFFFFF;
+constexpr u32 long_stretch = move_bytes == 16 ? never : 80;
+
+// Constants are cheaper inside the instructions of 32-bit x86 than in memory, and cheaper in memory on ARM, where a word
+// takes two instructions to make. Sixteen bytes always come from memory.
+#ifdef __i386__
+constexpr bool constants_as_immediates = true;
+#else
+constexpr bool constants_as_immediates = move_bytes == 16;
+#endif
+constexpr u32 long_constants = constants_as_immediates ? never : long_stretch;
 
 // Calls move(at) for the moves that cover N bytes: full ones, then one that ends at byte N and overlaps the previous.
 template <u32 N, class Move>
-inline void each_move(Move&& move)
+[[gnu::always_inline]] inline void each_move(Move&& move)
 {
     static_assert(N >= move_bytes);
     each_number(
-        [&]<u32 i>() {
+        [&]<u32 i>() __attribute__((always_inline)) {
             move(i * move_bytes);
             return true;
         },
@@ -41,51 +67,62 @@ inline void each_move(Move&& move)
         move(N - move_bytes);
 }
 
-// One move of 1, 2, 4, 8 or 16 bytes. On 32-bit machines it is made word by word, because the compiler may otherwise
-// use `rep` instructions even for sixteen bytes.
 template <u32 N>
-[[gnu::always_inline]] inline void copy_move(u8* to, const u8* from)
+[[gnu::always_inline]] inline void copy_here(u8* to, const u8* from)
 {
-    constexpr std::size_t word = sizeof(void*);
-    if constexpr (N <= word || word == 8)
+    if constexpr (N < move_bytes)
         std::memcpy(to, from, N);
     else
-        each_number(
-            [&]<u32 i>() __attribute__((always_inline)) {
-                std::memcpy(to + i * word, from + i * word, word);
-                return true;
-            },
-            std::make_integer_sequence<u32, N / word>());
+        each_move<N>([&](u32 at) __attribute__((always_inline)) { std::memcpy(to + at, from + at, move_bytes); });
+}
+
+template <u32 N>
+[[gnu::always_inline]] inline void clear_here(u8* to)
+{
+    if constexpr (N < move_bytes)
+        std::memset(to, 0, N);
+    else
+        each_move<N>([&](u32 at) __attribute__((always_inline)) { std::memset(to + at, 0, move_bytes); });
+}
+
+template <u32 N>
+[[gnu::noinline]] KESTO_IN_REGISTERS void copy_long(u8* to, const u8* from)
+{
+    copy_here<N>(to, from);
+}
+
+template <u32 N>
+[[gnu::noinline]] KESTO_IN_REGISTERS void clear_long(u8* to)
+{
+    clear_here<N>(to);
 }
 
 }   // namespace detail
 
 template <u32 N>
-inline void copy_bytes(void* to, const void* from)
+[[gnu::always_inline]] inline void copy_bytes(void* to, const void* from)
 {
-    if constexpr (N < detail::move_bytes)
-        std::memcpy(to, from, N);
+    if constexpr (N >= detail::long_stretch)
+        detail::copy_long<N>(static_cast<u8*>(to), static_cast<const u8*>(from));
     else
-        detail::each_move<N>([&](u32 at) {
-            detail::copy_move<detail::move_bytes>(static_cast<u8*>(to) + at, static_cast<const u8*>(from) + at);
-        });
+        detail::copy_here<N>(static_cast<u8*>(to), static_cast<const u8*>(from));
 }
 
 template <u32 N>
-inline void clear_bytes(void* to)
+[[gnu::always_inline]] inline void clear_bytes(void* to)
 {
-    if constexpr (N < detail::move_bytes)
-        std::memset(to, 0, N);
+    if constexpr (N >= detail::long_stretch)
+        detail::clear_long<N>(static_cast<u8*>(to));
     else
-        detail::each_move<N>([&](u32 at) { std::memset(static_cast<u8*>(to) + at, 0, detail::move_bytes); });
+        detail::clear_here<N>(static_cast<u8*>(to));
 }
 
 // A copy whose size may be known at compile time. In cold code the compiler would then use a `rep` instruction, which
 // takes longer than the rest of a table.
 inline void copy_some(u8* to, const u8* from, std::size_t n)
 {
-    constexpr std::size_t step = 16;
-    if (!__builtin_constant_p(n) || n < step || n % step != 0) {
+    constexpr std::size_t step = detail::move_bytes;
+    if (!__builtin_constant_p(n) || n % step != 0 || n >= detail::long_stretch) {
         std::memcpy(to, from, n);
         return;
     }

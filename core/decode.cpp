@@ -93,12 +93,10 @@ void release_record(const Decoder& decoder, u8* record)
     }
 }
 
-TableView<Input> open_table_of(Input in, u32 table, u32 slots)
+KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots)
 {
     TableView<Input> view;
-    if (open_table(in, table, view) != TableFault::none || !holds_slots(view, slots))
-        view.vtable = 0;
-    return view;
+    return open_table(in, table, view) == TableFault::none && holds_slots(view, slots) ? view.vtable : 0;
 }
 
 bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
@@ -168,7 +166,7 @@ bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Deco
     return false;
 }
 
-void free_unpacked(void* record, const Decoder& decoder)
+KESTO_ENTRY void free_unpacked(KESTO_WITH(const Decoder& decoder, void* record))
 {
     if (record != nullptr)
         release_record(decoder, static_cast<u8*>(record));
@@ -196,22 +194,23 @@ bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecode
     return decode_any_nested(in, table, record, message);
 }
 
-void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
+KESTO_ENTRY u32 decode_message(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record))
 {
     if (!may_decode(bytes, length, record)) [[unlikely]] {
         log_decode_parameters(*decoder.unit, decoder.unpack_routine, bytes, length, record);
-        return;
+        return decoder.record_size;
     }
     Frame frame{{bytes, length}, {}, &decoder, decoder.unpack_routine};
     const TableFault fault = open_table(frame.in, root_table(frame.in), frame.view);
     if (fault != TableFault::none) [[unlikely]] {
         refuse_table(frame, fault);
-        return;
+        return decoder.record_size;
     }
     ensure_memory_services(*decoder.unit);
     std::memset(record, 0, decoder.record_size);
     if (!decode_slots(frame, record) && decoder.owned_block_count != 0)
         release_record(decoder, record);
+    return decoder.record_size;
 }
 
 }   // namespace kesto

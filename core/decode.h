@@ -7,6 +7,8 @@
 #include "core/layout.h"
 #include "core/unit.h"
 
+#pragma GCC visibility push(hidden)
+
 namespace kesto {
 
 struct Frame;
@@ -20,6 +22,17 @@ struct SlotInfo {
     bool fault_ends_read;   // tables: a refused one ends the decoding of the enclosing message
     u16 count;              // arrays: number of values
     u16 record_offset;
+};
+
+// The fast paths of a flat layout as data; see InlinePaths in decode_fast.h.
+struct FlatPaths {
+    bool(KESTO_IN_REGISTERS* try_fixed)(const u8* bytes, u8* record);
+    bool(KESTO_IN_REGISTERS* try_dense)(const u8* bytes, u8* record);
+    bool(KESTO_IN_REGISTERS* try_table)(Input in, u32 table, u8* record);
+    u32 fixed_length;
+    u32 dense_root;
+    u32 dense_length;
+    u32 record_size;
 };
 
 struct Decoder;
@@ -42,6 +55,7 @@ struct Decoder {
     u32 owned_block_count;
     const OwnedBlock* owned_blocks;   // in slot order
     u32 record_size;
+    const FlatPaths* paths;   // null if they are inlined
 };
 
 // Decodes `count` elements into `records`, which need not be initialized. After a failure all of them are safe to
@@ -69,8 +83,8 @@ inline bool may_decode(const u8* bytes, u32 length, const void* record)
     return bytes != nullptr && record != nullptr && static_cast<std::int32_t>(length) >= std::int32_t{least_length};
 }
 
-// X__unpack by the general path, without the result. The record is cleared after the root table has passed its tests.
-void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& decoder);
+// X__unpack by the general path. The record is cleared after the root table has passed its tests.
+KESTO_ENTRY u32 decode_message(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record));
 
 // Decodes a nested table into a record that must be clear. If the table cannot be opened, the fault is logged; if one
 // of its fields is refused, what the record owns is released.
@@ -79,9 +93,8 @@ void decode_message(const u8* bytes, u32 length, u8* record, const Decoder& deco
 // The same for a record that need not be clear.
 [[nodiscard]] bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
 
-// Opens a table whose vtable must hold at least `slots` slots. If it is refused, the view's vtable is 0, a position
-// that no vtable can have.
-[[nodiscard, gnu::cold]] TableView<Input> open_table_of(Input in, u32 table, u32 slots);
+// The vtable of a table, which must hold at least `slots` slots; 0, a position that no vtable can have, if it is refused.
+[[nodiscard]] KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots);
 
 // Allocates an owned block. Logs and returns null if there is no memory.
 inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
@@ -132,6 +145,8 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 void release_record(const Decoder& decoder, u8* record);
 
 // The body of X_free__unpacked for a message with owned blocks.
-void free_unpacked(void* record, const Decoder& decoder);
+KESTO_ENTRY void free_unpacked(KESTO_WITH(const Decoder& decoder, void* record));
 
 }   // namespace kesto
+
+#pragma GCC visibility pop

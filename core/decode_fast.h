@@ -1,26 +1,21 @@
 // The decoder's fast paths, instantiated per layout. A try_... function decodes well-formed input and may decline any
 // other, which the general path (decode.cpp) then decodes. Where both apply, their records, logs and refusals agree.
 //
-// Decoding a flat layout, one without owned blocks, affects only its record. A try on it may therefore decline at any
-// point, and the general path starts over. A try on an owning layout declines before it has any effect, or not at all.
+// A try that declines may have written to the record, but has had no other effect: no block is allocated and nothing is
+// logged before it is certain to conclude. The general path starts over.
 //
 // The paths of each layout, in the order in which they are tried; facts are members of Layout (layout.h):
 //
-//   layout                         message                           element, nested table
-//   flat                           fixed image if the root is at 4,  dense image (elements only, until one is none),
-//                                  else dense image; flat table      flat table; general path
-//   owning, has_image              dense image; owning table         dense image (elements only); owning table; general
-//   owning, else                   owning table                      owning table; general path
+//   layout    message                                      element, nested table
+//   flat      fixed image if the root is at 4, else        dense image (elements only until one is none); flat table;
+//             dense image; flat table                      general path
+//   owning    head image or tested scalars, then slots     the same; general path
 //
 //   fact              target       effect, and the measured reason
-//   has_image         all          if texts and blocks divide it, a dense image pays from 17 slots on. With a vector it
-//                                  does not pay: the elements take the time
-//   is_small          all          up to 14 slots an image is written and read inline, as a call would cost more than
-//                                  it saves; a limit of 16 would add 3 KB of code
-//   is_tiny           64 bits      up to 12 slots a flat table is read inline even in the loop over elements
-//   has_vectors       64 bits      the fast path opens such a table in compact form only: its elements take the time
-//   pointer_bytes     64 bits      open_compact_table is instantiated per layout, which is too much code for 32-bit
-//                                  machines; there open_table_of, one function for all layouts, opens every table
+//   is_short          64 bits      up to 14 slots an image is written and read inline, and a flat table is read inline
+//                                  even in the loop over elements, as a call would cost more than it saves
+//   has_vectors       all          such a message is decoded inline in its unpack: it is nested in no other table
+//   pointer_bytes     32 bits      scalars are tested and read one by one: registers are too few for lanes.h
 #pragma once
 
 #include "core/decode.h"
@@ -32,48 +27,36 @@ namespace kesto {
 
 // ---- images: most output of our own writers is recognised as a whole and copied ----
 
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_dense_table_here(Input in, u32 table, u8* record)
+template <class Form>
+[[nodiscard, gnu::always_inline]] inline bool try_image_here(const u8* bytes, u8* record)
 {
-    using Form = DenseImage<L>;
-    u32 at = 0;
-    if (!image_fits(in, table, L::vtable_bytes, Form::length, at))
+    if (!Form::matches(bytes))
         return false;
-    const u8* const bytes = in.bytes_unchecked(at, 0, Form::length);   // image_fits
-    if (!Form::matches({bytes}))
-        return false;
-    Form::read(record, {bytes});
+    Form::read(record, bytes);
     return true;
 }
 
-template <class L>
-[[nodiscard, gnu::noinline]] bool try_large_dense_table(Input in, u32 table, u8* record)
+template <class Form>
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_long_image(const u8* bytes, u8* record)
 {
-    return try_dense_table_here<L>(in, table, record);
+    return try_image_here<Form>(bytes, record);
 }
 
-// A table in compact form, with all tables beneath it. Returns false and writes nothing if it is not a dense image.
+// The bytes must hold the image's length. Returns false and writes nothing if they are not the image.
+template <class Form, bool is_short>
+[[nodiscard, gnu::always_inline]] inline bool try_image(const u8* bytes, u8* record)
+{
+    return is_short ? try_image_here<Form>(bytes, record) : try_long_image<Form>(bytes, record);
+}
+
+// A table in compact form, with all tables beneath it.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_dense_table(Input in, u32 table, u8* record)
 {
-    if constexpr (L::is_small)
-        return try_dense_table_here<L>(in, table, record);
-    else   // the length is tested first: no call for a message that is too short
-        return holds_bytes(in, DenseImage<L>::length) && try_large_dense_table<L>(in, table, record);
-}
-
-// A message in fixed form. Returns false and writes nothing if it is not the fixed image.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_fixed_message(Input in, u8* record)
-{
-    using Form = FixedImage<L>;
-    if (!holds_bytes(in, Form::length))
-        return false;
-    const u8* const bytes = in.bytes_unchecked(0, 0, Form::length);   // holds_bytes
-    if (!Form::matches({bytes}))
-        return false;
-    Form::read(record, {bytes});
-    return true;
+    using Form = DenseImage<L>;
+    u32 at = 0;
+    return image_fits(in, table, L::vtable_bytes, Form::length, at) &&
+           try_image<Form, L::is_short>(in.bytes_unchecked(at, 0, Form::length), record);   // image_fits
 }
 
 // ---- tables whose scalars all lie inside the input ----
@@ -91,23 +74,37 @@ constexpr Widths<L::slots> scalar_widths = [] {
     return widths;
 }();
 
-// Opens a table whose vtable has all slots and whose scalars all lie inside the input; see the list of facts above.
+// Opens a table whose vtable has all slots.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool open_tested_table(const Input& in, u32 table, TableView<Input>& view)
+[[nodiscard, gnu::always_inline]] inline bool open_whole_table(const Input& in, u32 table, TableView<Input>& view)
 {
-    constexpr bool has_compact_path = pointer_bytes == 8;
-    if (!has_compact_path || !open_compact_table(in, table, L::slots, view)) {
-        if (has_compact_path && L::has_vectors)
+    if (open_compact_table(in, table, L::slots, view))
+        return true;
+    view = {table, vtable_of(in, table, L::slots), L::vtable_bytes, in.length - table};
+    return view.vtable != 0;
+}
+
+// Reads the scalars of a table whose vtable has all slots, absent ones as 0. False if one of them lies outside.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool try_scalars(const Input& in, const TableView<Input>& view, u8* record)
+{
+    constexpr bool in_lanes = pointer_bytes == 8;
+    if constexpr (in_lanes)
+        if (!scalars_fit(in, view, scalar_widths<L>))
             return false;
-        view = open_table_of(in, table, L::slots);
-        if (view.vtable == 0)
-            return false;
-    }
-    return scalars_fit(in, view, scalar_widths<L>);
+    return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        if constexpr (Slot::kind == Kind::scalar) {
+            const u32 offset = slot_unchecked(in, view, K);
+            if (!in_lanes && !field_fits(view, offset, Slot::record_size)) [[unlikely]]
+                return false;
+            read_tested_scalar<typename Slot::Value>(in, view, offset, record + L::record_offset[K]);
+        }
+        return true;
+    });
 }
 
 template <class L>
-[[nodiscard]] bool try_flat_table(Input in, u32 table, u8* record);
+[[nodiscard]] KESTO_IN_REGISTERS bool try_flat_table(Input in, u32 table, u8* record);
 
 // Clears the bytes of a record that belong to no field.
 template <class L>
@@ -121,18 +118,32 @@ template <class L>
     });
 }
 
+// The same for the nested tables that the head image has, and all beneath them.
+template <class L>
+[[gnu::always_inline]] inline void clear_gaps_beneath(u8* record)
+{
+    L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        if constexpr (Slot::kind == Kind::table) {
+            if (L::in_head[K]) {
+                clear_gaps<typename Slot::Layout>(record + L::record_offset[K]);
+                clear_gaps_beneath<typename Slot::Layout>(record + L::record_offset[K]);
+            }
+        }
+        return true;
+    });
+}
+
+// Reads slot K of a flat layout, other than a scalar.
 template <class Slot>
 [[nodiscard, gnu::always_inline]] inline bool try_flat_slot(const Input& in, const TableView<Input>& view, u32 K,
                                                             u8* field)
 {
     const u32 offset = slot_unchecked(in, view, K);
-    if constexpr (Slot::kind == Kind::scalar) {
-        read_tested_scalar<typename Slot::Value>(in, view, offset, field);
-        return true;
-    } else if (offset == 0) {
+    if (offset == 0) {
         clear_bytes<Slot::record_size>(field);
         return true;
-    } else if constexpr (Slot::kind == Kind::array) {
+    }
+    if constexpr (Slot::kind == Kind::array) {
         return read_array<typename Slot::Value>(in, view, offset, Slot::count, field);
     } else {
         u32 table = 0;
@@ -144,18 +155,20 @@ template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_flat_table_here(Input in, u32 table, u8* record)
 {
     TableView<Input> view;
-    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
+    if (!open_whole_table<L>(in, table, view) || !try_scalars<L>(in, view, record)) [[unlikely]]
         return false;
     clear_gaps<L>(record);
     return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
-        return try_flat_slot<Slot>(in, view, K, record + L::record_offset[K]);
+        if constexpr (Slot::kind == Kind::scalar)
+            return true;
+        else
+            return try_flat_slot<Slot>(in, view, K, record + L::record_offset[K]);
     });
 }
 
-// Any well-formed table of a flat layout. When it returns false, the record may hold a part of the table; it is
-// untouched if the tests of the table itself failed.
+// Any well-formed table of a flat layout.
 template <class L>
-[[nodiscard, gnu::noinline]] bool try_flat_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_flat_table(Input in, u32 table, u8* record)
 {
     return try_flat_table_here<L>(in, table, record);
 }
@@ -164,96 +177,81 @@ template <class L>
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_short_table(Input in, u32 table, u8* record)
 {
-    return L::is_tiny ? try_flat_table_here<L>(in, table, record) : try_flat_table<L>(in, table, record);
-}
-
-// ---- nested tables ----
-
-template <class L>
-[[nodiscard]] bool decode_owning_table(Input in, u32 table, u8* record, const NestedDecoder& message);
-
-template <class L>
-[[nodiscard]] bool decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
-{
-    if constexpr (L::has_owned_blocks)
-        return decode_owning_table<L>(in, table, record, message);
-    else
-        return try_flat_table<L>(in, table, record) || clear_and_decode_nested(in, table, record, message);
+    return L::is_short ? try_flat_table_here<L>(in, table, record) : try_flat_table<L>(in, table, record);
 }
 
 // ---- layouts with owned blocks ----
 
-// `in` and `view` are copies of the frame's, so that the compiler knows that no store to a record can change them.
+enum class Reading : u8 { none, refused, done };   // none: declined
+
+template <class L>
+[[nodiscard]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine);
+
+// The same as clear_and_decode_nested.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool decode_nested(Input in, u32 table, u8* record,
+                                                            const NestedDecoder& message)
+{
+    if constexpr (L::has_owned_blocks) {
+        const Reading reading = try_owning_table<L>(in, table, record, *message.decoder, message.routine);
+        if (reading != Reading::none) [[likely]]
+            return reading == Reading::done;
+    } else if (try_dense_table<L>(in, table, record) || try_flat_table<L>(in, table, record)) {
+        return true;
+    }
+    return clear_and_decode_nested(in, table, record, message);
+}
+
+// Reads what the head image of our own writers has.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline bool try_head(const Input& in, u32 table, TableView<Input>& view, u8* record)
+{
+    using Form = HeadImage<L>;
+    u32 at = 0;
+    if (!image_fits(in, table, L::vtable_bytes, vtable_head_bytes + Form::length, at))
+        return false;
+    const u8* const head = in.bytes_unchecked(at, vtable_head_bytes, Form::length);   // image_fits
+    if (in.load_unchecked<u16>(at) != L::vtable_bytes || !Form::matches(head))        // the same
+        return false;
+    view = {table, at, L::vtable_bytes, in.length - table};
+    Form::read_fields(record, head);
+    clear_gaps_beneath<L>(record);
+    return true;
+}
+
+// Decodes slot K, other than a scalar, and writes its field in any case.
 template <class L, class Slot>
 [[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in,
-                                                          const TableView<Input>& view, u32 K, u8* record)
+                                                          const TableView<Input>& view, u32 K, u8* field)
 {
-    u8* const field = record + L::record_offset[K];
-    if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array) {
+    const u32 offset = slot_unchecked(in, view, K);
+    if constexpr (Slot::kind == Kind::array) {
         return try_flat_slot<Slot>(in, view, K, field);
+    } else if constexpr (Slot::kind == Kind::table) {
+        if (offset == 0) {
+            clear_bytes<Slot::record_size>(field);
+            return true;
+        }
+        u32 table = 0;
+        if (!nested_table(in, view, offset, table)) {
+            clear_bytes<Slot::record_size>(field);
+            return false;
+        }
+        const NestedDecoder& message = frame.decoder->nested[L::nested_before[K]];
+        return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
     } else {
-        const u32 offset = slot_unchecked(in, view, K);
+        clear_bytes<Slot::record_size>(field);
         if (offset == 0)
-            return true;   // the record is clear already
-        if constexpr (Slot::kind == Kind::text) {
+            return true;
+        if constexpr (Slot::kind == Kind::text)
             return decode_text(frame, offset, field);
-        } else if constexpr (Slot::kind == Kind::block) {
+        else if constexpr (Slot::kind == Kind::block)
             return decode_block(frame, offset, field);
-        } else if constexpr (Slot::kind == Kind::vector) {
+        else
             return decode_vector(in, view, offset, field, *frame.decoder, frame.routine,
                                  frame.decoder->nested[L::nested_before[K]]);
-        } else {
-            u32 table = 0;
-            if (!nested_table(in, view, offset, table))
-                return false;
-            const NestedDecoder& message = frame.decoder->nested[L::nested_before[K]];
-            return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
-        }
     }
 }
-
-enum class Reading : u8 { none, refused, done };   // none: declined, without any effect
-
-// A table whose scalars all lie inside the input. The record must be clear, unless `clear` asks for it to be cleared
-// first. After a fault it is released. Slots are decoded in order, because the fields after a fault must stay unset.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline Reading
-try_owning_table_here(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine, bool clear)
-{
-    TableView<Input> view;
-    if (!open_tested_table<L>(in, table, view)) [[unlikely]]
-        return Reading::none;
-    if (clear)
-        clear_bytes<L::record_size>(record);
-    const Frame frame{in, view, &decoder, routine};
-    const bool all = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
-        return decode_slot<L, Slot>(frame, in, view, K, record);
-    });
-    if (all) [[likely]]
-        return Reading::done;
-    release_record(decoder, record);
-    return Reading::refused;
-}
-
-template <class L>
-[[nodiscard, gnu::noinline]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                      const char* routine, bool clear)
-{
-    return try_owning_table_here<L>(in, table, record, decoder, routine, clear);
-}
-
-// The same as decode_any_nested.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool decode_owning_table(Input in, u32 table, u8* record,
-                                                                  const NestedDecoder& message)
-{
-    const Reading reading = try_owning_table<L>(in, table, record, *message.decoder, message.routine, false);
-    if (reading == Reading::none) [[unlikely]]
-        return decode_any_nested(in, table, record, message);
-    return reading == Reading::done;
-}
-
-// ---- images with owned blocks ----
 
 // Fields after the one that failed read as zero. Not marked cold: it would then be compiled for size, as a string
 // instruction.
@@ -262,70 +260,41 @@ template <class L>
     std::memset(record + end, 0, record_end - end);
 }
 
-// Allocates and copies the owned blocks of an image's record, in slot order. The fields of `L` begin at offset `base`
-// of the record.
-template <class Form, class L, u32 base>
-[[nodiscard, gnu::always_inline]] inline bool copy_owned_blocks(const typename Form::template Places<const u8>& bytes,
-                                                                u8* record, const Decoder& decoder, const char* routine)
+// A table whose vtable has all slots and whose scalars all lie inside the input. After a fault the record is released.
+// `in` and `view` are copies of the frame's, so that the compiler knows that no store to a record can change them.
+template <class L>
+[[nodiscard, gnu::always_inline]] inline Reading try_owning_table_here(Input in, u32 table, u8* record,
+                                                                       const Decoder& decoder, const char* routine)
 {
-    const bool all = each_slot_number<L>([&]<u32 K>() __attribute__((always_inline)) {
-        using Slot = typename L::template Slot<K>;
-        if constexpr (Slot::fixed_bytes == 0) {
-            constexpr u32 offset = base + L::record_offset[K];
-            u8* const field = record + offset;
-            bool taken;
-            if constexpr (Slot::kind == Kind::table) {
-                const NestedDecoder& message = decoder.nested[L::nested_before[K]];
-                taken = copy_owned_blocks<Form, typename Slot::Layout, offset>(bytes, record, *message.decoder,
-                                                                               message.routine) ||
-                        !Slot::fault_ends_read;
-            } else {
-                constexpr u32 b = Form::body_of(offset);
-                const u8* const from = bytes[b] + Form::bodies[b].position;
-                const auto length = static_cast<u32>(bytes[b + 1] - bytes[b]);
-                if constexpr (Slot::kind == Kind::text)
-                    taken = copy_text(decoder, routine, from, length, field);
-                else
-                    taken = copy_block(decoder, routine, from, length, field);
-            }
-            if (!taken) [[unlikely]]
-                clear_after(record, offset + Slot::record_size, base + L::record_size);
-            return taken;
+    TableView<Input> view;
+    const bool has_head = try_head<L>(in, table, view, record);
+    if (!has_head && (!open_whole_table<L>(in, table, view) || !try_scalars<L>(in, view, record))) [[unlikely]]
+        return Reading::none;
+    clear_gaps<L>(record);
+    const Frame frame{in, view, &decoder, routine};
+    u32 end = 0;   // of what the record has when a slot fails
+    const bool all = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+        if constexpr (Slot::kind == Kind::scalar) {
+            return true;
+        } else {
+            if (has_head && L::in_head[K])
+                return true;
+            end = L::record_offset[K] + (Slot::kind == Kind::array ? 0 : Slot::record_size);
+            return decode_slot<L, Slot>(frame, in, view, K, record + L::record_offset[K]);
         }
-        return true;
     });
-    if (!all) [[unlikely]]
-        release_record(decoder, record + base);
-    return all;
+    if (all) [[likely]]
+        return Reading::done;
+    clear_after(record, end, L::record_size);
+    release_record(decoder, record);
+    return Reading::refused;
 }
 
-enum class After : u8 { nothing, anything };
-
-// A dense image with owned blocks, with all tables beneath it. If nothing may come after it, as in a whole message, the
-// length alone rules out most other input.
 template <class L>
-[[nodiscard, gnu::noinline]] Reading try_dense_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                            const char* routine, After after)
+[[nodiscard, gnu::noinline]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                      const char* routine)
 {
-    using Form = DenseImage<L>;
-    u32 at = 0;
-    if (!image_fits(in, table, L::vtable_bytes, Form::length, at))
-        return Reading::none;
-    u32 room = in.length - at - Form::length;
-    typename Form::template Places<const u8> bytes{in.bytes_unchecked(at, 0, Form::length)};   // image_fits
-    const bool fit = each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
-        constexpr Body body = Form::bodies[b];
-        u32 length = 0;
-        if (!consume_body(in, at + body.position - count_bytes, room, length))
-            return false;
-        at += length;
-        bytes[b + 1] = in.bytes_unchecked(at, 0, Form::length);   // consume_body
-        return length != 0 || body.kind == Kind::text;
-    });
-    if (!fit || (after == After::nothing && room != 0) || !Form::matches(bytes))
-        return Reading::none;
-    Form::read(record, bytes);
-    return copy_owned_blocks<Form, L, 0>(bytes, record, decoder, routine) ? Reading::done : Reading::refused;
+    return try_owning_table_here<L>(in, table, record, decoder, routine);
 }
 
 // ---- elements ----
@@ -354,25 +323,20 @@ bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const Nes
 template <class L>
 bool decode_owning_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
-    u32 i = 0, table = 0;
     u8* record = records;
-    Reading reading = Reading::none;
-    if constexpr (L::has_image) {
-        for (; i < count && element_table(in, cells, i, table); ++i, record += L::record_size) {
-            reading = try_dense_owning_table<L>(in, table, record, *element.decoder, element.routine, After::anything);
-            if (reading != Reading::done)
-                break;
+    for (u32 i = 0, table = 0; i < count; ++i, record += L::record_size) {
+        const bool found = element_table(in, cells, i, table);
+        if (found && decode_nested<L>(in, table, record, element)) [[likely]]
+            continue;
+        // All elements are released later. A refused one has released its blocks itself.
+        if (found)
+            ++i, record += L::record_size;
+        if (i != count) {
+            const std::size_t left = std::size_t{count - i} * L::record_size;
+            memset_s(record, left, 0, left);
         }
-    }
-    if (i != count) {   // a refused element has released its blocks already
-        const std::size_t left = std::size_t{count - i} * L::record_size;
-        memset_s(record, left, 0, left);
-    }
-    if (reading == Reading::refused)
         return false;
-    for (; i < count; ++i, record += L::record_size)
-        if (!element_table(in, cells, i, table) || !decode_owning_table<L>(in, table, record, element))
-            return false;
+    }
     return true;
 }
 
@@ -421,38 +385,113 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// Returns false if no fast path applies; decode_message then starts over. The memory services must have been looked up
-// before, because fast paths allocate through the unit's hooks without looking them up.
+// The fast paths of a flat layout, to be inlined; flat_paths has the same as data. The lengths are those of messages.
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_message(Input in, u8* record, const Decoder& decoder)
+struct InlinePaths {
+    static constexpr u32 fixed_length = L::fixed_length;
+    static constexpr u32 dense_root = root_bytes + L::vtable_bytes;   // position of the root table
+    static constexpr u32 dense_length = root_bytes + DenseImage<L>::length;
+    static constexpr u32 record_size = L::record_size;
+
+    [[gnu::always_inline]] static bool try_fixed(const u8* bytes, u8* record)
+    {
+        return try_image<FixedImage<L>, !shares_entries>(bytes, record);
+    }
+    [[gnu::always_inline]] static bool try_dense(const u8* bytes, u8* record)
+    {
+        return try_image<DenseImage<L>, L::is_short>(bytes, record);
+    }
+    [[gnu::always_inline]] static bool try_table(Input in, u32 table, u8* record)
+    {
+        return try_short_table<L>(in, table, record);
+    }
+};
+
+template <class L>
+constexpr FlatPaths flat_paths{
+    .try_fixed = try_long_image<FixedImage<L>>,
+    .try_dense = try_long_image<DenseImage<L>>,
+    .try_table = try_flat_table<L>,
+    .fixed_length = L::fixed_length,
+    .dense_root = InlinePaths<L>::dense_root,
+    .dense_length = InlinePaths<L>::dense_length,
+    .record_size = L::record_size,
+};
+
+template <class L>
+constexpr const FlatPaths* paths_as_data()
+{
+    if constexpr (shares_entries && !L::has_owned_blocks)
+        return &flat_paths<L>;
+    else
+        return nullptr;
+}
+
+// A dense image is only looked for where our own writers put it, right after the root word.
+template <class Paths>
+[[nodiscard, gnu::always_inline]] inline bool try_flat_message(const Paths& paths, Input in, u8* record)
 {
     const u32 table = root_table(in);
-    if constexpr (L::has_owned_blocks) {
-        if constexpr (L::has_image)
-            if (try_dense_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, After::nothing) !=
-                Reading::none)
-                return true;
-        if constexpr (L::has_vectors)   // and so is nested in no other table
-            return try_owning_table_here<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
-        else
-            return try_owning_table<L>(in, table, record, decoder, decoder.unpack_routine, true) != Reading::none;
-    } else {
-        return (table == root_bytes ? try_fixed_message<L>(in, record) : try_dense_table<L>(in, table, record)) ||
-               try_short_table<L>(in, table, record);
+    if (table == root_bytes) {
+        if (holds_bytes(in, paths.fixed_length) &&
+            paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record))   // holds_bytes
+            return true;
+    } else if (table == paths.dense_root) {
+        if (holds_bytes(in, paths.dense_length) &&
+            paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes), record))   // the same
+            return true;
     }
+    return paths.try_table(in, table, record);
 }
 
 // The body of X__unpack. required: returns the record's size on every path, but no caller can then detect a failure.
-template <class L>
-[[gnu::noinline]] u32 unpack(const u8* bytes, u32 length, u8* record, const Decoder& decoder)
+//
+// The first decoding takes the general path, which looks the services up after the root's tests and before the first
+// store. Fast paths allocate through the unit's hooks without looking them up.
+template <class Try>
+[[gnu::always_inline]] inline u32 unpack_by(const Decoder& decoder, const u8* bytes, u32 length, u8* record,
+                                            const u32& record_size, const Try& try_message)
 {
-    // The first decoding takes the general path, which looks the services up after the root's tests and before the
-    // first store.
-    const bool done = may_decode(bytes, length, record) && has_memory_services(*decoder.unit) &&
-                      try_message<L>({bytes, length}, record, decoder);
-    if (!done) [[unlikely]]
-        decode_message(bytes, length, record, decoder);
-    return L::record_size;
+    if (may_decode(bytes, length, record) && has_memory_services(*decoder.unit) && try_message()) [[likely]]
+        return record_size;
+    return decode_message(KESTO_WITH(decoder, bytes, length, record));
+}
+
+template <class L>
+[[gnu::noinline]] KESTO_ENTRY u32 unpack(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record))
+{
+    return unpack_by(
+        decoder, bytes, length, record, L::record_size, [&]() __attribute__((always_inline)) {
+            const Input in{bytes, length};
+            if constexpr (!L::has_owned_blocks)
+                return try_flat_message(InlinePaths<L>{}, in, record);
+            else if constexpr (L::has_vectors)   // and so is nested in no other table
+                return try_owning_table_here<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
+                       Reading::none;
+            else
+                return try_owning_table<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
+                       Reading::none;
+        });
+}
+
+// The same for all flat layouts.
+[[gnu::noinline]] KESTO_ENTRY inline u32 unpack_flat(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length,
+                                                                u8* record))
+{
+    const FlatPaths& paths = *decoder.paths;
+    return unpack_by(
+        decoder, bytes, length, record, paths.record_size, [&]() __attribute__((always_inline)) {
+            return try_flat_message(paths, {bytes, length}, record);
+        });
+}
+
+template <class L>
+constexpr auto unpack_entry()
+{
+    if constexpr (shares_entries && !L::has_owned_blocks)
+        return &unpack_flat;
+    else
+        return &unpack<L>;
 }
 
 }   // namespace kesto

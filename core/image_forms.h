@@ -46,88 +46,49 @@ constexpr void describe_fixed(Constants& constant, List<FieldRun>& field, u32 re
     });
 }
 
-// A position in an image, and the number of bodies before it.
-struct Place {
-    u32 position = 0;
-    u32 bodies = 0;
-};
-
-// The number at `position` that holds the distance between two places.
-constexpr void describe_distance(const Constants& constant, List<Sum>& sum, u32 position, u32 width, const Place& from,
-                                 const Place& to, bool must_be)
-{
-    const u32 value = to.position - from.position;
-    if (from.bodies == to.bodies)
-        constant(position, value, width);
-    else
-        sum(Sum{position, width, value, from.bodies, to.bodies, must_be});
-}
-
-// The compact form, without the root word, of a record in which no scalar is zero, no text or block is absent and no
-// block is empty. It equals the output of write_table. Returns its end.
+// The compact form of a record in which no scalar is zero and nothing is absent, from the first slot of the vtable on, up
+// to the first thing whose length is not constant. It equals the output of write_table. Returns its end.
 template <class L>
-constexpr Place describe_dense(Constants& constant, List<FieldRun>& field, List<Body>& body, List<Sum>& sum,
-                               u32 record = 0, const Place& vtable = {})
+constexpr u32 describe_compact(Constants& constant, List<FieldRun>& field, u32 record, u32 first_slot)
 {
-    static_assert(!L::has_vectors);
-    const Place table{vtable.position + L::vtable_bytes, vtable.bodies};
-    constant(table.position, L::vtable_bytes, 4);
-    Place at{table.position + table_head_bytes, table.bodies};
-    std::array<u32, L::slots> offset{};
+    const u32 table = first_slot + slot_bytes * L::slots;
+    u32 at = table + L::dense_head;
+    constant(table, L::vtable_bytes, 4);
     L::each_slot([&]<class Slot>(u32 K) {
-        if constexpr (Slot::kind == Kind::scalar) {
-            offset[K] = at.position - table.position;
-            field(FieldRun{record + L::record_offset[K], at.position, Slot::record_size, Slot::record_size});
-            at.position += Slot::record_size;
-        }
-        return true;
-    });
-    for (u32 k = 0; k < L::slots; ++k) {
-        if (L::kinds[k] != Kind::scalar) {
-            offset[k] = at.position - table.position;
-            at.position += cell_bytes;
-        }
-    }
-    const auto link_cell = [&](u32 k, const Place& to) {
-        const Place cell{table.position + offset[k], table.bodies};
-        describe_distance(constant, sum, cell.position, cell_bytes, cell, to, true);
-    };
-    L::each_slot([&]<class Slot>(u32 K) {
-        constexpr Kind kind = Slot::kind;
+        constexpr bool has_body = Slot::kind != Kind::scalar && Slot::kind != Kind::table;
+        const u32 place = table + L::dense_offset[K];
         const u32 from = record + L::record_offset[K];
-        if constexpr (kind == Kind::array) {
-            link_cell(K, at);
-            constant(at.position, Slot::count, count_bytes);
-            at.position += count_bytes;
-            field(FieldRun{from, at.position, Slot::payload, sizeof(typename Slot::Value)});
-            at.position += Slot::payload;
-        } else if constexpr (kind == Kind::text || kind == Kind::block) {
-            link_cell(K, at);
-            if (kind == Kind::text)
-                sum(Sum{at.position, count_bytes, 0, at.bodies, at.bodies + 1, false});
-            else
-                field(FieldRun{from, at.position, count_bytes, count_bytes});
-            at.position += count_bytes;
-            body(Body{kind, from, at.position});
-            ++at.bodies;
-            if (kind == Kind::text) {
-                sum(Sum{at.position, 1, 0, at.bodies, at.bodies, false});   // its NUL
-                ++at.position;
+        constant(first_slot + slot_bytes * K, L::dense_offset[K], slot_bytes);
+        if (has_body && L::head_has_cells)
+            constant(place, at - place, cell_bytes);
+        if constexpr (Slot::kind == Kind::scalar) {
+            field(FieldRun{from, place, Slot::record_size, Slot::record_size});
+        } else if constexpr (Slot::kind == Kind::array) {
+            if (L::in_head[K]) {
+                constant(at, Slot::count, count_bytes);
+                field(FieldRun{from, at + count_bytes, Slot::payload, sizeof(typename Slot::Value)});
+                at += count_bytes + Slot::payload;
             }
         }
         return true;
     });
-    describe_vtable<L>(constant, vtable.position, offset);
-    describe_distance(constant, sum, vtable.position + table_length_at, 2, table, at, false);
+    if (!L::has_owned_blocks) {
+        constant(first_slot - vtable_head_bytes, L::vtable_bytes, 2);
+        constant(first_slot - vtable_head_bytes + table_length_at, at - table, 2);
+    }
     L::each_slot([&]<class Slot>(u32 K) {
         if constexpr (Slot::kind == Kind::table) {
-            using Inner = typename Slot::Layout;
-            link_cell(K, {at.position + Inner::vtable_bytes, at.bodies});
-            at = describe_dense<Inner>(constant, field, body, sum, record + L::record_offset[K], at);
+            const u32 place = table + L::dense_offset[K];
+            if (L::head_has_cells)
+                constant(place, at + Slot::Layout::vtable_bytes - place, cell_bytes);
+            if constexpr (!Slot::Layout::has_owned_blocks)
+                if (L::in_head[K])
+                    at = describe_compact<typename Slot::Layout>(constant, field, record + L::record_offset[K],
+                                                                 at + vtable_head_bytes);
         }
         return true;
     });
-    return at;
+    return L::head_has_cells ? at : table + L::dense_cells;
 }
 
 template <class L>
@@ -145,7 +106,15 @@ template <class L>
 struct DenseDescription {
     static constexpr void describe(Description& form)
     {
-        form.length = describe_dense<L>(form.constant, form.field, form.body, form.sum).position;
+        form.length = describe_compact<L>(form.constant, form.field, 0, vtable_head_bytes);
+    }
+};
+
+template <class L>
+struct HeadDescription {
+    static constexpr void describe(Description& form)
+    {
+        form.length = describe_compact<L>(form.constant, form.field, 0, 0);
     }
 };
 
@@ -154,18 +123,15 @@ struct DenseDescription {
 template <class L>
 using FixedImage = Image<L, detail::FixedDescription<L>>;
 
+// The two compact images, of a record in which no scalar is zero and nothing is absent: a layout without owned blocks has
+// one as a whole, any other one of its head, from the first slot of the vtable on.
 template <class L>
 using DenseImage = Image<L, detail::DenseDescription<L>>;
 
-// Calls visit<b>() for each body of an image by its number. Stops at the first call that returns false, and returns
-// false then.
-template <class Form, class Visit>
-[[gnu::always_inline]] inline bool each_body(Visit&& visit)
-{
-    return detail::each_number(visit, std::make_integer_sequence<u32, Form::bodies.size()>());
-}
+template <class L>
+using HeadImage = Image<L, detail::HeadDescription<L>>;
 
-// Whether the compact form of this record is the dense image.
+// Whether the compact form of this record has the dense image, or the head image.
 template <class L>
 [[gnu::always_inline]] inline bool is_dense(const u8* record)
 {
@@ -174,11 +140,13 @@ template <class L>
         if constexpr (Slot::kind == Kind::scalar)
             return field_value<typename Slot::Value>(field) != 0;
         else if constexpr (Slot::kind == Kind::table)
-            return is_dense<typename Slot::Layout>(field);
+            return !L::in_head[K] || is_dense<typename Slot::Layout>(field);
         else if constexpr (Slot::kind == Kind::text)
             return field_pointer(field) != nullptr;
         else if constexpr (Slot::kind == Kind::block)
             return field_value<u32>(field) != 0 && field_pointer(field + counted_pointer) != nullptr;
+        else if constexpr (Slot::kind == Kind::vector)
+            return field_value<u32>(field) != 0;   // it has a pointer then: else there is no size
         else
             return true;
     });

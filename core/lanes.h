@@ -20,8 +20,8 @@ inline WideLanes lanes_beyond(const WideLanes& room, const WideLanes& widths, co
 constexpr u32 wide_lanes = 0xFFFFFFFF;   // no layout has as many slots
 #endif
 
-// Four slots, or two on 32-bit machines. The top bit of each lane must stay free.
-using LaneWord = std::conditional_t<sizeof(void*) == 8, u64, u32>;
+// Four slots. The top bit of each lane must stay free.
+using LaneWord = u64;
 
 constexpr u32 lane_bits = 16;
 constexpr u32 lanes = sizeof(LaneWord) * 8 / lane_bits;

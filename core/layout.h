@@ -19,6 +19,10 @@ constexpr u32 rounded_up(u32 value, u32 multiple) { return (value + multiple - 1
 
 constexpr u32 pointer_bytes = sizeof(void*);
 
+// Whether the routines of all layouts are called by one function through pointers, rather than each inlined in a function
+// of its own: some two instructions a call for a seventh of the library, on 32-bit machines.
+constexpr bool shares_entries = pointer_bytes == 4;
+
 // ---- record fields, accessed as bytes: a caller's record may have any alignment ----
 
 template <class T>
@@ -103,15 +107,6 @@ constexpr bool holds_vectors()
         return Slot::kind == Kind::vector;
 }
 
-template <class Slot>
-constexpr u32 slots_of()
-{
-    if constexpr (Slot::kind == Kind::table)
-        return 1 + Slot::Layout::all_slots;
-    else
-        return 1;
-}
-
 // ---- the layout ----
 
 template <class... Slots>
@@ -144,11 +139,9 @@ struct Layout {
         return any;
     }();
 
-    // Helpers shared by several routines are inline only up to this number of slots; 16 would add 3 KB of code.
-    static constexpr bool is_small = slots <= 14;
-
-    // The same for the loop over elements; never on 32-bit machines, where code size matters more.
-    static constexpr bool is_tiny = slots <= 12 && pointer_bytes == 8;
+    // Helpers shared by several routines are inline only up to this number of slots, where a call would cost more than
+    // it saves; never on 32-bit machines, where code size matters more.
+    static constexpr bool is_short = slots <= 14 && pointer_bytes == 8;
 
     // Whether every table, in any form, has at least 8 bytes after its scalars: a cell, and a body or a nested table.
     static constexpr bool has_tail = [] {
@@ -158,13 +151,6 @@ struct Layout {
     }();
 
     static constexpr bool has_vectors = (holds_vectors<Slots>() || ...);
-
-    // Including the slots of all tables beneath.
-    static constexpr u32 all_slots = (slots_of<Slots>() + ...);
-
-    // Whether a record without zeros has a dense image. A layout with vectors has none, because the elements take the
-    // time; a short table with owned blocks has none, because the test would not pay.
-    static constexpr bool has_image = !has_owned_blocks || (!has_vectors && all_slots > 16);
 
     static constexpr u32 vtable_bytes = vtable_head_bytes + slot_bytes * slots;
 
@@ -179,6 +165,62 @@ struct Layout {
     // ---- compact form ----
 
     static constexpr u32 empty_table = vtable_bytes + table_head_bytes;   // bytes of a table without fields
+
+    // Offsets from the table if no field is absent: scalars first, then the cells of all others from `dense_cells` up to
+    // `dense_head`.
+    static constexpr u32 dense_cells =
+        (table_head_bytes + ... + (Slots::kind == Kind::scalar ? Slots::record_size : 0));
+    static constexpr u32 dense_head = (dense_cells + ... + (Slots::kind == Kind::scalar ? 0 : cell_bytes));
+    static constexpr std::array<u32, slots> dense_offset = [] {
+        std::array<u32, slots> offsets{};
+        u32 k = 0, scalar = table_head_bytes, cell = dense_cells;
+        ((offsets[k++] = Slots::kind == Kind::scalar ? std::exchange(scalar, scalar + Slots::record_size)
+                                                     : std::exchange(cell, cell + cell_bytes)),
+         ...);
+        return offsets;
+    }();
+
+    // Whether the head image has slot k: every scalar; and every array and nested table, if a single slot has owned blocks
+    // and comes last on the wire, where bodies precede nested tables. Otherwise, cells would be holes in the image.
+    static constexpr std::array<bool, slots> in_head = [] {
+        std::array<bool, slots> in{(Slots::kind == Kind::scalar)...};
+        const std::array<bool, slots> owning{(Slots::fixed_bytes == 0)...};
+        u32 left = 0;
+        bool is_open = true;
+        for (const bool tables : {false, true}) {
+            for (u32 i = 0; i < slots; ++i) {
+                if (in[i] || tables != (kinds[i] == Kind::table))
+                    continue;
+                is_open = is_open && !owning[i];
+                in[i] = is_open;
+                left += !is_open;
+            }
+        }
+        if (left > 1)
+            in = {(Slots::kind == Kind::scalar)...};
+        return in;
+    }();
+
+    // Whether the head image goes on after the scalars. So does the dense image of a layout without owned blocks.
+    static constexpr bool head_has_cells = [] {
+        u32 left = 0;
+        for (u32 i = 0; i < slots; ++i)
+            left += !in_head[i];
+        return left <= 1;
+    }();
+
+    // From the table to the end of its own bodies in the head image, and whether that has nested tables.
+    static constexpr u32 head_table = [] {
+        u32 k = 0, at = dense_head;
+        ((at += Slots::kind == Kind::array && in_head[k] ? Slots::fixed_bytes - cell_bytes : 0, ++k), ...);
+        return at;
+    }();
+    static constexpr bool head_has_tables = [] {
+        u32 k = 0;
+        bool any = false;
+        ((any = any || (Slots::kind == Kind::table && in_head[k]), ++k), ...);
+        return any;
+    }();
 
     // ---- fixed form; offsets from the table ----
 

@@ -12,10 +12,11 @@ enum class Measure : bool { exactly, bound };
 
 // The size of `count` tables without their cells, or a bound of it. Any value above largest_size means that the tables
 // do not fit in 32 bits.
-using MeasureElements = u64 (*)(const u8* records, u32 count, const NestedEncoder* nested);
+using MeasureElements = u64(KESTO_IN_REGISTERS*)(const u8* records, u32 count, const NestedEncoder* nested);
 
 // Writes `count` tables from `at` on and fills their cells. Returns the end of the output.
-using WriteElements = u8* (*)(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested);
+using WriteElements = u8*(KESTO_IN_REGISTERS*)(u8* cells, u32 count, u8* at, const u8* records,
+                                               const NestedEncoder* nested);
 
 // The constants of a nested message that encoding needs. The routines are null for a table.
 struct NestedEncoder {
@@ -28,41 +29,42 @@ struct NestedEncoder {
 constexpr u64 largest_size = 0xFFFFFFFF;
 constexpr u64 too_large = largest_size + 1;   // makes every sum that contains it exceed 32 bits
 
-// An upper bound of the size of a table whose layout has an image.
-template <class L>
-[[gnu::always_inline]] inline u64 bound_image(const u8* record)
-{
-    using Form = DenseImage<L>;
-    u64 size = Form::length;
-    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
-        constexpr Body body = Form::bodies[b];
-        const u8* const field = record + body.record_offset;
-        if constexpr (body.kind == Kind::text) {
-            if (field_pointer(field) != nullptr)
-                size += std::strlen(reinterpret_cast<const char*>(field_pointer(field)));
-        } else if (field_pointer(field + counted_pointer) != nullptr) {
-            const u32 length = field_value<u32>(field);
-            size += length != 0 ? length : too_large;
-        }
+// What a table takes whatever its record holds. In a bound, that includes every scalar and the nested tables without
+// owned blocks.
+template <class L, Measure how>
+constexpr u32 constant_size = [] {
+    u32 size = L::empty_table;
+    L::each_slot([&]<class Slot>(u32) {
+        if constexpr (Slot::kind == Kind::scalar)
+            size += how == Measure::bound ? Slot::record_size : 0;
+        else if constexpr (Slot::kind == Kind::array)
+            size += cell_bytes + count_bytes + Slot::payload;
+        else if constexpr (Slot::kind == Kind::table)
+            size += cell_bytes;
+        if constexpr (Slot::kind == Kind::table && how == Measure::bound)
+            if constexpr (!Slot::Layout::has_owned_blocks)
+                size += DenseImage<typename Slot::Layout>::length;
         return true;
     });
-    return size <= largest_size ? size : too_large;
-}
+    return size;
+}();
 
 // The size of one table and all tables beneath it, without a root word; too_large if it does not fit in 32 bits, and
 // for a vector with a count but no pointer. A bound counts every scalar. It is too_large for a block with a pointer and
 // length 0 too, because the end of the packer's output is not the size in that case.
 template <class L, Measure how>
-[[gnu::noinline]] u64 measure_table(const u8* record, const NestedEncoder* nested)
+[[gnu::noinline]] KESTO_IN_REGISTERS u64 measure_table(const u8* record, const NestedEncoder* nested)
 {
     constexpr bool exactly = how == Measure::exactly;
-    u64 size = L::empty_table;
+    u64 size = constant_size<L, how>;
     const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar) {
-            size += !exactly || field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
+            if constexpr (exactly)
+                size += field_value<typename Slot::Value>(field) != 0 ? sizeof(typename Slot::Value) : 0;
+            return true;
         } else if constexpr (Slot::kind == Kind::array) {
-            size += cell_bytes + count_bytes + Slot::payload;
+            return true;
         } else if constexpr (Slot::kind == Kind::text) {
             const u8* const text = field_pointer(field);
             if (text != nullptr)
@@ -86,13 +88,10 @@ template <class L, Measure how>
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
                 size += measure(records, count, element.nested);
             }
+        } else if constexpr (exactly || Slot::Layout::has_owned_blocks) {
+            size += measure_table<typename Slot::Layout, how>(field, nested[L::nested_before[K]].nested);
         } else {
-            using Inner = typename Slot::Layout;
-            size += cell_bytes;
-            if constexpr (exactly || Inner::has_owned_blocks)
-                size += measure_table<Inner, how>(field, nested[L::nested_before[K]].nested);
-            else
-                size += DenseImage<Inner>::length;
+            return true;
         }
         return size <= largest_size;   // leaving here keeps the u64 sum far from wrapping
     });
@@ -100,7 +99,7 @@ template <class L, Measure how>
 }
 
 template <class L, Measure how>
-u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
+KESTO_IN_REGISTERS u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
 {
     if constexpr (how == Measure::bound && !L::has_owned_blocks) {
         return u64{count} * DenseImage<L>::length;
@@ -108,33 +107,10 @@ u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
         u64 size = 0;
         for (u32 i = 0; i < count && size <= largest_size; ++i) {
             const u8* const record = records + std::size_t{i} * L::record_size;
-            if constexpr (how == Measure::bound && L::has_image)
-                size += bound_image<L>(record);
-            else
-                size += measure_table<L, how>(record, nested);
+            size += measure_table<L, how>(record, nested);
         }
         return size;
     }
-}
-
-// The size of a whole message. 0 for a null record and for a size that does not fit in 32 bits.
-template <class L>
-u32 measure_message(const u8* record, const NestedEncoder* nested)
-{
-    if (record == nullptr)
-        return 0;
-    const u64 size = root_bytes + measure_table<L, Measure::exactly>(record, nested);
-    return size <= largest_size ? static_cast<u32>(size) : 0;
-}
-
-// The capacity from which on the packer may run without measuring first. No buffer has it if it exceeds 32 bits.
-template <class L>
-[[gnu::always_inline]] inline u64 bound_message(const u8* record, const NestedEncoder* nested)
-{
-    if constexpr (L::has_image)
-        return root_bytes + bound_image<L>(record);
-    else
-        return root_bytes + measure_table<L, Measure::bound>(record, nested);
 }
 
 }   // namespace kesto

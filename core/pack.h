@@ -101,14 +101,14 @@ struct SlotWords {
 // Writes one table from `vtable` on: its vtable, the table itself and all tables beneath it. Returns the end of the
 // output.
 template <class L>
-[[gnu::noinline]] u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
+[[gnu::noinline]] KESTO_IN_REGISTERS u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
 // The same, slot by slot. With Tail::follows, at least 8 bytes that come after the table's scalars are written later,
 // so scalars are stored without a branch. With Tail::none, only bytes of the table itself are written.
 enum class Tail : bool { none, follows };
 
 template <class L, Tail tail>
-[[gnu::noinline]] u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested);
+[[gnu::noinline]] KESTO_IN_REGISTERS u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested);
 
 template <class L>
 constexpr Tail own_tail = L::has_tail ? Tail::follows : Tail::none;
@@ -140,6 +140,20 @@ struct TableWriter {
     [[gnu::always_inline]] const u8* field() const
     {
         return record + L::record_offset[K];
+    }
+
+    // Writes the head image, if the record has it, instead of the first half. Returns its end; null if it is not written.
+    [[nodiscard, gnu::always_inline]] u8* try_head()
+    {
+        if constexpr (L::has_owned_blocks) {
+            if (is_dense<L>(record)) {
+                HeadImage<L>::write_here(slots.at, record);
+                cells = L::dense_offset;
+                at = L::head_table;
+                return slots.at + HeadImage<L>::length;
+            }
+        }
+        return nullptr;
     }
 
     template <u32 K>
@@ -259,21 +273,25 @@ template <class L, Tail tail, u32... K>
                                                        std::integer_sequence<u32, K...>)
 {
     TableWriter<L, tail> writer(vtable + L::vtable_bytes, record);
-    (writer.template write_scalar<K>(), ...);
-    (writer.template reserve_cell<K>(), ...);
-    (writer.template write_body<K>(), ...);
+    u8* const head_end = writer.try_head();
+    const bool has_head = head_end != nullptr;
+    if (!has_head) {
+        (writer.template write_scalar<K>(), ...);
+        (writer.template reserve_cell<K>(), ...);
+        store(writer.table, u32{L::vtable_bytes});
+    }
+    ((has_head && L::in_head[K] ? void() : writer.template write_body<K>()), ...);
 
     // The upper half is the table length. It is truncated above 64 KiB, which is harmless: no reader looks at it.
     store(vtable, L::vtable_bytes | writer.at << 16);
-    store(writer.table, u32{L::vtable_bytes});
 
-    u8* end = writer.table + writer.at;
-    ((end = writer.template write_beneath<K>(end, nested)), ...);
+    u8* end = has_head && L::head_has_tables ? head_end : writer.table + writer.at;
+    ((has_head && L::in_head[K] ? end : end = writer.template write_beneath<K>(end, nested)), ...);
     return end;
 }
 
 template <class L, Tail tail>
-u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+KESTO_IN_REGISTERS u8* write_any_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
     return write_any_table_here<L, tail>(vtable, record, nested, std::make_integer_sequence<u32, L::slots>());
 }
@@ -283,63 +301,29 @@ template <class L>
 {
     if (!is_dense<L>(record))
         return false;
-    DenseImage<L>::write_here({vtable}, record);
+    DenseImage<L>::write_here(vtable, record);
     return true;
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] bool write_large_dense_table(u8* vtable, const u8* record)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_write_long_dense_table(u8* vtable, const u8* record)
 {
     return try_write_dense_table_here<L>(vtable, record);
 }
 
-// The fast path, for a record without a zero scalar. Returns false and writes nothing if there is a zero.
+// The fast path of a flat layout, for a record without a zero scalar. Returns false and writes nothing if there is one.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_write_dense_table(u8* vtable, const u8* record)
 {
-    if constexpr (L::is_small)
-        return try_write_dense_table_here<L>(vtable, record);
-    else
-        return write_large_dense_table<L>(vtable, record);
-}
-
-// The same for a layout with owned blocks; the record must be dense. Returns the end of the output.
-template <class L>
-[[nodiscard, gnu::noinline]] u8* write_dense_owning_table(u8* vtable, const u8* record)
-{
-    using Form = DenseImage<L>;
-    std::array<u32, Form::bodies.size()> lengths;
-    typename Form::template Places<u8> to{vtable};
-    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
-        constexpr Body body = Form::bodies[b];
-        const u8* const field = record + body.record_offset;
-        if constexpr (body.kind == Kind::text)
-            lengths[b] = static_cast<u32>(std::strlen(reinterpret_cast<const char*>(field_pointer(field))));
-        else
-            lengths[b] = field_value<u32>(field);
-        to[b + 1] = to[b] + lengths[b];
-        return true;
-    });
-    Form::write_here(to, record);
-    each_body<Form>([&]<u32 b>() __attribute__((always_inline)) {
-        constexpr Body body = Form::bodies[b];
-        constexpr u32 pointer = body.record_offset + (body.kind == Kind::text ? 0 : counted_pointer);
-        memcpy_sOptAsm(to[b] + body.position, lengths[b], field_pointer(record + pointer), lengths[b]);
-        return true;
-    });
-    return to.back() + Form::length;
+    return L::is_short ? try_write_dense_table_here<L>(vtable, record) : try_write_long_dense_table<L>(vtable, record);
 }
 
 template <class L>
-u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+KESTO_IN_REGISTERS u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (!L::has_owned_blocks) {
+    if constexpr (!L::has_owned_blocks)
         if (try_write_dense_table<L>(vtable, record))
             return vtable + DenseImage<L>::length;
-    } else if constexpr (L::has_image) {
-        if (is_dense<L>(record))
-            return write_dense_owning_table<L>(vtable, record);
-    }
     return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
@@ -347,7 +331,7 @@ u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 // while consecutive records have zeros in the same slots; two records of the same size in succession are taken as a
 // sign of this.
 template <class L>
-u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
+KESTO_IN_REGISTERS u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const NestedEncoder* nested)
 {
     const u8* record = records;
     u8* cell = cells;
@@ -357,12 +341,6 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
         for (; record != end && try_write_dense_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
             link_cell();
             at += DenseImage<L>::length;
-        }
-    }
-    if constexpr (L::has_owned_blocks && L::has_image) {
-        for (; record != end && is_dense<L>(record); record += L::record_size, cell += cell_bytes) {
-            link_cell();
-            at = write_dense_owning_table<L>(at, record);
         }
     }
     std::ptrdiff_t size = 0;
@@ -380,14 +358,6 @@ u8* write_elements(u8* cells, u32 count, u8* at, const u8* records, const Nested
         }
     }
     return at;
-}
-
-// Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
-template <class L>
-u8* write_message(u8* buffer, const u8* record, const NestedEncoder* nested)
-{
-    store(buffer, root_bytes + L::vtable_bytes);
-    return write_table<L>(buffer + root_bytes, record, nested);
 }
 
 }   // namespace kesto

@@ -10,6 +10,8 @@
 #include "core/routine_name.h"
 #include "platform/mesh.h"
 
+#pragma GCC visibility push(hidden)
+
 namespace kesto {
 
 // The constants of one message, made from its type in the catalogue and the unit that decodes it.
@@ -67,6 +69,7 @@ struct Receiving {
         .owned_block_count = owned_block_count<L>,
         .owned_blocks = owned_blocks.data(),
         .record_size = L::record_size,
+        .paths = paths_as_data<L>(),
     };
 };
 
@@ -81,3 +84,5 @@ struct Registration {
 int register_messages(std::span<const Registration> messages);
 
 }   // namespace kesto
+
+#pragma GCC visibility pop

@@ -9,11 +9,35 @@ namespace {
 constexpr int failed = -1;
 constexpr u32 pool_bytes = 0x10000;   // for all byte strings of a compact batch together
 
+// The size of a whole message. 0 for a null record and for a size that does not fit in 32 bits.
+u32 measure_message(const u8* record, const Encoder& encoder)
+{
+    if (record == nullptr)
+        return 0;
+    const u64 size = root_bytes + encoder.layout->measure(record, encoder.nested);
+    return size <= largest_size ? static_cast<u32>(size) : 0;
+}
+
+u8* write_table(u8* vtable, const u8* record, const Encoder& encoder)
+{
+    const LayoutEncoder& layout = *encoder.layout;
+    if (layout.try_dense != nullptr && layout.try_dense(vtable, record))
+        return vtable + layout.dense_bytes;
+    return layout.write_any(vtable, record, encoder.nested);
+}
+
+// Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
+u8* write_message(u8* buffer, const u8* record, const Encoder& encoder)
+{
+    store(buffer, root_bytes + encoder.layout->vtable_bytes);
+    return write_table(buffer + root_bytes, record, encoder);
+}
+
 // Packs one record for sending. For a block with a pointer and length 0 the packer writes fewer bytes than `size`. The
 // rest is sent too, as zeros, so that no earlier content of malloc's memory leaves the process.
 void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
 {
-    u8* const end = encoder.layout->write(buffer, record, encoder.nested);
+    u8* const end = write_message(buffer, record, encoder);
     std::memset(end, 0, static_cast<std::size_t>(buffer + size - end));
 }
 
@@ -51,11 +75,11 @@ struct Batch {
         return false;
     u8* const at = batch.data + used;
     u32 size;
-    if (encoder.layout->bound(record, encoder.nested) <= pool_bytes - used) {
+    if (root_bytes + encoder.layout->bound(record, encoder.nested) <= pool_bytes - used) {
         ensure_memory_services(*encoder.unit);
-        size = static_cast<u32>(encoder.layout->write(at, record, encoder.nested) - at);
+        size = static_cast<u32>(write_message(at, record, encoder) - at);
     } else {
-        size = encoder.layout->measure(record, encoder.nested);
+        size = measure_message(record, encoder);
         if (size == 0 || size > pool_bytes - used)
             return false;
         ensure_memory_services(*encoder.unit);
@@ -99,9 +123,28 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
 
 }   // namespace
 
-int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+KESTO_ENTRY int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
 {
-    const u32 size = encoder.layout->measure(record, encoder.nested);
+    const LayoutEncoder& layout = *encoder.layout;
+    return pack_by(
+        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.dense_bytes; },
+        [&](u8* vtable) {
+            return layout.try_dense(vtable, record) ? vtable + layout.dense_bytes
+                                                    : layout.write_any(vtable, record, encoder.nested);
+        });
+}
+
+KESTO_ENTRY int pack_owning(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
+{
+    const LayoutEncoder& layout = *encoder.layout;
+    return pack_by(
+        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.bound(record, encoder.nested); },
+        [&](u8* vtable) { return layout.write_any(vtable, record, encoder.nested); });
+}
+
+KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
+{
+    const u32 size = measure_message(record, encoder);
     if (size == 0 || *length < size)
         return failed;
     if (buffer == nullptr) [[unlikely]] {
@@ -109,15 +152,23 @@ int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& enco
         log_pack_parameters(*encoder.unit, encoder.pack_routine, buffer, *length, record);
     } else {
         ensure_memory_services(*encoder.unit);
-        encoder.layout->write(buffer, record, encoder.nested);
+        write_message(buffer, record, encoder);
     }
     *length = size;
     return 0;
 }
 
-int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,
+                                                    [[maybe_unused]] u32 unused, u32 destination))
 {
-    const u32 size = encoder.layout->measure(record, encoder.nested);
+    return send_fixed_by<fixed_buffer_bytes>(encoder, channel, destination, encoder.layout->fixed_length,
+                                             [&](u8* buffer) { encoder.layout->write_fixed(buffer, record); });
+}
+
+KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,
+                                                      [[maybe_unused]] u32 unused, u32 destination))
+{
+    const u32 size = measure_message(record, encoder);
     if (size == 0)
         return failed;
     u8* const buffer = static_cast<u8*>(std::malloc(size));
@@ -131,20 +182,26 @@ int send_single_compact(u32 channel, const u8* record, u32 destination, const En
     return result;
 }
 
-int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count,
+                                      u32 destination))
 {
     if (encoder.layout->write_fixed != nullptr)
         return send_batch_fixed(channel, records, count, destination, encoder);
     return send_batch_compact(channel, records, count, destination, encoder);
 }
 
-int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder)
+KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination))
 {
     if (count == 1)
-        return encoder.layout->send_single(channel, records, destination, encoder);
+        return encoder.layout->send_single(KESTO_WITH_UNUSED(encoder, channel, records, count, destination));
     if (count == 0)
         return failed;
-    return send_batch(channel, records, count, destination, encoder);
+    return send_batch(KESTO_WITH(encoder, channel, records, count, destination));
+}
+
+KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count))
+{
+    return send_to(KESTO_WITH(encoder, channel, records, count, 0));
 }
 
 }   // namespace kesto

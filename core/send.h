@@ -4,19 +4,26 @@
 #include "core/pack.h"
 #include "platform/mesh.h"
 
+#pragma GCC visibility push(hidden)
+
 namespace kesto {
 
 struct Encoder;
 
-// The encoding routines of one layout, shared by all messages of that layout.
+// The encoding routines of one layout, shared by all messages of that layout, for one table without a root word.
 struct LayoutEncoder {
-    u32 (*measure)(const u8* record, const NestedEncoder* nested);             // the compact form's size; 0 if none
-    u8* (*write)(u8* buffer, const u8* record, const NestedEncoder* nested);   // the compact form; returns its end
-    u64 (*bound)(const u8* record, const NestedEncoder* nested);               // upper bound of that size
-    void (*write_fixed)(u8* buffer, const u8* record);                         // null if there is no fixed form
-    int (*send_single)(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
+    u64(KESTO_IN_REGISTERS* measure)(const u8* record, const NestedEncoder* nested);
+    u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_bytes
+    bool(KESTO_IN_REGISTERS* try_dense)(u8* vtable, const u8* record);               // null if there is no dense image
+    u8*(KESTO_IN_REGISTERS* write_any)(u8* vtable, const u8* record, const NestedEncoder* nested);
+    void(KESTO_IN_REGISTERS* write_fixed)(u8* buffer,
+                                          const u8* record);   // a whole message; null if it has no such form
+    int(KESTO_ENTRY* send_single)(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
+                                                    u32 destination));
+    u32 dense_bytes;    // of the dense image
     u32 fixed_length;   // 0 if there is no fixed form
     u32 record_size;
+    u32 vtable_bytes;
 };
 
 // The constants of a message that packing and sending need besides its layout.
@@ -35,44 +42,110 @@ inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 dest
 }
 
 // pack_measured is X__pack without its fast path, send_single_compact is X__sendsingle for layouts with owned blocks,
-// send_batch is X__sendbatch, and send serves X__sendmsg and X__sendtomsg. Records are contiguous.
-int pack_measured(const u8* record, u8* buffer, u32* length, const Encoder& encoder);
-int send_single_compact(u32 channel, const u8* record, u32 destination, const Encoder& encoder);
-int send_batch(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
-int send(u32 channel, const u8* records, u32 count, u32 destination, const Encoder& encoder);
+// send_batch is X__sendbatch, send_to is X__sendtomsg, and send is X__sendmsg. Records are contiguous.
+KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
+KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
+                                                      u32 destination));
+KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count,
+                                      u32 destination));
+KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination));
+KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count));
 
-template <class L>
-[[gnu::noinline]] int pack(const u8* record, u8* buffer, u32* length, const Encoder& encoder)
+// The bodies of X__pack and X__sendsingle for all flat layouts, and of X__pack for all others.
+KESTO_ENTRY int pack_owning(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
+KESTO_ENTRY int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
+KESTO_ENTRY int send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
+                                                    u32 destination));
+
+// The body of X__pack: bound() is an upper bound of the size of the message's table, and write(vtable) writes it.
+template <class Bound, class Write>
+[[gnu::always_inline]] inline int pack_by(const Encoder& encoder, const u8* record, u8* buffer, u32* length,
+                                          const u32& vtable_bytes, const Bound& bound, const Write& write)
 {
-    if (record == nullptr || buffer == nullptr || *length < bound_message<L>(record, encoder.nested)) [[unlikely]]
-        return pack_measured(record, buffer, length, encoder);
-    ensure_memory_services(*encoder.unit);
-    *length = static_cast<u32>(write_message<L>(buffer, record, encoder.nested) - buffer);
+    if (record == nullptr || buffer == nullptr || !has_memory_services(*encoder.unit) || *length < root_bytes + bound())
+        [[unlikely]]
+        return pack_measured(KESTO_WITH(encoder, record, buffer, length));
+    store(buffer, root_bytes + vtable_bytes);
+    *length = static_cast<u32>(write(buffer + root_bytes) - buffer);
     return 0;
 }
 
-template <class L>
-[[gnu::noinline]] int send_single(u32 channel, const u8* record, u32 destination, const Encoder& encoder)
+// The body of X__sendsingle for a message that has a fixed form.
+template <u32 capacity, class Write>
+[[gnu::always_inline]] inline int send_fixed_by(const Encoder& encoder, u32 channel, u32 destination, u32 length,
+                                                const Write& write)
 {
-    if constexpr (L::has_owned_blocks) {
-        return send_single_compact(channel, record, destination, encoder);
-    } else {
-        u8 buffer[L::fixed_length];
-        ensure_memory_services(*encoder.unit);
-        if constexpr (L::is_small)
-            FixedImage<L>::write_here({buffer}, record);
-        else
-            FixedImage<L>::write(buffer, record);
-        const MeshSendItem item{buffer, encoder.id, L::fixed_length};
-        return hand_over(channel, &item, 1, destination);
-    }
+    u8 buffer[capacity];
+    ensure_memory_services(*encoder.unit);
+    write(buffer);
+    const MeshSendItem item{buffer, encoder.id, length};
+    return hand_over(channel, &item, 1, destination);
+}
+
+template <class L>
+[[gnu::noinline]] KESTO_ENTRY int pack_inline(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer,
+                                                         u32* length))
+{
+    return pack_by(
+        encoder, record, buffer, length, L::vtable_bytes,
+        [&]() __attribute__((always_inline))->u64 {
+            if constexpr (L::has_owned_blocks)
+                return measure_table<L, Measure::bound>(record, encoder.nested);
+            else
+                return DenseImage<L>::length;
+        },
+        [&](u8 * vtable) __attribute__((always_inline)) { return write_table<L>(vtable, record, encoder.nested); });
+}
+
+template <class L>
+[[gnu::noinline]] KESTO_ENTRY int send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel,
+                                                                       const u8* record, [[maybe_unused]] u32 unused,
+                                                                       u32 destination))
+{
+    return send_fixed_by<L::fixed_length>(
+        encoder, channel, destination, L::fixed_length, [&](u8 * buffer) __attribute__((always_inline)) {
+            if constexpr (L::is_short)
+                FixedImage<L>::write_here(buffer, record);
+            else
+                FixedImage<L>::write(buffer, record);
+        });
+}
+
+template <class L>
+constexpr auto pack_entry()
+{
+    if constexpr (shares_entries && L::has_owned_blocks)
+        return &pack_owning;
+    else if constexpr (shares_entries)
+        return &pack_flat;
+    else
+        return &pack_inline<L>;
+}
+
+template <class L>
+constexpr auto send_single_entry()
+{
+    if constexpr (L::has_owned_blocks)
+        return &send_single_compact;
+    else if constexpr (shares_entries)
+        return &send_single_fixed;
+    else
+        return &send_single_inline<L>;
 }
 
 template <class L>
 constexpr LayoutEncoder layout_encoder = [] {
-    LayoutEncoder made{measure_message<L>, write_message<L>, bound_message<L>, nullptr, send_single<L>, 0,
-                       L::record_size};
-    if constexpr (!L::has_owned_blocks) {
+    LayoutEncoder made{};
+    made.measure = measure_table<L, Measure::exactly>;
+    made.write_any = write_any_table<L, own_tail<L>>;
+    made.send_single = send_single_entry<L>();
+    made.record_size = L::record_size;
+    made.vtable_bytes = L::vtable_bytes;
+    if constexpr (L::has_owned_blocks) {
+        made.bound = measure_table<L, Measure::bound>;
+    } else {
+        made.try_dense = try_write_long_dense_table<L>;
+        made.dense_bytes = DenseImage<L>::length;
         made.write_fixed = FixedImage<L>::write;
         made.fixed_length = L::fixed_length;
     }
@@ -80,3 +153,5 @@ constexpr LayoutEncoder layout_encoder = [] {
 }();
 
 }   // namespace kesto
+
+#pragma GCC visibility pop

@@ -10,6 +10,9 @@
 #include "core/wire.h"
 #include "platform/osal.h"
 
+// Hidden declarations are called without a table of addresses, which costs a register on 32-bit x86.
+#pragma GCC visibility push(hidden)
+
 namespace kesto {
 
 using Allocate = void* (*)(u32 size, u32 module, const char* caller);
@@ -65,3 +68,5 @@ void log_allocation(Unit& unit, const char* routine, u32 size);
 void log_pack_parameters(Unit& unit, const char* routine, const void* buffer, u32 capacity, const void* record);
 
 }   // namespace kesto
+
+#pragma GCC visibility pop

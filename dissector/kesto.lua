@@ -1,20 +1,20 @@
--- Shows KESTO messages in tshark and Wireshark: packets of link type USER0 (147), as mesh_standin.h describes them, and
--- of link type USER1 (148), where the head that platform/standin/capture.h describes precedes them.
+-- Dissects KESTO messages in tshark and Wireshark: packets of link type USER0 (147), as described in mesh_standin.h, and
+-- of link type USER1 (148), which begin with a call head, as described in platform/standin/capture.h.
 --
 --   tshark -X lua_script:dissector/kesto.lua -r FILE
 --
--- It reads a byte string as the decoder does, makes the decoder's tests in the decoder's order, and stops where the
--- decoder stops. A size of 4 GiB, from which a vector's block wraps, is out of reach: a packet here has at most 256 KiB.
+-- It makes the same tests as the decoder in the same order and stops where the decoder stops. A vector whose array size
+-- wraps at 4 GiB cannot occur, as a packet has at most 256 KiB.
 --
--- Positions count from the start of the byte string, which stands after the packet's head. Numbers are Lua numbers:
--- u32 sums are exact in all versions of Lua and cut to 32 bits by hand.
+-- Positions count from the start of the byte string, which follows the packet's head. Numbers are Lua numbers: sums of
+-- u32 are exact in all versions of Lua and are reduced modulo 2^32 explicitly.
 
 local head_length = 8
 local call_head_length = 24
-local most_shown = 20000 -- items in a packet's tree; a text or a block counts once more for each 64 bytes
+local max_items = 20000 -- in the tree of a packet; a text or a block counts as one more per 64 bytes
 local two_to_32 = 4294967296
 
--- Messages: name, id, slots as field:slot. In the order of the catalogue, so that a nested message comes first.
+-- Messages: name, id, slots as field=slot. In catalogue order, so nested messages come before those that use them.
 local catalogue = {
 -- printed by ./run headers, from here
 { "ifit_dfx_query_stat_cond_mesh", 0x00631cc8, "f0=u32 f1=u32 f2=u32" },
@@ -273,7 +273,7 @@ local of_packet = {
     fault = declare(ProtoField.string("kesto.packet_fault", "packet fault")),
 }
 
--- The call with which a packet left or arrived.
+-- The call that sent or delivered the packet.
 local directions = { [0] = "sent", [1] = "received" }
 local of_call = {
     version = declare(ProtoField.uint8("kesto.head_version", "head version")),
@@ -296,8 +296,8 @@ local of_piece = {
     element_cell = declare(ProtoField.uint32("kesto.element_cell", "element cell", base.DEC_HEX)),
 }
 
--- Why and where the decoder stops: the number that is refused, what was compared and with what.
-local function of_stop(name, text)
+-- Why and where the decoder stops: the position, the value that was compared, and the limit.
+local function refusal_fields(name, text)
     return {
         refusal = declare(ProtoField.string(name, text)),
         position = declare(ProtoField.uint32(name .. ".position", "position")),
@@ -306,36 +306,36 @@ local function of_stop(name, text)
     }
 end
 
-local refused = of_stop("kesto.refused", "refused")
-local ignored = of_stop("kesto.ignored", "refused, which the message ignores")
+local refused = refusal_fields("kesto.refused", "refused")
+local ignored = refusal_fields("kesto.ignored", "refused, but ignored by the message")
 
 refused.expert = ProtoExpert.new("kesto.refused.expert", "The decoder refuses the byte string", expert.group.MALFORMED,
     expert.severity.ERROR)
-ignored.expert = ProtoExpert.new("kesto.ignored.expert", "The decoder refuses a table and goes on",
+ignored.expert = ProtoExpert.new("kesto.ignored.expert", "The decoder refuses a table and continues",
     expert.group.MALFORMED, expert.severity.WARN)
-local packet_expert = ProtoExpert.new("kesto.packet_fault.expert", "Not one message", expert.group.MALFORMED,
+local packet_expert = ProtoExpert.new("kesto.packet_fault.expert", "Not a valid message packet", expert.group.MALFORMED,
     expert.severity.ERROR)
-local shortened_expert = ProtoExpert.new("kesto.shortened", "Tested to the end, not shown to the end",
+local shortened_expert = ProtoExpert.new("kesto.shortened", "Checked completely, but not shown completely",
     expert.group.UNDECODED, expert.severity.NOTE)
 
--- What the numbers of a refusal mean.
+-- Explanations of a refusal's value and limit.
 local sentences = {
-    length_below_4 = "the length is %d, not %d or more",
-    table_position = "the table stands at %d, outside 4 to %d",
-    vtable_position = "the vtable stands at %d, outside 4 to %d",
-    vtable_length = "the vtable has %d bytes, with room for %d",
+    length_below_4 = "the length is %d, below %d",
+    table_position = "the table is at %d, outside 4 to %d",
+    vtable_position = "the vtable is at %d, outside 4 to %d",
+    vtable_length = "the vtable has %d bytes, but only %d are left",
     scalar_end = "the number ends at %d, the bytes at %d",
     cell_end = "the cell ends at %d, the bytes at %d",
-    reference_wrap = "the cell leads past 2^32 to %d, before itself at %d",
+    reference_wrap = "the target wraps past 2^32 to %d, before the cell at %d",
     reference_range = "the count would end at %d, the bytes end at %d",
     array_count = "the count is %d, not %d",
     count_range = "the count is %d, not below %d",
     body_end = "the payload would end at %d, the bytes end at %d",
-    nested_wrap = "the cell leads past 2^32 to %d, before itself at %d",
-    element_wrap = "the cell leads past 2^32 to %d, before itself at %d",
+    nested_wrap = "the target wraps past 2^32 to %d, before the cell at %d",
+    element_wrap = "the target wraps past 2^32 to %d, before the cell at %d",
 }
 
--- ---- messages: what the catalogue's lines say, with a field for every place where a message has it ----
+-- ---- messages: the parsed catalogue, with a protocol field for each path to a field ----
 
 local scalar_fields = {
     u8 = { 1, ProtoField.uint8 },
@@ -398,13 +398,13 @@ kesto.experts = { refused.expert, ignored.expert, packet_expert, shortened_exper
 
 -- ---- one byte string ----
 
--- What is known of it while it is read.
+-- The state of one read:
 --   bytes, length   the byte string
 --   buffer          the packet
---   root_item       the tree's top, for what finds no place further down
---   left            of most_shown; below 0 nothing is shown any more
---   word            position and width of the word read last, which leads to what is read next
---   passed          tables without a fault, by message and position: they are not read again once nothing is shown
+--   root_item       the top of the tree, for items without a better parent
+--   remaining       of max_items; if below 0, nothing more is shown
+--   word            position and width of the last word read, which leads to the next part
+--   passed          valid tables, by message and position; not read again once nothing more is shown
 --   failure         why the decoder stops
 local Reader = {}
 Reader.__index = Reader
@@ -414,18 +414,18 @@ function Reader:number(at, width)
     return b0 + 256 * (b1 or 0) + 65536 * (b2 or 0) + 16777216 * (b3 or 0)
 end
 
--- The part of a range that lies inside the byte string.
+-- A range, clipped to the byte string.
 function Reader:range(at, length)
     local from = math.min(at, self.length)
     return self.buffer(head_length + from, math.min(length, self.length - from))
 end
 
 function Reader:may_show(tree, length)
-    self.left = self.left - 1 - math.floor(length / 64)
-    return tree ~= nil and self.left >= 0
+    self.remaining = self.remaining - 1 - math.floor(length / 64)
+    return tree ~= nil and self.remaining >= 0
 end
 
--- The next three give the new item, or nil where nothing is shown.
+-- The next three functions return the new item, or nil if it is not shown.
 function Reader:show(tree, field, at, length)
     if self:may_show(tree, length) then
         return tree:add_le(field, self:range(at, length))
@@ -467,25 +467,25 @@ local function as_u64(number)
     return UInt64(number % two_to_32, math.floor(number / two_to_32))
 end
 
--- At the refused number; where that would lie past the bytes, at the word that led there.
-function Reader:show_failure(stop)
+-- Shows the failure at the refused number, or if that lies past the end, at the word that leads there.
+function Reader:show_failure(kind)
     local failure = self.failure
     local at, width = failure.position, 4
     if at >= self.length then
         at, width = failure.word[1], failure.word[2]
     end
     local range = self:range(at, width)
-    local item = failure.tree:add(stop.refusal, range, failure.refusal)
-    item:add(stop.position, range, failure.position):set_generated()
-    item:add(stop.value, range, as_u64(failure.value)):set_generated()
-    item:add(stop.limit, range, as_u64(failure.limit)):set_generated()
+    local item = failure.tree:add(kind.refusal, range, failure.refusal)
+    item:add(kind.position, range, failure.position):set_generated()
+    item:add(kind.value, range, as_u64(failure.value)):set_generated()
+    item:add(kind.limit, range, as_u64(failure.limit)):set_generated()
     local numbers = string.format(sentences[failure.refusal], failure.value, failure.limit)
-    item:add_proto_expert_info(stop.expert, failure.refusal .. ": " .. numbers)
+    item:add_proto_expert_info(kind.expert, failure.refusal .. ": " .. numbers)
 end
 
--- ---- the decoder's walk; each function is false where the decoder stops ----
+-- ---- the decoder's steps; each function returns false if the decoder stops ----
 
--- The table's own item and the position of its vtable, or false.
+-- Returns true, the item of the table and the position of its vtable; or false.
 function Reader:open_table(tree, position, field, label)
     local last = self.length - 4
     if position < 4 or position > last then
@@ -505,9 +505,9 @@ end
 function Reader:open_vtable(tree, vtable)
     local item = self:heading(tree, vtable, self:number(vtable, 2), "vtable at %d", vtable)
     local length = self:word_at(item, "vtable_length", vtable, 2)
-    local room = self.length - vtable
-    if length > room then
-        return self:refuse(item, "vtable_length", vtable, length, room)
+    local remaining = self.length - vtable
+    if length > remaining then
+        return self:refuse(item, "vtable_length", vtable, length, remaining)
     end
     if length >= 4 then
         self:show(item, of_piece.table_length, vtable + 2, 2)
@@ -546,7 +546,7 @@ function Reader:body_fits(tree, body, payload)
     return finish <= self.length or self:refuse(tree, "body_end", body, finish, self.length)
 end
 
-local read = {} -- by kind of slot
+local read = {} -- functions by slot kind
 
 function read.scalar(reader, tree, slot, at)
     if at + slot.width > reader.length then
@@ -556,7 +556,7 @@ function read.scalar(reader, tree, slot, at)
     return true
 end
 
--- The body of a text or a block.
+-- Reads the body of a text or a block.
 function Reader:read_octets(tree, slot, at)
     local open, body, count = self:read_count(tree, slot, at)
     return open and self:body_fits(tree, body, count), body, count
@@ -657,7 +657,7 @@ function Reader:read_slots(tree, message, position, vtable)
     for k, slot in ipairs(message.slots) do
         local word = vtable + 2 + 2 * k -- k counts from 1 here
         if vtable_length < 4 + 2 * k then
-            break -- this slot and all after it are absent
+            break -- this slot and all later ones are absent
         end
         local offset, item = self:word_at(vtable_item, "slot", word, 2)
         if offset == 0 then
@@ -678,7 +678,7 @@ function Reader:read_table(tree, message, position, field, label)
         passed = {}
         self.passed[message] = passed
     end
-    if self.left < 0 and passed[position] then
+    if self.remaining < 0 and passed[position] then
         return true
     end
     local open, item, vtable = self:open_table(tree, position, field, label)
@@ -705,20 +705,20 @@ local function not_a_message(item, range, fault, text)
     return text
 end
 
--- What goes into the info column.
+-- Returns the text for the info column.
 local function read_byte_string(buffer, item, message)
     local reader = setmetatable({
         bytes = buffer:raw(head_length),
         length = buffer:captured_len() - head_length,
         buffer = buffer,
         root_item = item,
-        left = most_shown,
+        remaining = max_items,
         passed = {},
     }, Reader)
     reader:read_message(message)
-    if reader.left < 0 then
+    if reader.remaining < 0 then
         item:add_proto_expert_info(shortened_expert,
-            string.format("More than %d items: the rest was tested and is not shown", most_shown))
+            string.format("More than %d items: the rest was checked but is not shown", max_items))
     end
     local info = string.format("%s, %d bytes", message.name, reader.length)
     if reader.failure then
@@ -738,7 +738,7 @@ local function read_packet(buffer, item)
     local captured = buffer:captured_len()
     if captured < head_length then
         return not_a_message(item, buffer(), "short_packet",
-            string.format("A packet of %d bytes has no room for id and length", captured))
+            string.format("A packet of %d bytes is too short for id and length", captured))
     end
     local id, length = buffer(0, 4):le_uint(), buffer(4, 4):le_uint()
     local message = messages[id]
@@ -746,7 +746,7 @@ local function read_packet(buffer, item)
     item:add_le(of_packet.length, buffer(4, 4))
     if length ~= captured - head_length then
         return not_a_message(item, buffer(4, 4), "length_disagrees",
-            string.format("The length is %d, the bytes are %d", length, captured - head_length))
+            string.format("The stated length is %d, but %d bytes follow", length, captured - head_length))
     end
     if not message then
         return not_a_message(item, buffer(0, 4), "unknown_id", string.format("No message has the id 0x%08x", id))
@@ -756,7 +756,7 @@ local function read_packet(buffer, item)
     return read_byte_string(buffer, item, message)
 end
 
--- Returns what is added to the info column, as in ", sent on channel 1 to destination 9, result 0".
+-- Returns the addition to the info column, as in ", sent on channel 1 to destination 9, result 0".
 local function read_call(buffer, item)
     local direction, known = buffer(1, 1):uint(), buffer(2, 2):le_uint()
     local text = ", " .. directions[direction]
@@ -788,17 +788,17 @@ local function read_packet_with_call(buffer, item)
     local captured = buffer:captured_len()
     if captured < call_head_length + head_length then
         return not_a_message(item, buffer(), "short_packet",
-            string.format("A packet of %d bytes has no room for the head about the call, id and length", captured))
+            string.format("A packet of %d bytes is too short for call head, id and length", captured))
     end
     if buffer(0, 1):uint() ~= 1 or not directions[buffer(1, 1):uint()] then
         return not_a_message(item, buffer(0, 2), "unknown_head",
-            "The head about the call is of a later version, or damaged")
+            "The call head has an unknown version or direction")
     end
     local call = read_call(buffer, item)
     return read_packet(buffer(call_head_length):tvb(), item) .. call
 end
 
-local with_call = Proto("kesto_call", "KESTO message with the head about its call")
+local with_call = Proto("kesto_call", "KESTO message with call head")
 
 local function dissect(read, buffer, pinfo, tree)
     pinfo.cols.protocol = "KESTO"

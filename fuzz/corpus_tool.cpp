@@ -109,12 +109,12 @@ int add(const std::string& name, const std::string& hex)
     if (!model::from_hex(hex, input, error))
         return fail(error);
     if (input.size() > fuzz::longest_input)
-        return fail("longer than what is replayed from there: make a case of it in tests/large_test.cpp");
+        return fail("too long for the corpus: add a case to tests/large_test.cpp instead");
     Inputs inputs;
     if (!fuzz::read_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
         return fail(error);
     if (std::find(inputs.begin(), inputs.end(), input) != inputs.end())
-        return fail("it is there already");
+        return fail("already in the corpus");
     inputs.push_back(input);
     if (!fuzz::write_packed(KESTO_CORPUS "/decode.inputs", inputs, error))
         return fail(error);
@@ -136,5 +136,5 @@ int main(int count, char** arguments)
         return pack(words[1], words[2]);
     if (words.size() == 3 && words[0] == "add")
         return add(words[1], words[2]);
-    return fail("see the head of fuzz/corpus_tool.cpp for its commands");
+    return fail("usage: see the top of fuzz/corpus_tool.cpp");
 }

@@ -134,15 +134,15 @@ bool Catalogue::add(Message message, std::string& error)
     if (modules.empty())
         return error = "a message before the first module", false;
     if (find(message.name) != nullptr)
-        return error = "a second message of this name", false;
+        return error = "duplicate name", false;
     if (find(message.id) != nullptr)
-        return error = "a second message of this id", false;
+        return error = "duplicate id", false;
     message.module = modules.back().name;
     message.index = static_cast<u32>(messages.size());
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
         Slot& slot = message.slots[k];
         if (slot.nested != nullptr && (slot.nested->module != message.module || slot.nested->depth >= greatest_depth))
-            return error = "slot " + std::to_string(k) + ": a message of another module, or too deep", false;
+            return error = "slot " + std::to_string(k) + ": message of another module, or nested too deeply", false;
         if (slot.field.empty())
             slot.field = "f" + std::to_string(k);
     }

@@ -106,7 +106,7 @@ private:
     const DecodeOptions& options_;
     Outcome& outcome_;
     Path path_;
-    i32 fresh_log_ = -1;   // the log that the next refusal belongs to
+    i32 pending_log_ = -1;   // the log that the next refusal belongs to
 };
 
 void Decoder::show(Piece piece, u32 position, u32 length, u64 value, const Table& table)
@@ -125,8 +125,8 @@ u32 Decoder::number_at(Piece piece, u32 position, u32 width, const Table& table)
 
 bool Decoder::refuse(const Routine& routine, Refusal refusal, u32 position, u64 value, u64 limit)
 {
-    outcome_.failure = {refusal, routine, path_, position, value, limit, fresh_log_};
-    fresh_log_ = -1;
+    outcome_.failure = {refusal, routine, path_, position, value, limit, pending_log_};
+    pending_log_ = -1;
     return false;
 }
 
@@ -137,7 +137,7 @@ void Decoder::log(const Routine& routine, Format format, u32 first, u32 second, 
     event.routine = routine;
     event.format = format;
     event.arguments = {first, second, third};
-    fresh_log_ = static_cast<i32>(outcome_.trace.size());
+    pending_log_ = static_cast<i32>(outcome_.trace.size());
     outcome_.trace.push_back(event);
 }
 

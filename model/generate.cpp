@@ -91,7 +91,7 @@ void fill_owned_block(const Slot& slot, Density density, Field& field, Random& r
 }
 
 // `part` belongs to `whole`.
-void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& made)
+void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& variants)
 {
     for (std::size_t k = 0; k < part.fields.size(); ++k) {
         const Kind kind = part.message->slots[k].kind;
@@ -99,18 +99,18 @@ void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& 
         if (kind == Kind::string || kind == Kind::bytes || kind == Kind::vector) {
             const Field kept = std::move(field);
             field = {};
-            made.push_back(whole);
+            variants.push_back(whole);
             field.present = true;
-            made.push_back(whole);
+            variants.push_back(whole);
             if (kind == Kind::bytes) {   // a null pointer with a length
                 field.present = false;
                 field.number = 5;
-                made.push_back(whole);
+                variants.push_back(whole);
             }
             field = kept;
         }
         for (Record& inner : field.records)
-            without_each_owned_block(whole, inner, made);
+            without_each_owned_block(whole, inner, variants);
     }
 }
 
@@ -118,9 +118,9 @@ void without_each_owned_block(Record& whole, Record& part, std::vector<Record>& 
 
 std::vector<Record> without_each_owned_block(Record record)
 {
-    std::vector<Record> made;
-    without_each_owned_block(record, record, made);
-    return made;
+    std::vector<Record> variants;
+    without_each_owned_block(record, record, variants);
+    return variants;
 }
 
 Record random_record(const Message& message, Density density, Random& random)

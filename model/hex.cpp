@@ -20,14 +20,14 @@ u32 value_of(char digit)
 
 bool append_word(Bytes& bytes, std::string_view word)
 {
-    const bool marked = word.starts_with("0x") || word.starts_with("0X") || word.starts_with("\\x");
-    if (marked)
+    const bool prefixed = word.starts_with("0x") || word.starts_with("0X") || word.starts_with("\\x");
+    if (prefixed)
         word.remove_prefix(2);
-    const bool alone = marked && word.size() == 1;   // 0x4
-    if (word.empty() || (word.size() % 2 != 0 && !alone))
+    const bool single_digit = prefixed && word.size() == 1;   // 0x4
+    if (word.empty() || (word.size() % 2 != 0 && !single_digit))
         return false;
     for (std::size_t i = 0; i < word.size(); i += 2) {
-        const u32 high = alone ? 0 : value_of(word[i]), low = value_of(word[alone ? 0 : i + 1]);
+        const u32 high = single_digit ? 0 : value_of(word[i]), low = value_of(word[single_digit ? 0 : i + 1]);
         if (high > 15 || low > 15)
             return false;
         bytes.push_back(static_cast<u8>(high << 4 | low));
@@ -60,8 +60,8 @@ bool from_hex(std::string_view text, Bytes& bytes, std::string& error)
         const std::size_t end = std::min(text.find_first_of(word_ends, 1), text.size());
         const std::string_view word = text.substr(0, end);
         if (!append_word(bytes, word)) {
-            error = join(
-                {"'", word.substr(0, 40), "' is no hex text: pairs of digits are needed, as in 04 00 or 0x04, 0x00"});
+            error =
+                join({"'", word.substr(0, 40), "' is not hex: expected pairs of digits, as in 04 00 or 0x04, 0x00"});
             return false;
         }
         text.remove_prefix(end);

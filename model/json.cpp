@@ -17,7 +17,7 @@ namespace {
 
 using nlohmann::ordered_json;
 
-constexpr int most_depth = 2 * greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} is innermost
+constexpr int max_depth = 2 * greatest_depth + 2;   // a vector is an array of objects; {"hex": ...} is innermost
 
 // ---- to JSON ----
 
@@ -62,7 +62,7 @@ ordered_json field_json(const Slot& slot, const Field& field)
 
 u64 number_from(const ordered_json& json, u32 width, const std::string& path)
 {
-    const u64 most = std::numeric_limits<u64>::max() >> (64 - 8 * width);
+    const u64 max = std::numeric_limits<u64>::max() >> (64 - 8 * width);
     u64 number = 0;
     if (json.is_number_unsigned()) {
         number = json.get<u64>();
@@ -71,23 +71,22 @@ u64 number_from(const ordered_json& json, u32 width, const std::string& path)
         const char* const end = digits.data() + digits.size();
         const auto [stop, fault] = std::from_chars(digits.data(), end, number);
         if (fault != std::errc() || stop != end)
-            refuse(path, fmt::format("\"{}\" is no number from 0 to {}", digits, most));
+            refuse(path, fmt::format("\"{}\" is not a number from 0 to {}", digits, max));
     } else {
         refuse(path,
-               fmt::format("{} stands where a number from 0 to {} is needed",
+               fmt::format("expected a number from 0 to {}, got {}", max,
                            json.is_structured() ? json.type_name()
-                                                : json.dump(-1, ' ', false, ordered_json::error_handler_t::replace),
-                           most));
+                                                : json.dump(-1, ' ', false, ordered_json::error_handler_t::replace)));
     }
-    if (number > most)
-        refuse(path, fmt::format("{} does not fit u{}, which ends at {}", number, 8 * width, most));
+    if (number > max)
+        refuse(path, fmt::format("{} exceeds the maximum of a u{}, {}", number, 8 * width, max));
     return number;
 }
 
 Bytes octets_from(const ordered_json& json, const std::string& path)
 {
     if (!json.is_string())
-        refuse(path, "hex digits in a string are needed, as in \"0a1b\"");
+        refuse(path, "expected a string of hex digits, as in \"0a1b\"");
     Bytes octets;
     std::string error;
     if (!from_hex(json.get_ref<const std::string&>(), octets, error))
@@ -103,7 +102,7 @@ void read_text(const ordered_json& json, Field& field, const std::string& path)
         return;
     }
     if (!json.is_string())
-        refuse(path, "a string, null or {\"hex\": \"...\"} is needed");
+        refuse(path, "expected a string, null or {\"hex\": \"...\"}");
     const std::string& text = json.get_ref<const std::string&>();
     field.octets.assign(text.begin(), text.end());
 }
@@ -119,7 +118,7 @@ void read_array(const Slot& slot, const ordered_json& json, Field& field, const 
         return check_count(field.octets.size());
     }
     if (!json.is_array())
-        refuse(path, fmt::format("an array of {} numbers is needed", slot.count));
+        refuse(path, fmt::format("expected an array of {} numbers", slot.count));
     check_count(json.size());
     for (std::size_t i = 0; i < slot.count; ++i)
         field.words[i] = static_cast<u32>(number_from(json[i], 4, fmt::format("{}[{}]", path, i)));
@@ -130,7 +129,7 @@ void read_record(const ordered_json& json, Record& record, const std::string& pa
 void read_vector(const Slot& slot, const ordered_json& json, Field& field, const std::string& path)
 {
     if (!json.is_array())
-        refuse(path, fmt::format("an array of {} is needed", slot.nested->name));
+        refuse(path, fmt::format("expected an array of {}", slot.nested->name));
     for (const ordered_json& element : json) {
         field.records.push_back(zero_record(*slot.nested));
         read_record(element, field.records.back(), fmt::format("{}[{}]", path, field.records.size() - 1));
@@ -162,13 +161,13 @@ void read_record(const ordered_json& json, Record& record, const std::string& pa
 {
     const Message& message = *record.message;
     if (!json.is_object())
-        refuse(path, fmt::format("an object with the fields of {} is needed", message.name));
+        refuse(path, fmt::format("expected an object with the fields of {}", message.name));
     for (const auto& [name, value] : json.items()) {
         std::size_t k = 0;
         while (k < message.slots.size() && message.slots[k].field != name)
             ++k;
         if (k == message.slots.size())
-            refuse(path + "." + name, fmt::format("{} has no such field, but {} to {}", message.name,
+            refuse(path + "." + name, fmt::format("{} has no such field; its fields are {} to {}", message.name,
                                                   message.slots.front().field, message.slots.back().field));
         read_field(message.slots[k], value, record.fields[k], path + "." + name);
     }
@@ -194,10 +193,10 @@ Record record_from_json(const Message& message, const ordered_json& json)
 ordered_json parse_json(const std::string& text, const std::string& where)
 {
     const auto slot_count = [](const Message& message) { return message.slots.size(); };
-    static const std::size_t most_names = slot_count(*std::ranges::max_element(catalogue().messages, {}, slot_count));
-    std::set<std::string> names[most_depth + 1];   // of the open object at each depth
+    static const std::size_t max_names = slot_count(*std::ranges::max_element(catalogue().messages, {}, slot_count));
+    std::set<std::string> names[max_depth + 1];   // of the open object at each depth
     const auto watch = [&](int depth, ordered_json::parse_event_t event, const ordered_json& parsed) {
-        if (depth > most_depth)
+        if (depth > max_depth)
             throw JsonFault(fmt::format("{}: nested deeper than any record", where));
         if (event == ordered_json::parse_event_t::object_start)
             names[depth].clear();
@@ -205,8 +204,8 @@ ordered_json parse_json(const std::string& text, const std::string& where)
             return false;
         std::set<std::string>& known = names[depth - 1];
         if (!known.insert(parsed.get<std::string>()).second)
-            throw JsonFault(fmt::format("{}: \"{}\" stands twice in an object", where, parsed.get<std::string>()));
-        if (known.size() > most_names)
+            throw JsonFault(fmt::format("{}: duplicate name \"{}\" in an object", where, parsed.get<std::string>()));
+        if (known.size() > max_names)
             throw JsonFault(fmt::format("{}: an object has more names than any message has fields", where));
         return false;
     };
@@ -218,7 +217,7 @@ ordered_json parse_json(const std::string& text, const std::string& where)
         parsed = ordered_json::parse(text);
         return parsed;
     } catch (const ordered_json::parse_error& error) {
-        throw JsonFault(fmt::format("{}: no JSON, at byte {}", where, error.byte));
+        throw JsonFault(fmt::format("{}: invalid JSON at byte {}", where, error.byte));
     } catch (const ordered_json::out_of_range&) {
         throw JsonFault(fmt::format("{}: a number is out of range", where));
     }

@@ -83,7 +83,7 @@ private:
             slot.lenient = type == "LenientTable";
             slot.nested = built.find(argument);
             if (slot.nested == nullptr)
-                refuse(pending_.name, join({"no message ", argument, " further up"}));
+                refuse(pending_.name, join({"no message ", argument, " before it"}));
         } else if (slot.width == 0) {
             slot.kind = type == "String" ? Kind::string : Kind::bytes;
         }

@@ -5,7 +5,7 @@
 namespace kesto::model {
 namespace {
 
-constexpr u32 nowhere = 0xffffffffU;
+constexpr u32 not_found = 0xffffffffU;
 
 // Bytes under construction. Settled bytes no longer change, so other parts may overlap them.
 struct Canvas {
@@ -57,13 +57,13 @@ struct Canvas {
                 return static_cast<u32>(at);
             }
         }
-        return nowhere;
+        return not_found;
     }
 };
 
-// A part not written yet that an existing word has to lead to.
+// A part that is not written yet, and the existing word that must lead to it.
 struct Pending {
-    enum class What : u8 { table, vector, body, vtable } what;
+    enum class Part : u8 { table, vector, body, vtable } part;
     u32 word;               // a cell, the root word, or a table's vtable offset
     const Record* record;   // of a table
     const Field* field;     // of a vector
@@ -77,7 +77,7 @@ public:
     Bytes write(const Record& record)
     {
         canvas_.add_open_cell();
-        pending_.push_back({Pending::What::table, 0, &record, nullptr, {}});
+        pending_.push_back({Pending::Part::table, 0, &record, nullptr, {}});
         while (!pending_.empty()) {
             std::swap(pending_[random_.below(static_cast<u32>(pending_.size()))], pending_.back());
             const Pending next = std::move(pending_.back());
@@ -111,7 +111,7 @@ private:
     void place_vector(const Pending& next);
     void place_vtable(u32 table, const Bytes& vtable);
     bool share_table(const Pending& next);
-    void lead(u32 word, u32 target) { canvas_.fill_cell(word, target - word); }   // the root word is at 0
+    void link(u32 word, u32 target) { canvas_.fill_cell(word, target - word); }   // the root word is at 0
 
     Draft draft_of(const Record& record);
     void draft_field(const Slot& slot, const Field& field, std::size_t k, Draft& draft);
@@ -151,7 +151,7 @@ void NoncanonicalWriter::draft_scalar(const Slot& slot, const Field& field, std:
     append(value, field.number, slot.width);
     if (random_.one_in(3)) {
         const u32 found = draft.fields.find(value, 4);
-        if (found != nowhere) {
+        if (found != not_found) {
             draft.offsets[k] = found;
             return;
         }
@@ -164,9 +164,9 @@ void NoncanonicalWriter::draft_field(const Slot& slot, const Field& field, std::
 {
     if (slot.kind == Kind::scalar)
         return draft_scalar(slot, field, k, draft);
-    Pending pending{Pending::What::body, 0, nullptr, nullptr, {}};
+    Pending pending{Pending::Part::body, 0, nullptr, nullptr, {}};
     if (slot.kind == Kind::table) {
-        pending.what = Pending::What::table;
+        pending.part = Pending::Part::table;
         pending.record = &field.records[0];
     } else if (slot.kind == Kind::array || (slot.kind == Kind::string && field.present)) {
         pending.bytes = body_of(slot, field);
@@ -177,13 +177,13 @@ void NoncanonicalWriter::draft_field(const Slot& slot, const Field& field, std::
     } else if (slot.kind == Kind::bytes) {
         pending.bytes = body_of(slot, field);
     } else {
-        pending.what = Pending::What::vector;
+        pending.part = Pending::Part::vector;
         pending.field = &field;
     }
     // Two slots with equal bodies may share one cell.
     for (std::size_t other = 0; other < draft.pending.size() && random_.one_in(2); ++other) {
         const Pending& candidate = draft.pending[other];
-        if (pending.what != Pending::What::body || candidate.what != pending.what)
+        if (pending.part != Pending::Part::body || candidate.part != pending.part)
             continue;
         if (candidate.bytes != pending.bytes)
             continue;
@@ -206,14 +206,14 @@ NoncanonicalWriter::Draft NoncanonicalWriter::draft_of(const Record& record)
     for (std::size_t k = order.size(); k > 1; --k)
         std::swap(order[k - 1], order[random_.below(static_cast<u32>(k))]);
 
-    const bool generous = random_.one_in(2);   // writes defaults explicitly
+    const bool writes_defaults = random_.one_in(2);
     for (const std::size_t k : order) {
         const Slot& slot = record.message->slots[k];
         const Field& field = record.fields[k];
         const bool needed =
             slot.kind == Kind::bytes || slot.kind == Kind::vector ? !is_absent(slot, field) : !is_default(slot, field);
         const bool possible = slot.kind != Kind::string || field.present;
-        if (!needed && !(possible && generous && random_.one_in(2)))
+        if (!needed && !(possible && writes_defaults && random_.one_in(2)))
             continue;
         if (random_.one_in(5))
             draft.fields.add_garbage(1 + random_.below(5), random_);
@@ -251,9 +251,9 @@ Bytes NoncanonicalWriter::vtable_of(const Draft& draft)
 
 void NoncanonicalWriter::place_vtable(u32 table, const Bytes& vtable)
 {
-    const u32 found = random_.one_in(3) ? canvas_.find(vtable, 4) : nowhere;
-    const u32 position = found == nowhere ? canvas_.end() : found;
-    if (found == nowhere) {
+    const u32 found = random_.one_in(3) ? canvas_.find(vtable, 4) : not_found;
+    const u32 position = found == not_found ? canvas_.end() : found;
+    if (found == not_found) {
         for (const u8 octet : vtable)
             canvas_.add(octet, 1);
     }
@@ -267,7 +267,7 @@ bool NoncanonicalWriter::share_table(const Pending& next)
             continue;
         if (!same(as_decoded(*placed.record), as_decoded(*next.record)))
             continue;
-        lead(next.word, placed.position);
+        link(next.word, placed.position);
         return true;
     }
     return false;
@@ -279,7 +279,7 @@ void NoncanonicalWriter::place_table(const Pending& next)
         return;
     Draft draft = draft_of(*next.record);
     const Bytes vtable = vtable_of(draft);
-    u32 position_of_vtable = nowhere;
+    u32 position_of_vtable = not_found;
     if (random_.one_in(3)) {
         position_of_vtable = canvas_.end();
         for (const u8 octet : vtable)
@@ -289,42 +289,42 @@ void NoncanonicalWriter::place_table(const Pending& next)
     }
     const u32 table = canvas_.end();
     canvas_.add(draft.fields);
-    lead(next.word, table);
+    link(next.word, table);
     tables_.push_back({next.record, table});
     for (Pending& pending : draft.pending) {
         pending.word += table;
         pending_.push_back(std::move(pending));
     }
-    if (position_of_vtable != nowhere) {
+    if (position_of_vtable != not_found) {
         canvas_.fill_cell(table, table - position_of_vtable);
     } else if (random_.one_in(2)) {
         place_vtable(table, vtable);
     } else {
-        pending_.push_back({Pending::What::vtable, table, nullptr, nullptr, vtable});
+        pending_.push_back({Pending::Part::vtable, table, nullptr, nullptr, vtable});
     }
 }
 
 void NoncanonicalWriter::place_vector(const Pending& next)
 {
-    lead(next.word, canvas_.end());
+    link(next.word, canvas_.end());
     canvas_.add(next.field->number, 4);
     for (const Record& element : next.field->records) {
-        pending_.push_back({Pending::What::table, canvas_.add_open_cell(), &element, nullptr, {}});
+        pending_.push_back({Pending::Part::table, canvas_.add_open_cell(), &element, nullptr, {}});
     }
 }
 
 void NoncanonicalWriter::place(const Pending& next)
 {
-    switch (next.what) {
-    case Pending::What::table: return place_table(next);
-    case Pending::What::vector: return place_vector(next);
-    case Pending::What::vtable: return place_vtable(next.word, next.bytes);
-    case Pending::What::body: break;
+    switch (next.part) {
+    case Pending::Part::table: return place_table(next);
+    case Pending::Part::vector: return place_vector(next);
+    case Pending::Part::vtable: return place_vtable(next.word, next.bytes);
+    case Pending::Part::body: break;
     }
     // Any matching settled bytes after the cell will do.
-    const u32 found = random_.one_in(3) ? canvas_.find(next.bytes, next.word) : nowhere;
-    lead(next.word, found == nowhere ? canvas_.end() : found);
-    for (std::size_t i = 0; found == nowhere && i < next.bytes.size(); ++i)
+    const u32 found = random_.one_in(3) ? canvas_.find(next.bytes, next.word) : not_found;
+    link(next.word, found == not_found ? canvas_.end() : found);
+    for (std::size_t i = 0; found == not_found && i < next.bytes.size(); ++i)
         canvas_.add(next.bytes[i], 1);
 }
 

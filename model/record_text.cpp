@@ -24,7 +24,7 @@ struct Reader {
             text.remove_prefix(1);
     }
 
-    bool take(std::string_view token)
+    bool consume(std::string_view token)
     {
         skip_space();
         if (!text.starts_with(token))
@@ -35,10 +35,10 @@ struct Reader {
 
     bool number(u64& value)
     {
-        const int base = take("0x") ? 16 : 10;
+        const int base = consume("0x") ? 16 : 10;
         const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), value, base);
         if (fault != std::errc())
-            return fail("a number is needed");
+            return fail("expected a number");
         text.remove_prefix(static_cast<std::size_t>(end - text.data()));
         return true;
     }
@@ -49,7 +49,7 @@ struct Reader {
         const std::string_view pair = text.substr(0, 2);
         const auto [end, fault] = std::from_chars(pair.data(), pair.data() + pair.size(), value, 16);
         if (fault != std::errc() || end != pair.data() + 2)
-            return fail("two hexadecimal digits are needed");
+            return fail("expected two hexadecimal digits");
         octets.push_back(value);
         text.remove_prefix(2);
         return true;
@@ -57,7 +57,7 @@ struct Reader {
 
     bool octets(std::vector<u8>& octets)
     {
-        while (!take("'")) {
+        while (!consume("'")) {
             if (!hex_byte(octets))
                 return false;
         }
@@ -68,7 +68,7 @@ struct Reader {
     {
         for (;;) {
             if (text.empty())
-                return fail("text without an end");
+                return fail("unterminated text");
             if (text.starts_with("\\x")) {
                 text.remove_prefix(2);
                 if (!hex_byte(octets))
@@ -86,23 +86,23 @@ struct Reader {
     bool array(const Slot& slot, Field& field)
     {
         std::vector<u64> values;
-        if (slot.width == 1 && take("h'")) {
+        if (slot.width == 1 && consume("h'")) {
             field.octets.clear();
             if (!octets(field.octets))
                 return false;
-            return field.octets.size() == slot.count || fail("a wrong number of elements");
+            return field.octets.size() == slot.count || fail("wrong number of elements");
         }
-        if (!take("<"))
-            return fail("an array is needed");
-        while (!take(">")) {
+        if (!consume("<"))
+            return fail("expected an array");
+        while (!consume(">")) {
             values.emplace_back();
             if (!number(values.back()))
                 return false;
             if (values.back() >> (8 * slot.width) != 0)
-                return fail("too great a number");
+                return fail("number too large");
         }
         if (values.size() != slot.count)
-            return fail("a wrong number of elements");
+            return fail("wrong number of elements");
         for (std::size_t i = 0; i < values.size(); ++i) {
             if (slot.width == 1)
                 field.octets[i] = static_cast<u8>(values[i]);
@@ -114,7 +114,7 @@ struct Reader {
 
     bool elements(const Slot& slot, Field& field)
     {
-        while (!take("]")) {
+        while (!consume("]")) {
             field.records.emplace_back();
             if (!parse_record(*slot.nested, text, field.records.back(), error))
                 return false;
@@ -125,17 +125,17 @@ struct Reader {
 
     bool owned_block(const Slot& slot, Field& field)
     {
-        if (take("null*"))
+        if (consume("null*"))
             return slot.kind == Kind::string ? fail("text has no length") : number(field.number);
-        if (take("null"))
+        if (consume("null"))
             return true;
         field.present = true;
         if (slot.kind == Kind::string)
-            return take("\"") ? characters(field.octets) : fail("text is needed");
+            return consume("\"") ? characters(field.octets) : fail("expected text");
         if (slot.kind == Kind::vector)
-            return take("[") ? elements(slot, field) : fail("a vector is needed");
-        if (!take("h'"))
-            return fail("octets are needed");
+            return consume("[") ? elements(slot, field) : fail("expected a vector");
+        if (!consume("h'"))
+            return fail("expected octets");
         if (!octets(field.octets))
             return false;
         field.number = field.octets.size();
@@ -144,13 +144,13 @@ struct Reader {
 
     bool value(const Slot& slot, Field& field)
     {
-        if (take("zero"))
+        if (consume("zero"))
             return true;
         switch (slot.kind) {
         case Kind::scalar:
             if (!number(field.number))
                 return false;
-            return slot.width == 8 || field.number >> (8 * slot.width) == 0 || fail("too great a number");
+            return slot.width == 8 || field.number >> (8 * slot.width) == 0 || fail("number too large");
         case Kind::array: return array(slot, field);
         case Kind::table: return parse_record(*slot.nested, text, field.records[0], error);
         case Kind::string:
@@ -222,15 +222,15 @@ bool parse_record(const Message& message, std::string_view& text, Record& record
 {
     Reader reader{text, error};
     clear(record, message);
-    if (reader.take("zero"))
+    if (reader.consume("zero"))
         return true;
-    if (!reader.take("{"))
-        return reader.fail("a record is needed");
+    if (!reader.consume("{"))
+        return reader.fail("expected a record");
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
         if (!reader.value(message.slots[k], record.fields[k]))
             return false;
     }
-    return reader.take("}") || reader.fail("a record has more fields than its message");
+    return reader.consume("}") || reader.fail("too many fields for the message");
 }
 
 std::string to_text(const Record& record)

@@ -70,7 +70,7 @@ std::string to_text(const Event& event)
     const std::string block = event.block < 0 ? "null" : join({"block ", std::to_string(event.block)});
     if (event.act == Act::release)
         return routine + " releases " + block;
-    return routine + " allocates " + block + ", size " + std::to_string(event.size) + (event.failed ? ", in vain" : "");
+    return routine + " allocates " + block + ", size " + std::to_string(event.size) + (event.failed ? ", failed" : "");
 }
 
 }   // namespace kesto::model

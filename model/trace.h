@@ -34,8 +34,8 @@ struct Event {
     std::array<u32, 3> arguments{};              // of a log; for a pointer 0 says "null" and 1 "nonNull"
     u32 size = 0;                                // of an allocation
     bool failed = false;                         // an allocation that returned null
-    i32 block =
-        -1;   // the number of the allocation, counting failed ones; for a release, the number of the block, -1 for null
+    // The number of the allocation, counting failed ones; for a release, the number of the block, -1 for null.
+    i32 block = -1;
 };
 
 using Trace = std::vector<Event>;

@@ -1,5 +1,5 @@
-# The Debian packages: libifit-codec1, libifit-codec-dev and, where they are built, libifit-codec-zervamesh,
-# ifit-codec-tap and ifit-codec-tools. `./run package` makes them. Changelog and copyright stand beside this file.
+# The Debian packages libifit-codec1, libifit-codec-dev and, if their contents are built, libifit-codec-zervamesh,
+# ifit-codec-tap and ifit-codec-tools. `./run package` builds them. Changelog and copyright are in this folder.
 
 find_program(KESTO_GZIP gzip)
 if(NOT KESTO_GZIP)
@@ -7,7 +7,7 @@ if(NOT KESTO_GZIP)
 endif()
 set(documents_in ${CMAKE_INSTALL_DATADIR}/doc)
 
-# Packs `file` as Debian wants it, the same bytes every time, and installs it under its name with .gz.
+# Compresses `file` reproducibly, as Debian requires, and installs it with the suffix .gz.
 function(kesto_install_compressed file folder component)
   get_filename_component(name ${file} NAME)
   set(packed ${CMAKE_CURRENT_BINARY_DIR}/packaging/${component}/${name}.gz)
@@ -56,7 +56,7 @@ set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 
-# CPack has the library's scripts call ldconfig, which is harmless; Debian leaves it to this trigger.
+# Debian runs ldconfig through this trigger. CPack also calls it from maintainer scripts, which is harmless.
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers "activate-noawait ldconfig\n")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/packaging/runtime/triggers)
 

@@ -49,7 +49,7 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EveryMessage);
 
-TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
+TEST_P(EveryMessage, encodes_like_the_model_and_decodes_its_own_output)
 {
     Random chance = random(1);
     for (int round = 0; round < 12; ++round)
@@ -57,8 +57,8 @@ TEST_P(EveryMessage, encodes_like_the_model_and_decodes_what_it_encodes)
             ASSERT_NO_FATAL_FAILURE(expect_both_ways(model::random_record(message(), density, chance)));
 }
 
-// Only one text, block or vector keeps such a record off the fast paths.
-TEST_P(EveryMessage, without_one_owned_block_is_no_dense_record)
+// A single missing text, block or vector keeps such a record off the fast paths.
+TEST_P(EveryMessage, dense_record_without_one_owned_block_round_trips)
 {
     Random chance = random(7);
     for (const Record& record : model::without_each_owned_block(random_record(message(), Density::full, chance)))
@@ -85,7 +85,7 @@ void mix_elements(Record& record, Random& chance)
     }
 }
 
-TEST_P(EveryMessage, elements_of_every_kind_stand_side_by_side)
+TEST_P(EveryMessage, mixed_elements_round_trip)
 {
     Random chance = random(6);
     for (int round = 0; round < 40; ++round) {
@@ -96,7 +96,7 @@ TEST_P(EveryMessage, elements_of_every_kind_stand_side_by_side)
     }
 }
 
-TEST_P(EveryMessage, decodes_strange_but_valid_layouts)
+TEST_P(EveryMessage, decodes_noncanonical_layouts)
 {
     Random chance = random(2);
     for (int round = 0; round < 60; ++round) {
@@ -110,9 +110,9 @@ TEST_P(EveryMessage, truncation_at_any_byte_releases_every_block)
 {
     Random chance = random(3);
     const Record record = model::random_record(message(), Density::full, chance);
-    std::vector<ByteString> wholes = both_forms(record);
-    wholes.push_back(model::noncanonical_layout(record, chance));
-    for (const ByteString& whole : wholes)
+    std::vector<ByteString> samples = both_forms(record);
+    samples.push_back(model::noncanonical_layout(record, chance));
+    for (const ByteString& whole : samples)
         for (std::size_t length = 0; length < whole.size(); ++length)
             ASSERT_NO_FATAL_FAILURE(
                 expect_decodes_alike({whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length)}));
@@ -120,10 +120,10 @@ TEST_P(EveryMessage, truncation_at_any_byte_releases_every_block)
 
 // Up to three damaged words, in the record's own forms and in noncanonical ones. Tests of single small faults do not
 // cover these combinations.
-TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
+TEST_P(EveryMessage, damaged_byte_strings_decode_like_the_model)
 {
-    constexpr std::uint32_t borders[] = {0,          1,          3,          4,          5,         0x3FFFFFFF,
-                                         0x40000000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
+    constexpr std::uint32_t boundaries[] = {0,          1,          3,          4,          5,         0x3FFFFFFF,
+                                            0x40000000, 0x7FFFFFFF, 0x80000000, 0xFFFFFFF8, 0xFFFFFFFF};
     Random chance = random(4);
     for (int round = 0; round < 400; ++round) {
         const Record record = model::random_record(message(), round % 2 == 0 ? Density::full : Density::sparse, chance);
@@ -134,8 +134,8 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
         for (std::uint32_t changes = 1 + chance.below(3); changes != 0; --changes) {
             const std::uint32_t at = chance.below(length - 3);
             const std::uint32_t inside[] = {chance.below(256), chance.below(length + 2), length - at};
-            const std::uint32_t which = chance.below(std::size(borders) + std::size(inside));
-            model::put(&bytes[at], which < 3 ? inside[which] : borders[which - 3], 1 + chance.below(4));
+            const std::uint32_t which = chance.below(std::size(boundaries) + std::size(inside));
+            model::put(&bytes[at], which < 3 ? inside[which] : boundaries[which - 3], 1 + chance.below(4));
         }
         ASSERT_NO_FATAL_FAILURE(expect_decodes_alike(bytes));
     }
@@ -143,15 +143,15 @@ TEST_P(EveryMessage, damaged_byte_strings_decode_alike)
 
 // One scalar far from its table's start, around the last position that fits: with the fewest bytes after the table's
 // start, and with counts around the limits of 15 and 16 bits.
-TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
+TEST_P(EveryMessage, far_field_is_read_only_if_it_fits)
 {
     const auto slots = static_cast<std::uint32_t>(message().slots.size());
     const std::uint32_t vtable_bytes = 4 + 2 * slots, table = 4 + vtable_bytes;
-    for (const std::uint32_t room : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8001U, 0x8007U, 0xFFFDU, 0xFFFEU,
-                                     0xFFFFU, 0x10000U, 0x10001U, 0x10006U, 0x10007U}) {
-        std::uint8_t* const bytes = check_.buffer().place(table + room);
+    for (const std::uint32_t available : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8001U, 0x8007U, 0xFFFDU, 0xFFFEU,
+                                          0xFFFFU, 0x10000U, 0x10001U, 0x10006U, 0x10007U}) {
+        std::uint8_t* const bytes = check_.buffer().place(table + available);
         std::memset(bytes, 0, table);
-        std::memset(bytes + table, 0x5A, room);
+        std::memset(bytes + table, 0x5A, available);
         model::put(bytes, table, 4);
         model::put(bytes + 4, vtable_bytes, 2);
         model::put(bytes + table, vtable_bytes, 4);
@@ -160,19 +160,20 @@ TEST_P(EveryMessage, a_far_field_is_read_if_it_fits)
             if (slot.kind != model::Kind::scalar)
                 continue;
             std::uint8_t* const cell = bytes + 8 + 2 * k;
-            for (const std::uint32_t offset :
-                 {room - slot.width, room - slot.width + 1, room - 1, room, 0x7FFFU, 0x8000U, 0xFFFFU}) {
+            for (const std::uint32_t offset : {available - slot.width, available - slot.width + 1, available - 1,
+                                               available, 0x7FFFU, 0x8000U, 0xFFFFU}) {
                 model::put(cell, offset & 0xFFFF, 2);
-                ASSERT_EQ(check_.check(message(), bytes, table + room), "") << room << " " << k << " " << offset;
+                ASSERT_EQ(check_.check(message(), bytes, table + available), "")
+                    << available << " " << k << " " << offset;
             }
             model::put(cell, 0, 2);
         }
     }
 }
 
-// Null pointers, and lengths that are below 4 or negative as signed numbers: one log line, and no access through the
-// other parameters.
-TEST_P(EveryMessage, refused_parameters_touch_nothing)
+// Null pointers, and lengths that are below 4 as signed numbers: one log line, and no access through the other
+// parameters.
+TEST_P(EveryMessage, refused_parameters_leave_the_record_untouched)
 {
     const std::tuple<bool, std::uint32_t, bool, const char*> cases[] = {
         {false, 40, true, "null, 40, nonNull"},          {false, 3, false, "null, 3, null"},
@@ -203,7 +204,7 @@ TEST_P(EveryMessage, refused_parameters_touch_nothing)
 
 // Each allocation fails in turn, alone and with all later ones: checks the log line, null pointers, kept counts, and
 // that no block is left.
-TEST_P(EveryMessage, a_failing_allocation_leaves_nothing_behind)
+TEST_P(EveryMessage, failed_allocation_leaks_nothing)
 {
     Random chance = random(5);
     const ByteString bytes = model::compact_form(model::random_record(message(), Density::full, chance));

@@ -101,7 +101,7 @@ std::vector<std::string> lines_of_document()
     return lines;
 }
 
-TEST(Document, states_what_a_list_asks_for)
+TEST(Document, states_the_memory_that_a_list_requests)
 {
     int rows = 0;
     for (const std::string& line : lines_of_document()) {
@@ -127,7 +127,7 @@ TEST(Document, states_what_a_list_asks_for)
 }
 
 // A process must set a budget. The decode stops when it is exhausted, logs once and releases everything.
-TEST(List, is_stopped_by_a_budget)
+TEST(List, decoding_stops_at_the_budget)
 {
     const Bytes bytes = list_of(7000, 30000);
     for (const std::uint64_t budget :

@@ -58,7 +58,7 @@ protected:
 };
 
 // A packet of a size that only loopback accepts is read up to the readers' limit.
-TEST_F(Captures, of_the_stand_in_are_read_while_they_grow)
+TEST_F(Captures, are_readable_while_the_stand_in_writes_them)
 {
     const Bytes longest(262144 - 24 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
     const std::time_t before = std::time(nullptr);
@@ -78,7 +78,7 @@ TEST_F(Captures, of_the_stand_in_are_read_while_they_grow)
     EXPECT_EQ(error, "");
 }
 
-TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
+TEST_F(Captures, damaged_and_foreign_files_report_a_reason)
 {
     const RawPacket sound = packet_of(7, {1, 2, 3});
     Bytes one = capture_head(147);
@@ -120,7 +120,7 @@ TEST_F(Captures, that_are_damaged_or_of_others_end_with_a_reason)
     EXPECT_EQ(error, path + "x: No such file or directory");
 }
 
-TEST_F(Captures, give_packets_that_are_no_messages_and_why)
+TEST_F(Captures, invalid_packets_are_returned_with_their_fault)
 {
     const Bytes three{1, 2, 3};
     Bytes capture = capture_head(147);
@@ -172,7 +172,7 @@ TEST_F(Captures, tell_the_call_of_each_packet_unless_its_head_is_damaged)
     EXPECT_EQ(faults, "cut length_disagrees short_packet short_packet unknown_head unknown_head ");
 }
 
-TEST_F(Captures, that_are_large_report_their_progress_and_pipes_have_no_end)
+TEST_F(Captures, large_files_report_progress_and_pipes_are_readable)
 {
     Bytes capture = capture_head(147);
     for (int i = 0; i < 30; ++i)

@@ -33,7 +33,7 @@ bool alike(const model::Slot& slot, const model::Slot& expected)
     return slot.width == expected.width && slot.count == expected.count;
 }
 
-TEST(Catalogue, is_the_expected_one)
+TEST(Catalogue, matches_the_expected_catalogue)
 {
     std::size_t next = 0;
     for (const model::Message& message : model::catalogue().messages) {
@@ -54,7 +54,7 @@ TEST(Catalogue, is_the_expected_one)
 }
 
 // Holds for the library, too: its output for each record is first compared with the model's.
-TEST(Figures, hold_for_the_bytes_that_are_written)
+TEST(Figures, match_the_encoded_bytes)
 {
     std::vector<Figure> figures;
     std::string error;
@@ -68,7 +68,7 @@ TEST(Figures, hold_for_the_bytes_that_are_written)
         }
 }
 
-TEST(Printed, headers_pages_and_dissector_are_what_the_printers_print_today)
+TEST(Printed, headers_pages_and_dissector_are_up_to_date)
 {
     const std::filesystem::path folder =
         std::filesystem::temp_directory_path() / ("kesto_printed_" + std::to_string(getpid()));
@@ -91,7 +91,7 @@ TEST(Printed, headers_pages_and_dissector_are_what_the_printers_print_today)
     std::filesystem::remove_all(folder);
 }
 
-TEST(Readme, shows_the_first_program_as_it_is)
+TEST(Readme, quotes_the_first_program_verbatim)
 {
     const std::string program = read_file(KESTO_SOURCE_DIR "/examples/first_program.c");
     EXPECT_FALSE(program.empty());

@@ -26,9 +26,9 @@ void expect_agreement(const char* file, std::string (*run)(const std::uint8_t* i
     }
 }
 
-TEST(Corpus, of_byte_strings_decodes_alike) { expect_agreement("decode.inputs", fuzz::run_decode_input); }
+TEST(Corpus, byte_strings_decode_like_the_model) { expect_agreement("decode.inputs", fuzz::run_decode_input); }
 
-TEST(Corpus, of_records_encodes_alike) { expect_agreement("record.inputs", fuzz::run_record_input); }
+TEST(Corpus, records_encode_like_the_model) { expect_agreement("record.inputs", fuzz::run_record_input); }
 
 }   // namespace
 

@@ -134,8 +134,7 @@ std::string attribute(const std::string& tag, const char* name)
     return tag.substr(from, tag.find('"', from) - from);
 }
 
-// The fields that are texts, blocks, u8 arrays, tables and vectors: for these the bytes are compared, for all others
-// the number.
+// The fields that are compared as bytes: texts, blocks, u8 arrays, tables and vectors. Others are compared as numbers.
 void add_fields_of_bytes(const model::Message& message, const std::string& path, std::set<std::string>& fields)
 {
     fields.insert(path);
@@ -161,7 +160,7 @@ const std::set<std::string> of_call{"kesto.direction", "kesto.channel", "kesto.d
                                     "kesto.time"};
 
 // Processes one tag of the analyser's XML.
-void take_tag(const std::string& tag, Shown& shown)
+void process_tag(const std::string& tag, Shown& shown)
 {
     const std::string name = attribute(tag, "name"), value = attribute(tag, "show");
     std::string* const stop = name.starts_with("kesto.refused")   ? &shown.refused
@@ -208,11 +207,11 @@ void compare(const Case& one, const Shown& shown)
             << which;
         return;
     }
-    const auto [is, should] =
+    const auto [actual, wanted] =
         std::mismatch(shown.fields.begin(), shown.fields.end(), expected.fields.begin(), expected.fields.end());
     EXPECT_TRUE(shown.fields == expected.fields)
-        << which << "\n  shown    " << (is == shown.fields.end() ? "nothing more" : *is) << "\n  expected "
-        << (should == expected.fields.end() ? "nothing more" : *should);
+        << which << "\n  shown    " << (actual == shown.fields.end() ? "nothing more" : *actual) << "\n  expected "
+        << (wanted == expected.fields.end() ? "nothing more" : *wanted);
 }
 
 class Dissector : public CaptureFolder {
@@ -225,25 +224,25 @@ protected:
                arguments + " 2>" + (folder / "errors").string();
     }
 
-    template <class See>   // see(Shown&&) for each packet
-    void dissect(See see) const
+    template <class Visit>   // visit(Shown&&) for each packet
+    void dissect(Visit visit) const
     {
         std::FILE* const pipe = popen(analyser("-T pdml -J kesto").c_str(), "r");
         ASSERT_NE(pipe, nullptr);
         Shown shown;
         std::string tag;
         char* line = nullptr;
-        std::size_t room = 0;
-        for (ssize_t length; (length = getline(&line, &room, pipe)) > 0;) {
+        std::size_t capacity = 0;
+        for (ssize_t length; (length = getline(&line, &capacity, pipe)) > 0;) {
             tag.append(line, static_cast<std::size_t>(length));
             if (!tag.ends_with(">\n"))
                 continue;   // a text with several lines
             if (tag.starts_with("</packet>")) {
                 std::sort(shown.fields.begin(), shown.fields.end());
-                see(std::move(shown));
+                visit(std::move(shown));
                 shown = Shown{};
             } else {
-                take_tag(tag, shown);
+                process_tag(tag, shown);
             }
             tag.clear();
         }
@@ -272,7 +271,7 @@ protected:
     }
 
     // The numbers of the packets that pass a display filter.
-    std::string passing(const std::string& filter) const
+    std::string matching_packets(const std::string& filter) const
     {
         std::string numbers = run_command("(" + analyser("-T fields -e frame.number -Y '" + filter + "'") + ")").output;
         std::replace(numbers.begin(), numbers.end(), '\n', ' ');
@@ -280,16 +279,16 @@ protected:
     }
 };
 
-// Each number in turn is off by one, or by far.
-void add_misled(const Case& sound, Random& random, std::vector<Case>& cases)
+// Changes each number in turn, by one or to an extreme value.
+void add_corrupted(const Case& sound, Random& random, std::vector<Case>& cases)
 {
     for (const auto& [position, width] : Expected(*sound.message, sound.bytes).words) {
-        Case misled = sound;
-        u8* const word = &misled.bytes[position];
+        Case corrupted = sound;
+        u8* const word = &corrupted.bytes[position];
         const u64 values[] = {get(word, width) - 1, get(word, width) + 1, 0,          0x3fffffff,
                               0x40000000,           0x7fffffff,           0xffffffff, 0xfffffff0};
         put(word, values[random.below(std::size(values))], width);
-        cases.push_back(misled);
+        cases.push_back(corrupted);
     }
 }
 
@@ -308,7 +307,7 @@ std::vector<Case> cases_of_all_messages()
             cut.resize(random.below(static_cast<u32>(cut.size())));
             cases.push_back({&message, cut});
             if (density == Density::sparse)
-                add_misled({&message, compact_form(record)}, random, cases);
+                add_corrupted({&message, compact_form(record)}, random, cases);
         }
     }
     return cases;
@@ -327,7 +326,7 @@ std::vector<Case> cases_of_the_corpus()
     return cases;
 }
 
-TEST_F(Dissector, shows_what_the_model_reads_and_stops_where_it_stops)
+TEST_F(Dissector, matches_the_model_in_fields_and_refusals)
 {
     std::vector<Case> cases = cases_of_all_messages();
     for (Case& one : cases_of_the_corpus())
@@ -342,7 +341,7 @@ TEST_F(Dissector, shows_what_the_model_reads_and_stops_where_it_stops)
     EXPECT_EQ(verdicts.size(), 15u) << testing::PrintToString(verdicts);
 }
 
-TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
+TEST_F(Dissector, shows_the_verdict_even_if_the_tree_is_shortened)
 {
     const Message& message = *expected_catalogue().find("ntvifit_entry_list_mdtlm");
     Record list = zero_record(message);
@@ -361,7 +360,7 @@ TEST_F(Dissector, tells_the_verdict_of_more_than_it_shows)
         EXPECT_TRUE(shown.is_shortened);
 }
 
-TEST_F(Dissector, names_packets_that_are_no_messages)
+TEST_F(Dissector, reports_packets_that_are_not_messages)
 {
     const u32 id = expected_catalogue().messages[0].id;
     const Bytes bytes = compact_form(zero_record(expected_catalogue().messages[0]));
@@ -408,7 +407,7 @@ TEST_F(Dissector, shows_the_call_of_a_packet)
                                              "unknown_head ", "short_packet "}));
 }
 
-TEST_F(Dissector, finds_messages_by_their_fields)
+TEST_F(Dissector, display_filters_match_fields)
 {
     const auto record_of = [](const char* name, std::string_view text) {
         const Message& message = *expected_catalogue().find(name);
@@ -438,7 +437,7 @@ TEST_F(Dissector, finds_messages_by_their_fields)
         {"_ws.expert.severity == error", "3 "},
     };
     for (const auto& [filter, packets] : cases)
-        EXPECT_EQ(passing(filter), packets) << filter;
+        EXPECT_EQ(matching_packets(filter), packets) << filter;
 }
 
 }   // namespace

@@ -1,12 +1,14 @@
-"""Lists of exceptions to a check, each for one place in core/: blocks of lines with a blank line between two, or comments.
+"""Reads lists of exceptions to a check. Each exception is for one line in core/.
+
+A list consists of blocks and comments, separated by blank lines. A block is:
 
     FILE
-    [lines before it, where the line itself stands in the file more than once]
+    [preceding lines, if LINE occurs more than once in the file]
     LINE
-    what else the check needs, a line each
+    [further lines that the check needs]
     REASON
 
-Comments and indents do not count.
+Comments and indentation in the source are ignored.
 """
 import os
 import sys
@@ -19,7 +21,10 @@ def bare(line):
 
 
 def read(path, more):
-    """[(FILE, number of the line from 0, what else there is...)]. Ends the process where one names no place, or several."""
+    """Returns [(FILE, line number from 0, further lines...)]. `more` is the number of further lines.
+
+    Exits if a block matches no line, or more than one.
+    """
     with open(path) as file:
         blocks = [block.strip().split("\n") for block in file.read().split("\n\n")]
     found = []
@@ -31,6 +36,6 @@ def read(path, more):
             lines = [bare(line) for line in file]
         at = [last for last in range(len(place) - 1, len(lines)) if lines[last - len(place) + 1:last + 1] == [bare(line) for line in place]]
         if len(at) != 1:
-            sys.exit("%s: core/%s has %d such places: %s" % (path, name, len(at), " / ".join(place)))
+            sys.exit("%s: core/%s: %d matches for: %s" % (path, name, len(at), " / ".join(place)))
         found.append((name, at[0], *rest))
     return found

@@ -33,7 +33,7 @@ struct Share {
         }
     }
 
-    bool takes(std::uint64_t which) const { return which % of == number; }
+    bool includes(std::uint64_t which) const { return which % of == number; }
 };
 
 const Share share;
@@ -111,29 +111,30 @@ std::vector<Word> words_of(const model::Message& message, const ByteString& byte
     return finder.words;
 }
 
-std::vector<std::uint32_t> all_borders(std::uint32_t length)
+std::vector<std::uint32_t> all_boundaries(std::uint32_t length)
 {
-    std::vector<std::uint32_t> borders{0, 1, 3, 4, 5, 6, 7, 8, 0x3FFFFFFF, 0x40000000, 0x7FFFFFFF, 0x80000000};
+    std::vector<std::uint32_t> boundaries{0, 1, 3, 4, 5, 6, 7, 8, 0x3FFFFFFF, 0x40000000, 0x7FFFFFFF, 0x80000000};
     for (std::uint32_t i = 0; i < 7; ++i)
-        borders.push_back(length - 5 + i);
+        boundaries.push_back(length - 5 + i);
     for (std::uint32_t i = 1; i <= 8; ++i)
-        borders.push_back(0 - i);
-    return borders;
+        boundaries.push_back(0 - i);
+    return boundaries;
 }
 
-std::vector<std::uint32_t> few_borders(std::uint32_t length)
+std::vector<std::uint32_t> few_boundaries(std::uint32_t length)
 {
     return {0, 4, length - 4, length - 3, 0x40000000, 0x7FFFFFFF, 0xFFFFFFFC};
 }
 
-// Values for which the word itself, or its target relative to its own position or to its table, is at a border.
+// Values for which the word itself, or its target relative to its own position or to its table, is at a boundary.
 // Also counts of 4-byte items that just fit or just do not fit.
-std::vector<std::uint64_t> border_values(const Word& word, const std::vector<std::uint32_t>& borders,
-                                         std::uint32_t length)
+std::vector<std::uint64_t> boundary_values(const Word& word, const std::vector<std::uint32_t>& boundaries,
+                                           std::uint32_t length)
 {
     std::vector<std::uint64_t> values;
-    for (const std::uint32_t border : borders)
-        for (const std::uint32_t value : {border, border - word.position, border - word.table, word.table - border})
+    for (const std::uint32_t boundary : boundaries)
+        for (const std::uint32_t value :
+             {boundary, boundary - word.position, boundary - word.table, word.table - boundary})
             values.push_back(word.width == 2 ? value & 0xFFFF : value);
     for (std::uint32_t i = 0; i < 4; ++i)
         values.push_back((length - word.position - 4) / 4 - 1 + i);
@@ -148,31 +149,31 @@ class EveryFault : public EveryMessageTest {};
 
 KESTO_FOR_EVERY_MESSAGE(EveryFault);
 
-TEST_P(EveryFault, any_other_value_of_any_byte)
+TEST_P(EveryFault, every_value_of_every_byte)
 {
     for (const ByteString& whole : full_samples(message())) {
         Sample sample{message(), whole};
         for (std::uint32_t at = 0; at < sample.length; ++at) {
-            const std::uint32_t right = whole[at];
+            const std::uint32_t original = whole[at];
             for (std::uint32_t change = 1; change < 256; ++change) {
-                if (!share.takes(at + change))
+                if (!share.includes(at + change))
                     continue;
-                sample.bytes[at] = static_cast<std::uint8_t>(right ^ change);
-                ASSERT_TRUE(sample.decodes_alike()) << "byte " << at << ", was " << right;
+                sample.bytes[at] = static_cast<std::uint8_t>(original ^ change);
+                ASSERT_TRUE(sample.decodes_alike()) << "byte " << at << ", was " << original;
             }
             sample.restore(at, 1);
         }
     }
 }
 
-TEST_P(EveryFault, border_values_of_any_word)
+TEST_P(EveryFault, boundary_values_of_every_word)
 {
     for (const ByteString& whole : full_samples(message())) {
         Sample sample{message(), whole};
         std::uint64_t number = 0;
         for (const Word& word : words_of(message(), whole)) {
-            for (const std::uint64_t value : border_values(word, all_borders(sample.length), sample.length)) {
-                if (!share.takes(number++))
+            for (const std::uint64_t value : boundary_values(word, all_boundaries(sample.length), sample.length)) {
+                if (!share.includes(number++))
                     continue;
                 put(sample.bytes + word.position, value, word.width);
                 ASSERT_TRUE(sample.decodes_alike()) << "word at " << word.position;
@@ -210,7 +211,7 @@ class EveryShape : public testing::TestWithParam<const char*> {};
 INSTANTIATE_TEST_SUITE_P(All, EveryShape, testing::ValuesIn(built_shapes()),
                          [](const auto& each) { return std::string(each.param); });
 
-TEST_P(EveryShape, border_values_of_any_two_words)
+TEST_P(EveryShape, boundary_values_of_every_pair_of_words)
 {
     const model::Message& message = *expected_catalogue().find(GetParam());
     for (const ByteString& whole : full_samples(message)) {
@@ -219,13 +220,13 @@ TEST_P(EveryShape, border_values_of_any_two_words)
         std::erase_if(words, [](const Word& word) { return word.repeated; });   // the first element represents all
         std::vector<std::vector<std::uint64_t>> values;                         // by word
         for (const Word& word : words)
-            values.push_back(border_values(word, few_borders(sample.length), sample.length));
+            values.push_back(boundary_values(word, few_boundaries(sample.length), sample.length));
         std::uint64_t number = 0;
         for (std::size_t i = 0; i < words.size(); ++i)
             for (std::size_t j = 0; j < i; ++j) {
                 for (const std::uint64_t one : values[i])
                     for (const std::uint64_t other : values[j]) {
-                        if (!share.takes(number++))
+                        if (!share.includes(number++))
                             continue;
                         put(sample.bytes + words[i].position, one, words[i].width);
                         put(sample.bytes + words[j].position, other, words[j].width);

@@ -13,7 +13,7 @@
 namespace kesto::tests {
 namespace {
 
-TEST(FirstUse, of_all_units_by_eight_threads_finds_the_services_once)
+TEST(FirstUse, concurrent_threads_look_up_services_once_per_unit)
 {
     std::atomic<int> waiting = 8;
     std::vector<std::thread> threads;

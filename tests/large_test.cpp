@@ -24,7 +24,7 @@ using model::Piece;
 using model::put;
 
 constexpr std::uint64_t wrap = std::uint64_t{1} << 32;
-constexpr std::uint64_t most_bytes = 0x7FFFFFFF;   // the longest input that a decoder accepts
+constexpr std::uint64_t max_input_bytes = 0x7FFFFFFF;   // the longest input that a decoder accepts
 
 struct VectorMessage {
     const model::Message* message;
@@ -154,7 +154,7 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
             const std::uint64_t bytes = std::uint64_t{4} * count + 4096;
             // Its array cannot wrap, as that needs a longer byte string than is accepted; or the process lacks address
             // space.
-            if (bytes > most_bytes || !has_address_space(static_cast<std::size_t>(bytes)))
+            if (bytes > max_input_bytes || !has_address_space(static_cast<std::size_t>(bytes)))
                 continue;
             ++tried;
             ASSERT_NO_FATAL_FAILURE(expect_alike(vector, count)) << vector.message->name;
@@ -166,7 +166,7 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
 
 // The same with literal numbers: elements of 256 bytes, of which 2^24 take 2^32 bytes, and elements with owned blocks
 // in an array that holds one but not two.
-TEST(WrappedBlock, of_no_byte_is_reported_by_the_vector_and_an_element_that_fits_is_released)
+TEST(WrappedBlock, zero_size_is_logged_by_the_vector_and_elements_that_fit_are_released)
 {
     const struct {
         const char* message;

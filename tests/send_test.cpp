@@ -45,9 +45,9 @@ protected:
 
 KESTO_FOR_EVERY_MESSAGE(EverySend);
 
-// One record is sent as a single message, two or more as one batch, none not at all. A direct batch of none goes to
-// MESH.
-TEST_P(EverySend, counts_decide_what_reaches_mesh)
+// sendmsg and sendtomsg refuse a count of 0, send one record as a single message and more as a batch. sendbatch itself
+// passes an empty batch to MESH.
+TEST_P(EverySend, record_count_selects_single_send_or_batch)
 {
     const std::vector<Record> made = records(3);
     const RecordMemory memory(made);
@@ -85,7 +85,7 @@ TEST_P(EverySend, counts_decide_what_reaches_mesh)
     EXPECT_EQ(services().difference({}), "");   // send buffers never come from the services
 }
 
-TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
+TEST_P(EverySend, allocates_the_documented_size_and_frees_it_before_returning)
 {
     if (!malloc_double_works)
         GTEST_SKIP() << "malloc belongs to the sanitizer";
@@ -116,7 +116,7 @@ TEST_P(EverySend, allocates_what_it_says_and_gives_it_back_before_it_returns)
     }
 }
 
-TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
+TEST_P(EverySend, pack_refuses_a_null_record_and_allows_a_null_buffer)
 {
     const RecordMemory memory(records(1));
     std::uint32_t length = 1000;
@@ -140,7 +140,7 @@ TEST_P(EverySend, pack_refuses_a_null_record_and_forgives_a_null_buffer)
 
 // A null record is refused if the form is not fixed. A count whose block would exceed 32 bits is refused before the
 // allocation.
-TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
+TEST_P(EverySend, refused_calls_send_nothing)
 {
     if (!fixed()) {
         const WatchMalloc watch;
@@ -166,7 +166,7 @@ TEST_P(EverySend, what_cannot_be_sent_sends_nothing)
 }
 
 // A failed decode leaves such a record. Every routine must refuse it, with any capacity.
-TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_operation)
+TEST_P(EverySend, every_operation_refuses_a_vector_with_a_count_and_a_null_pointer)
 {
     for (std::size_t k = 0; k < message().slots.size(); ++k) {
         if (message().slots[k].kind != model::Kind::vector)
@@ -178,10 +178,10 @@ TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_opera
         std::memcpy(field, &count, sizeof count);
         std::memset(field + sizeof(void*), 0, sizeof(void*));
         std::vector<std::uint8_t> buffer(pool);
-        for (const std::uint32_t room : {4U, message().compact_zero, message().compact_zero + 16, pool}) {
-            std::uint32_t length = room;
+        for (const std::uint32_t capacity : {4U, message().compact_zero, message().compact_zero + 16, pool}) {
+            std::uint32_t length = capacity;
             EXPECT_EQ(library().pack(memory.data(), buffer.data(), &length), -1);
-            EXPECT_EQ(length, room);
+            EXPECT_EQ(length, capacity);
         }
         EXPECT_EQ(library().sendsingle(1, memory.data(), 0, 0), -1);
         EXPECT_EQ(library().sendbatch(1, memory.data(), 1, 0), -1);
@@ -192,7 +192,7 @@ TEST_P(EverySend, a_vector_with_a_count_and_no_pointer_is_refused_by_every_opera
 }
 
 // Two records that fill the 64 KiB exactly, and then one byte more. The first has an odd size and leaves no gap.
-TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
+TEST(BatchPool, can_be_filled_exactly_but_not_exceeded)
 {
     const std::uint32_t overhead = 18 + 8;   // bytes of a frame besides its block, if all its numbers are zero
     std::vector<std::uint8_t> block(pool);
@@ -220,7 +220,7 @@ TEST(BatchPool, may_be_filled_to_the_byte_and_no_further)
     EXPECT_EQ(mesh().sends[0].sent[0].bytes.size(), pool + overhead);
 }
 
-TEST(BatchPool, fixed_batches_lie_end_to_end_and_may_be_larger)
+TEST(BatchPool, fixed_batches_are_contiguous_and_may_be_larger)
 {
     mesh().reset();
     const std::uint32_t count = 3000;
@@ -266,7 +266,7 @@ TEST(Sizes, beyond_32_bits_are_refused)
     EXPECT_EQ(ntvifit_entry_list_mdtlm__pack(&list, nullptr, &length), -1);
 }
 
-TEST(Registration, gives_every_hook_in_order_and_stops_at_the_first_failure)
+TEST(Registration, registers_hooks_in_order_and_stops_at_the_first_failure)
 {
     for (const tools::ModuleOperations& module : tools::module_operations()) {
         mesh().reset();

@@ -67,9 +67,9 @@ const Offer offers[] = {
 
 const Offer* offer = &everything;
 
-// A thread that starts when another one has reached a look-up. The look-up does not return until the newcomer has
-// finished or waits.
-struct Newcomer {
+// A thread that starts when another one has reached a look-up. The look-up does not return until the late thread has
+// finished or is blocked.
+struct LateThread {
     const char* service = "";   // the look-up; empty once it has been reached
     std::atomic<int> thread = 0;
     std::atomic<bool> may_start = false, finished = false;
@@ -88,7 +88,7 @@ struct Newcomer {
             std::this_thread::yield();
     }
 
-    void meet(const char* name)
+    void on_lookup(const char* name)
     {
         if (std::strcmp(name, service) != 0)
             return;
@@ -109,7 +109,7 @@ private:
     }
 };
 
-Newcomer newcomer;
+LateThread late_thread;
 
 // Runs in the child process of a case: prints differences from the expectation and ends the process.
 class Verdict {
@@ -139,13 +139,13 @@ void expect_in_child(Case run)
     EXPECT_EXIT(child(), testing::ExitedWithCode(0), "^$");
 }
 
-// All units have been used. Each has looked up the services it needed once, whether it found them or not.
-void expect_one_use_of_each_unit_to_look(Verdict& verdict)
+// After use of all units: each has looked up the services that it needs exactly once, whether they exist or not.
+void expect_one_lookup_per_unit(Verdict& verdict)
 {
-    const bool pair_wanted = offer->has[flag] && offer->use_flag == 1;
+    const bool needs_pair = offer->has[flag] && offer->use_flag == 1;
     for (const Service& service : services) {
-        const bool of_pair = &service == &services[allocate] || &service == &services[release];
-        verdict.expect(service.name, service.lookups, of_pair && !pair_wanted ? 0 : units);
+        const bool is_pair = &service == &services[allocate] || &service == &services[release];
+        verdict.expect(service.name, service.lookups, is_pair && !needs_pair ? 0 : units);
     }
     verdict.expect("allocated by the service", allocated, offer->memory_used ? units : 0);
     verdict.expect("released by the service", released, offer->memory_used ? units : 0);
@@ -157,7 +157,7 @@ class EveryOffer : public testing::TestWithParam<Offer> {};
 INSTANTIATE_TEST_SUITE_P(All, EveryOffer, testing::ValuesIn(offers),
                          [](const auto& test) { return std::string(test.param.name); });
 
-TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
+TEST_P(EveryOffer, is_looked_up_once_per_unit_and_never_mixed_with_malloc)
 {
     expect_in_child([&](Verdict& verdict) {
         offer = &GetParam();
@@ -172,11 +172,11 @@ TEST_P(EveryOffer, is_found_once_by_each_unit_and_never_mixed)
             use.send();
         }
         use_every_unit();   // the second use looks nothing up
-        expect_one_use_of_each_unit_to_look(verdict);
+        expect_one_lookup_per_unit(verdict);
     });
 }
 
-TEST(Services, are_not_looked_up_without_need)
+TEST(Services, are_looked_up_only_when_needed)
 {
     expect_in_child([](Verdict& verdict) {
         ifit_dfx_datetime_mesh record{};
@@ -199,8 +199,8 @@ TEST(Services, are_not_looked_up_without_need)
     });
 }
 
-// Each message is the first that its process decodes, in every form, by fast paths and by general paths.
-TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_any_record)
+// Every message in every form as the first one that a process decodes, on fast paths and on general paths.
+TEST(Services, are_looked_up_before_any_allocation_or_write_to_the_record)
 {
     for (const model::Message& message : expected_catalogue().messages) {
         model::Random chance(message.id);
@@ -225,11 +225,11 @@ TEST(Services, are_looked_up_before_the_first_allocation_and_the_first_byte_of_a
     }
 }
 
-TEST(Services, are_looked_up_by_whichever_operation_comes_first)
+TEST(Services, are_looked_up_whichever_operation_comes_first)
 {
     static const ifit_dfx_datetime_mesh plain[2] = {};
     static const ifit_dfx_query_comm_param_mesh with_block[2] = {};
-    void (*const ways[])() = {
+    void (*const first_uses[])() = {
         [] {   // one slot is missing, so fast paths decline
             const std::uint8_t bytes[] = {10, 0, 0, 0, 4, 0, 4, 0, 0, 0, 6, 0, 0, 0};
             ifit_dfx_query_comm_param_mesh record{};
@@ -254,31 +254,31 @@ TEST(Services, are_looked_up_by_whichever_operation_comes_first)
         [] { ifit_dfx_query_comm_param_mesh__sendsingle(1, with_block, 0, 0); },
         [] { ifit_dfx_query_comm_param_mesh__sendmsg(1, with_block, 2); },
     };
-    for (void (*const use)() : ways)
+    for (void (*const use)() : first_uses)
         expect_in_child([&](Verdict& verdict) {
             use();
             verdict.expect("look-ups of the flag", services[flag].lookups, 1);
         });
 }
 
-// While one thread is in a look-up, another one uses the same unit. It must wait and then finds everything.
-TEST(Services, are_found_by_a_thread_that_comes_while_another_one_looks)
+// Another thread uses a unit while one looks up its services. It must wait and then find all of them.
+TEST(Services, are_found_by_a_thread_that_arrives_during_a_lookup)
 {
     for (const Service& service : services)
         expect_in_child([&](Verdict& verdict) {
             for (const Use& use : uses)
                 for (void (*const operation)() : {use.receive, use.send}) {
-                    newcomer.reset(service.name);
+                    late_thread.reset(service.name);
                     std::thread second([&] {
-                        newcomer.start();
+                        late_thread.start();
                         operation();
-                        newcomer.finished = true;
+                        late_thread.finished = true;
                     });
                     operation();
-                    newcomer.may_start = true;   // also if nothing was looked up
+                    late_thread.may_start = true;   // also if nothing was looked up
                     second.join();
                 }
-            expect_one_use_of_each_unit_to_look(verdict);
+            expect_one_lookup_per_unit(verdict);
         });
 }
 
@@ -292,7 +292,7 @@ extern "C" void* dlsym(void* handle, const char* name) noexcept
     using namespace kesto::tests;
     for (int i = 0; i < service_count && handle == RTLD_DEFAULT; ++i)
         if (std::strcmp(name, services[i].name) == 0) {
-            newcomer.meet(name);
+            late_thread.on_lookup(name);
             ++services[i].lookups;
             return offer->has[i] ? services[i].function : nullptr;
         }

@@ -35,10 +35,10 @@ void in_threads(const std::function<void(uint32_t)>& work)
         one.join();
 }
 
-std::string said(const std::function<void()>& on_stderr)
+std::string stderr_of(const std::function<void()>& work)
 {
     testing::internal::CaptureStderr();
-    on_stderr();
+    work();
     return testing::internal::GetCapturedStderr();
 }
 
@@ -64,7 +64,7 @@ protected:
         ASSERT_EQ(mesh_standin_connect(2, socket_path.c_str(), 0), 0);
     }
 
-    // The other side of channel 1 without the stand-in's own framing.
+    // A peer of channel 1 that sends arbitrary packets.
     int raw_peer() const
     {
         const int peer = socket(AF_UNIX, SOCK_SEQPACKET, 0);
@@ -90,7 +90,7 @@ protected:
 uint32_t empty_unpack(const uint8_t*, uint32_t, void*) { return 1; }
 void empty_free(void*) {}
 
-TEST_F(Mesh, loopback_delivers_in_order_and_what_fails_keeps_nothing_back)
+TEST_F(Mesh, loopback_delivers_in_order_and_continues_after_a_failure)
 {
     EXPECT_EQ(sizes_asked, 0) << "registering must not call the decoder, which would log";
     const std::string a = "a", b = "b", broken = "\xff...", longer(MESH_STANDIN_ITEM_BYTES + 1, 'l');
@@ -109,15 +109,15 @@ TEST_F(Mesh, loopback_delivers_in_order_and_what_fails_keeps_nothing_back)
               (std::vector<uint64_t>{6, 8 + MESH_STANDIN_ITEM_BYTES + 1, 5, 1, 0xdeadbeef}));
 }
 
-TEST_F(Mesh, bad_arguments_have_a_result_each_and_deliver_nothing)
+TEST_F(Mesh, each_bad_argument_has_its_own_result_and_delivers_nothing)
 {
-    const MeshSendItem hollow[] = {{reinterpret_cast<const uint8_t*>("x"), 7, 1}, {nullptr, 7, 1}};
-    for (const int result : {MESH_SendMsg(0, nullptr, 1), MESH_SendMsg(0, hollow, 2), mesh_standin_listen(1, nullptr),
-                             MESH_RegIDLFuncHook(9, nullptr, note_free), MESH_RegIDLFuncHook(9, note_unpack, nullptr),
-                             MESH_RegIDLResorceCleanFuncHook(nullptr)})
+    const MeshSendItem null_data[] = {{reinterpret_cast<const uint8_t*>("x"), 7, 1}, {nullptr, 7, 1}};
+    for (const int result : {MESH_SendMsg(0, nullptr, 1), MESH_SendMsg(0, null_data, 2),
+                             mesh_standin_listen(1, nullptr), MESH_RegIDLFuncHook(9, nullptr, note_free),
+                             MESH_RegIDLFuncHook(9, note_unpack, nullptr), MESH_RegIDLResorceCleanFuncHook(nullptr)})
         EXPECT_EQ(result, MESH_STANDIN_BAD_ARGUMENT);
     for (const int result :
-         {MESH_SendMsg(64, hollow, 1), MESH_SendToMsg(UINT32_MAX, hollow, 1, 1), mesh_standin_listen(64, "x"),
+         {MESH_SendMsg(64, null_data, 1), MESH_SendToMsg(UINT32_MAX, null_data, 1, 1), mesh_standin_listen(64, "x"),
           mesh_standin_receive(64, 0), mesh_standin_close(64), mesh_standin_set_consumer(64, keep, nullptr)})
         EXPECT_EQ(result, MESH_STANDIN_UNKNOWN_CHANNEL);
     for (const std::string& bad : {std::string(), std::string(108, 'x')})
@@ -136,7 +136,7 @@ TEST_F(Mesh, bad_arguments_have_a_result_each_and_deliver_nothing)
 
 int cleaned;
 
-TEST_F(Mesh, many_hooks_are_told_apart_a_second_registration_replaces_and_each_clean_hook_runs_once)
+TEST_F(Mesh, hooks_are_found_by_id_and_replaced_and_clean_hooks_run_once)
 {
     ASSERT_EQ(send_text(0, 7, "x"), 0);
     ASSERT_EQ(MESH_RegIDLFuncHook(7, empty_unpack, empty_free), 0);
@@ -156,7 +156,7 @@ TEST_F(Mesh, many_hooks_are_told_apart_a_second_registration_replaces_and_each_c
     EXPECT_EQ(cleaned, 10);
 }
 
-TEST_F(Mesh, consumer_may_send_and_close_from_within)
+TEST_F(Mesh, consumer_may_send_and_close_during_a_callback)
 {
     bind_channels_1_and_2();
     mesh_standin_set_consumer(
@@ -170,7 +170,7 @@ TEST_F(Mesh, consumer_may_send_and_close_from_within)
     EXPECT_EQ(mesh_standin_receive(2, 1000), MESH_STANDIN_PEER_CLOSED);
 }
 
-TEST_F(Mesh, packets_of_a_foreign_peer_are_judged_one_by_one)
+TEST_F(Mesh, each_packet_of_a_foreign_peer_is_validated)
 {
     ASSERT_EQ(mesh_standin_listen(1, socket_path.c_str()), 0);
     EXPECT_EQ(mesh_standin_listen(1, socket_path.c_str()), MESH_STANDIN_BUSY);
@@ -212,7 +212,7 @@ TEST_F(Mesh, packets_of_a_foreign_peer_are_judged_one_by_one)
     EXPECT_EQ(seen.back(), "1:7 back") << "a closed channel is a loopback again";
 }
 
-TEST_F(Mesh, a_connect_waits_for_the_listener_and_a_send_for_a_slow_peer)
+TEST_F(Mesh, connect_waits_for_the_listener_and_send_for_a_slow_peer)
 {
     std::thread connecting([this] { EXPECT_EQ(mesh_standin_connect(2, socket_path.c_str(), 5000), 0); });
     await_waiting(1);
@@ -231,7 +231,7 @@ TEST_F(Mesh, a_connect_waits_for_the_listener_and_a_send_for_a_slow_peer)
     EXPECT_EQ(seen, Lines(20, "1:7 " + longest));
 }
 
-TEST_F(Mesh, close_wakes_waiting_threads_and_frees_the_channel_for_a_new_binding)
+TEST_F(Mesh, close_wakes_waiting_threads_and_allows_rebinding)
 {
     for (const bool connected : {false, true}) {
         ASSERT_EQ(mesh_standin_listen(1, socket_path.c_str()), 0);
@@ -282,7 +282,7 @@ std::string note(const std::string& text)
 
 using Capture = Mesh;
 
-TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
+TEST_F(Capture, records_every_packet_once_and_immediately_even_invalid_ones)
 {
     std::ofstream(path) << head << std::string(1000, 'o');   // an older one
     ASSERT_EQ(mesh_standin_capture(path.c_str()), 0);
@@ -315,11 +315,11 @@ TEST_F(Capture, holds_what_passes_once_and_at_once_whatever_it_is)
     EXPECT_EQ(packets_in(path), passed);
 }
 
-TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
+TEST_F(Capture, replaces_only_captures_and_is_private_to_its_owner)
 {
     const auto expect_refused = [&](const std::string& content, const char* why) {
         const std::string line =
-            said([&] { EXPECT_EQ(mesh_standin_capture(path.c_str()), MESH_STANDIN_BAD_PATH) << content; });
+            stderr_of([&] { EXPECT_EQ(mesh_standin_capture(path.c_str()), MESH_STANDIN_BAD_PATH) << content; });
         EXPECT_NE(line.find(why), std::string::npos) << line;
         EXPECT_EQ(send_text(3, 7, "x"), 0);
         EXPECT_EQ(bytes_of(path), content);
@@ -358,7 +358,7 @@ TEST_F(Capture, takes_the_place_of_captures_alone_and_is_its_owners)
     }
 }
 
-TEST_F(Capture, of_threads_that_share_hooks_and_channels_has_whole_packets)
+TEST_F(Capture, concurrent_threads_write_whole_packets)
 {
     mesh_standin_set_consumer(MESH_STANDIN_EVERY_CHANNEL, nullptr, nullptr);
     ASSERT_EQ(MESH_RegIDLFuncHook(7, empty_unpack, empty_free), 0);
@@ -385,9 +385,9 @@ TEST_F(Capture, of_threads_that_share_hooks_and_channels_has_whole_packets)
 }
 
 // Runs a child that sends with the parent's capture; returns its output on stderr.
-std::string said_by_child(pid_t& child)
+std::string stderr_of_child(pid_t& child)
 {
-    return said([&] {
+    return stderr_of([&] {
         child = fork();
         if (child == 0)
             _exit(send_text(3, 7, "child") | send_text(3, 7, "child again"));
@@ -397,28 +397,28 @@ std::string said_by_child(pid_t& child)
     });
 }
 
-TEST_F(Capture, of_two_processes_are_two_or_one_of_them_has_none)
+TEST_F(Capture, two_processes_never_share_a_file)
 {
     ASSERT_EQ(mesh_standin_capture(path.c_str()), 0);
     pid_t child = 0;
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
-    EXPECT_EQ(said_by_child(child), "mesh stand-in: no capture to " + path +
-                                        ": another process writes it; %p in the name stands for the process id\n");
+    EXPECT_EQ(stderr_of_child(child), "mesh stand-in: no capture to " + path +
+                                          ": another process writes it; %p in the name stands for the process id\n");
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
     EXPECT_EQ(packets_in(path), (Lines{note("parent"), note("parent")}));
 
     ASSERT_EQ(mesh_standin_capture((path + "%p.x").c_str()), 0);
     ASSERT_EQ(send_text(3, 7, "parent"), 0);
-    EXPECT_EQ(said_by_child(child), "");
+    EXPECT_EQ(stderr_of_child(child), "");
     EXPECT_EQ(packets_in(path + std::to_string(getpid()) + ".x"), Lines{note("parent")});
     EXPECT_EQ(packets_in(path + std::to_string(child) + ".x"), (Lines{note("child"), note("child again")}));
 }
 
-TEST_F(Capture, that_cannot_be_written_is_reported_once_and_disturbs_nothing)
+TEST_F(Capture, write_error_is_reported_once_and_messages_still_pass)
 {
     for (const std::string& bad : {folder.string(), path + "/no/file", std::string("/dev/null"), std::string(5000, 'x'),
                                    std::string(2000, 'x') + std::string(2000, '%') + "p"}) {
-        const std::string lines = said([&] {
+        const std::string lines = stderr_of([&] {
             EXPECT_EQ(mesh_standin_capture(bad.c_str()), MESH_STANDIN_BAD_PATH) << bad;
             EXPECT_EQ(send_text(3, 7, "x") | send_text(3, 7, "x"), 0);
         });
@@ -461,7 +461,7 @@ protected:
 void* take(uint32_t size) { return RVL_OsalMemCacheAlloc(size, OSAL_MEMORY_MODULE, "taker"); }
 void give(void* block) { RVL_OsalMemFree(block, OSAL_MEMORY_MODULE, "giver"); }
 
-TEST_F(Osal, many_blocks_come_and_go_in_any_order_and_all_are_counted)
+TEST_F(Osal, blocks_released_in_any_order_are_all_counted)
 {
     constexpr uint32_t many = 100000;   // more than there are chains
     std::vector<void*> blocks;
@@ -479,7 +479,7 @@ TEST_F(Osal, many_blocks_come_and_go_in_any_order_and_all_are_counted)
               (std::vector<uint64_t>{0, 0, many, many / 4 * 6, 1}));
 }
 
-TEST_F(Osal, budget_counts_live_bytes_and_failures_hit_the_planned_requests)
+TEST_F(Osal, budget_limits_live_bytes_and_planned_requests_fail)
 {
     const auto outcome = [&](const OsalStandinPlan& wanted, const std::vector<uint32_t>& sizes) {
         osal_standin_set_plan(&wanted);
@@ -496,7 +496,7 @@ TEST_F(Osal, budget_counts_live_bytes_and_failures_hit_the_planned_requests)
     EXPECT_EQ(outcome({OSAL_STANDIN_NO_LIMIT, 2, 5, 1, 1, 0}, {1, 1, 1, 1, 1, 1}), "+-++--");
 }
 
-TEST_F(Osal, a_release_of_what_is_not_live_ends_the_process_with_a_reason)
+TEST_F(Osal, releasing_a_block_that_is_not_live_aborts_with_a_reason)
 {
     void* const block = take(64);
     EXPECT_DEATH(give(static_cast<char*>(block) + 16), "giver releases .* no live block") << "not its start";
@@ -504,10 +504,10 @@ TEST_F(Osal, a_release_of_what_is_not_live_ends_the_process_with_a_reason)
     EXPECT_DEATH(give(block), "giver releases .* released twice");
 }
 
-TEST_F(Osal, log_records_become_one_line_each)
+TEST_F(Osal, each_log_record_is_one_line)
 {
     const OsalLogDescriptor who{"KESTO", "KESTO_MARLOCK_SERIAL", 0x6200, 0};
-    const std::string written = said([&] {
+    const std::string written = stderr_of([&] {
         RVL_OsalLogWrite(&who, 2, 22, "", 1, "a_unpack", "[KESTO]:Table offset(%u) is out of range(4 - %u)", 3u, 22u);
         RVL_OsalLogWrite(&who, 2, 12, "", 1, "b", "two\nlines %s", std::string(5000, 'x').c_str());
         plan.write_log = 0;
@@ -522,12 +522,12 @@ TEST_F(Osal, log_records_become_one_line_each)
     EXPECT_EQ(counters().log_records, 1u);
 }
 
-TEST_F(Osal, environment_sets_the_plan_and_bad_values_are_named_and_ignored)
+TEST_F(Osal, environment_sets_the_plan_and_bad_values_are_reported_and_ignored)
 {
     OsalStandinPlan now{};
     const auto complaint = [&](const std::string& name, const std::string& value) {
         setenv(name.c_str(), value.c_str(), 1);
-        const std::string line = said(osal_standin_read_environment);
+        const std::string line = stderr_of(osal_standin_read_environment);
         unsetenv(name.c_str());
         osal_standin_plan(&now);
         return line;
@@ -551,7 +551,7 @@ TEST_F(Osal, environment_sets_the_plan_and_bad_values_are_named_and_ignored)
     EXPECT_EQ(RVL_OsalMemUseFlagGet(OSAL_MEMORY_MODULE), 0u);
 }
 
-TEST_F(Osal, summary_at_the_end_names_what_was_never_released)
+TEST_F(Osal, exit_report_counts_unreleased_blocks)
 {
     plan.report = 1;
     const auto run = [this] {

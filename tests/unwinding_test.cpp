@@ -39,7 +39,7 @@ _Unwind_Reason_Code visit_frame(_Unwind_Context* context, void* found)
     calls_from_main += found;
 }
 
-TEST(Unwinding, reaches_main_out_of_mesh_and_out_of_the_memory_service)
+TEST(Unwinding, reaches_main_from_mesh_and_from_the_memory_service)
 {
     mesh().at_send = look_for_main;
     at_memory_call = look_for_main;

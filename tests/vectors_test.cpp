@@ -36,7 +36,7 @@ std::vector<ordered_json> lines_of(const std::string& name)
 
 ordered_json files() { return ordered_json::parse(read_file(folder + "manifest.json"))["files"]; }
 
-TEST(Vectors, are_whole_and_what_is_printed_today)
+TEST(Vectors, are_complete_and_up_to_date)
 {
     const std::string printed = testing::TempDir() + "kesto_vectors_" + std::to_string(getpid());
     std::filesystem::create_directory(printed);
@@ -62,10 +62,10 @@ TEST(Vectors, are_whole_and_what_is_printed_today)
     EXPECT_LT(size, 2u << 20);
 }
 
-TEST(Vectors, say_what_the_library_does_with_each)
+TEST(Vectors, match_the_library)
 {
     std::map<std::string, std::set<std::string>> cases;   // record cases, by message
-    std::map<std::string, int> often;                     // hostile byte strings per result; "" if accepted
+    std::map<std::string, int> counts;                    // hostile byte strings per result; "" if accepted
     std::set<std::string> noncanonical;                   // messages of the accepted ones
     DecodeCheck check;
     for (const ordered_json& file : files())
@@ -90,7 +90,7 @@ TEST(Vectors, say_what_the_library_does_with_each)
             }
             EXPECT_EQ(ordered_json(log), line.value("log", ordered_json::array())) << line;
             if (is_hostile) {
-                ++often[code];
+                ++counts[code];
                 if (code.empty())
                     noncanonical.insert(message.name);
                 continue;
@@ -102,14 +102,14 @@ TEST(Vectors, say_what_the_library_does_with_each)
                 EXPECT_EQ(model::to_hex(command::encoded(record, command::Form::fixed)), line["fixed"]) << line;
             }
         }
-    // Otherwise a printer that lost half of its cases would pass.
+    // A printer that lost half of its cases must not pass.
     EXPECT_EQ(cases.size(), expected_catalogue().messages.size());
     for (const auto& [message, names] : cases)
         EXPECT_EQ(names, (std::set<std::string>{"boundary", "empty", "full"})) << message;
     EXPECT_EQ(noncanonical.size(), expected_catalogue().messages.size());
-    EXPECT_EQ(often.size(), 1u + 13u);
-    for (const auto& [code, times] : often)
-        EXPECT_GE(times, code == "length_below_4" ? 4 : 8) << code;
+    EXPECT_EQ(counts.size(), 1u + 13u);
+    for (const auto& [code, count] : counts)
+        EXPECT_GE(count, code == "length_below_4" ? 4 : 8) << code;
 }
 
 }   // namespace

@@ -24,7 +24,7 @@ struct TraceCase {
     const char* what;
     const char* message;
     const char* record;
-    void (*spoil)(Bytes& bytes);
+    void (*damage)(Bytes& bytes);
     u32 failing_allocation;
     const char* refusal;
     const char* trace;   // of the decode, and of the free after it
@@ -38,9 +38,9 @@ constexpr TraceCase trace_cases[] = {
      "ifit_dfx_query_comm_param_mesh_unpack_non_root allocates block 0, size 3\n"
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases block 0\n",
      "{{1 2 null*3} {0 0 0}}"},
-    {"the frame's block is refused, and passes two frees", "ifit_dfx_query_stat_mesh_key", "{{1 2 h'aabbcc'} zero}",
-     [](Bytes&) {}, 0, "allocation",
-     "ifit_dfx_query_comm_param_mesh_unpack_non_root allocates block 0, size 3, in vain\n"
+    {"the allocation of the frame's block fails, and two frees follow", "ifit_dfx_query_stat_mesh_key",
+     "{{1 2 h'aabbcc'} zero}", [](Bytes&) {}, 0, "allocation",
+     "ifit_dfx_query_comm_param_mesh_unpack_non_root allocates block 0, size 3, failed\n"
      "ifit_dfx_query_comm_param_mesh_unpack_non_root logs 12 [KESTO]:Malloc unpack data failed, size(3)\n"
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases null\n"
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases null\n"
@@ -53,7 +53,7 @@ constexpr TraceCase trace_cases[] = {
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases block 0\n"
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases null\n",
      "{{0 0 null*1} {0 0 0}}"},
-    {"the frame's table is out of range: a plain stop, then the key's own free", "ifit_dfx_query_stat_mesh_key",
+    {"the frame's table is out of range: only the key's own free follows", "ifit_dfx_query_stat_mesh_key",
      "{zero zero}", [](Bytes& bytes) { put(&bytes[16], 0x7fffff, 4); }, none, "table_position",
      "ifit_dfx_query_comm_param_mesh_unpack_non_root logs 22 [KESTO]:Table offset(8388623) is out of range(4 - 52)\n"
      "ifit_dfx_query_comm_param_mesh_free_unpacked releases null\n"
@@ -72,11 +72,12 @@ constexpr TraceCase trace_cases[] = {
      "ntvifit_entry_to_mdtlm_free_unpacked releases null\n"
      "ntvifit_entry_list_mdtlm_free_unpacked releases block 0\n",
      "{null*2 9}", 2 * sizeof(ntvifit_entry_to_mdtlm)},
-    {"an entry's second block is refused: its own free, then the list's over all elements", "ntvifit_entry_list_mdtlm",
-     "{[{0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 h'01' 0 null 0 0 0 h'0203' 0 0} zero] 9}", [](Bytes&) {}, 2, "allocation",
+    {"the allocation of an entry's second block fails: its own free, then the list's over all elements",
+     "ntvifit_entry_list_mdtlm", "{[{0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 h'01' 0 null 0 0 0 h'0203' 0 0} zero] 9}",
+     [](Bytes&) {}, 2, "allocation",
      "ntvifit_entry_list_mdtlm_unpack allocates block 0, size SIZE\n"
      "ntvifit_entry_to_mdtlm_unpack_non_root allocates block 1, size 1\n"
-     "ntvifit_entry_to_mdtlm_unpack_non_root allocates block 2, size 2, in vain\n"
+     "ntvifit_entry_to_mdtlm_unpack_non_root allocates block 2, size 2, failed\n"
      "ntvifit_entry_to_mdtlm_unpack_non_root logs 12 [KESTO]:Malloc unpack data failed, size(2)\n"
      "ntvifit_entry_to_mdtlm_free_unpacked releases block 1\n"
      "ntvifit_entry_to_mdtlm_free_unpacked releases null\n"
@@ -92,14 +93,14 @@ constexpr TraceCase trace_cases[] = {
     {"a block nested in an element: the free of the leaf, of the element, of the list", "ntvifit_stats_info_list",
      "{[{zero zero zero zero {5 h'0708'} 0 0 0 0 0 0 0 0 0}]}", [](Bytes&) {}, 1, "allocation",
      "ntvifit_stats_info_list_unpack allocates block 0, size SIZE\n"
-     "ntvifit_app_data_unpack_non_root allocates block 1, size 2, in vain\n"
+     "ntvifit_app_data_unpack_non_root allocates block 1, size 2, failed\n"
      "ntvifit_app_data_unpack_non_root logs 12 [KESTO]:Malloc unpack data failed, size(2)\n"
      "ntvifit_app_data_free_unpacked releases null\n"
      "ntvifit_app_data_free_unpacked releases null\n"
      "ntvifit_app_data_free_unpacked releases null\n"
      "ntvifit_stats_info_list_free_unpacked releases block 0\n",
      "{null*1}", sizeof(ntvifit_stats_info)},
-    {"an array count of an element", "ifit_rule_mesh_update", "{7 [zero zero]}",
+    {"an element with a wrong array count", "ifit_rule_mesh_update", "{7 [zero zero]}",
      [](Bytes& bytes) { put(&bytes[34 + 46 + 4 + 8], 15, 4); }, none, "array_count",
      "ifit_rule_mesh_update_unpack allocates block 0, size 144\n"
      "ifit_rule_mesh_update_free_unpacked releases block 0\n",
@@ -108,9 +109,9 @@ constexpr TraceCase trace_cases[] = {
      "ifit_dfx_query_glbdata_item_mesh_unpack allocates block 0, size 1\n"
      "ifit_dfx_query_glbdata_item_mesh_free_unpacked releases block 0\n",
      "{null}"},
-    {"text that is refused is logged with its NUL", "ifit_dfx_query_glbdata_item_mesh", "{\"abc\"}", [](Bytes&) {}, 0,
+    {"the logged size of a text includes its NUL", "ifit_dfx_query_glbdata_item_mesh", "{\"abc\"}", [](Bytes&) {}, 0,
      "allocation",
-     "ifit_dfx_query_glbdata_item_mesh_unpack allocates block 0, size 4, in vain\n"
+     "ifit_dfx_query_glbdata_item_mesh_unpack allocates block 0, size 4, failed\n"
      "ifit_dfx_query_glbdata_item_mesh_unpack logs 12 [KESTO]:Malloc unpack data failed, size(4)\n"
      "ifit_dfx_query_glbdata_item_mesh_free_unpacked releases null\n"
      "ifit_dfx_query_glbdata_item_mesh_free_unpacked releases null\n",
@@ -122,7 +123,7 @@ constexpr TraceCase trace_cases[] = {
      "ifit_smooth_mesh_unpack_non_root logs 22 [KESTO]:Vtable Len(21) is out of range(0 - 20)\n", "{5 {0 0}}"},
 };
 
-TEST(WrittenOut, traces_are_met)
+TEST(WrittenOut, traces_match)
 {
     DecodeCheck check;
     for (const TraceCase& each : trace_cases) {
@@ -131,7 +132,7 @@ TEST(WrittenOut, traces_are_met)
         SCOPED_TRACE(each.what);
         const Message& message = *expected_catalogue().find(each.message);
         Bytes bytes = compact_form(record_of(message, each.record));
-        each.spoil(bytes);
+        each.damage(bytes);
         check.faults.at = each.failing_allocation;
         EXPECT_EQ(check.check(message, bytes), "");
         const Outcome& outcome = check.outcome();
@@ -215,7 +216,7 @@ constexpr EdgeCase edge_cases[] = {
     {"ifit_sync_ifit_rule_update", "0c000000 0800 0000 0000 0400 08000000 000000", "cell_end", "zero"},
 };
 
-TEST(WrittenOut, edges_of_every_test_are_on_the_right_side)
+TEST(WrittenOut, every_bound_is_exact)
 {
     DecodeCheck check;
     for (const EdgeCase& edge : edge_cases) {

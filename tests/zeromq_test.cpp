@@ -100,7 +100,7 @@ protected:
     void SetUp() override { start_notes(); }
 
     // The next packet must be the one sent now; nothing from an earlier call is still in transit.
-    static void expect_nothing_under_way()
+    static void expect_nothing_in_transit()
     {
         seen.clear();
         EXPECT_EQ(send_text(1, 7, "mark"), MESH_STANDIN_OK);
@@ -112,7 +112,7 @@ protected:
     static inline std::string reported;
 };
 
-TEST_F(ZeroMq, lines_that_are_not_understood_are_named_and_left_out_and_what_the_map_does_not_say_is_refused)
+TEST_F(ZeroMq, bad_map_lines_are_reported_and_skipped_and_unmapped_channels_are_refused)
 {
     for (const char* line :
          {"map:6: an earlier line", "map:7: only \"to", "map:8: no such channel", "map:9: neither", "nowhere: "})
@@ -130,7 +130,7 @@ TEST_F(ZeroMq, lines_that_are_not_understood_are_named_and_left_out_and_what_the
     EXPECT_EQ(seen, Lines{"3:7 "});
 }
 
-TEST_F(ZeroMq, items_arrive_in_order_one_a_call_and_an_unknown_id_keeps_nothing_back)
+TEST_F(ZeroMq, each_receive_delivers_one_item_in_order_even_after_an_unknown_id)
 {
     const std::string a = "a", empty, longest(MESH_STANDIN_ITEM_BYTES, 'c'), capture = folder + std::string("/capture");
     const MeshSendItem items[] = {item(7, a), item(8, a), item(7, empty), item(7, longest)};
@@ -143,30 +143,30 @@ TEST_F(ZeroMq, items_arrive_in_order_one_a_call_and_an_unknown_id_keeps_nothing_
     ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
     EXPECT_EQ(std::filesystem::file_size(capture), 24 + 2 * (4 * (16 + 24 + 8) + 1 + 1 + 0 + MESH_STANDIN_ITEM_BYTES))
         << "each item that left, and each that came";
-    expect_nothing_under_way();
+    expect_nothing_in_transit();
 }
 
-TEST_F(ZeroMq, a_batch_of_which_one_item_cannot_leave_goes_not_at_all)
+TEST_F(ZeroMq, batch_is_sent_whole_or_not_at_all)
 {
     const std::string a = "a", too_long(MESH_STANDIN_ITEM_BYTES + 1, 'c');
     const MeshSendItem long_one[] = {item(7, a), item(7, too_long)}, three[] = {item(7, a), item(7, a), item(7, a)};
     EXPECT_EQ(MESH_SendMsg(1, long_one, 2), MESH_STANDIN_TOO_LONG);
-    expect_nothing_under_way();
+    expect_nothing_in_transit();
     for (const char* operation : {"init_size", "send"})
         for (int k = 0; k < 3; ++k) {
             planned = {operation, k};
             EXPECT_EQ(MESH_SendMsg(1, three, 3), MESH_STANDIN_NO_MEMORY) << operation << " " << k;
-            expect_nothing_under_way();
+            expect_nothing_in_transit();
         }
 }
 
 #if !KESTO_WITH_KEYS   // without a key no sender gets that far
-TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
+TEST_F(ZeroMq, oversized_part_disconnects_the_sender)
 {
     void* const context = zmq_ctx_new();
     void* const foreign = zmq_socket(context, ZMQ_PUSH);
-    const int patience = 0;
-    zmq_setsockopt(foreign, ZMQ_LINGER, &patience, sizeof patience);
+    const int linger_ms = 0;
+    zmq_setsockopt(foreign, ZMQ_LINGER, &linger_ms, sizeof linger_ms);
     ASSERT_EQ(zmq_connect(foreign, address("two").c_str()), 0);
     const std::string part(MESH_STANDIN_ITEM_BYTES + 9, 'p');
     for (const std::size_t length : {part.size() - 1, part.size()}) {
@@ -179,7 +179,7 @@ TEST_F(ZeroMq, who_announces_a_part_longer_than_any_item_is_cut_off)
 }
 #endif
 
-TEST_F(ZeroMq, many_threads_send_without_mixing_their_batches)
+TEST_F(ZeroMq, batches_of_concurrent_threads_do_not_interleave)
 {
     constexpr std::size_t threads = 4, batches = 100, items = 5;
     std::vector<std::thread> senders;
@@ -200,22 +200,22 @@ TEST_F(ZeroMq, many_threads_send_without_mixing_their_batches)
 }
 
 // This must be the last test, as no peer is admitted after it.
-TEST_F(ZeroMq, nobody_is_admitted_once_admission_has_failed)
+TEST_F(ZeroMq, no_peer_is_admitted_after_admission_has_failed)
 {
     if (!KESTO_WITH_KEYS)
         GTEST_SKIP() << "everybody is admitted";
     const std::string x = "x";
     const MeshSendItem two[] = {item(7, x), item(7, x)};
-    const auto begin_a_new_connection = [&] {
+    const auto reconnect = [&] {
         planned = {"send", 1};
         EXPECT_EQ(MESH_SendMsg(1, two, 2), MESH_STANDIN_NO_MEMORY);
     };
     frames_before_admission_fails = 6;   // the seven of one request; it already waits for the first one
-    begin_a_new_connection();
-    expect_nothing_under_way();
+    reconnect();
+    expect_nothing_in_transit();
     while (frames_before_admission_fails >= 0)
         std::this_thread::yield();
-    begin_a_new_connection();
+    reconnect();
     EXPECT_EQ(MESH_SendMsg(1, two, 1), MESH_STANDIN_TIMEOUT) << "nobody has answered in five seconds";
 }
 

@@ -59,7 +59,7 @@ int main(int argc, char** argv)
     const std::size_t begin = script.find(first_line);
     const std::size_t end = begin == std::string::npos ? begin : script.find(last_line, begin);
     if (end == std::string::npos) {
-        std::fprintf(stderr, "%s: without the lines between which the catalogue is printed\n", argv[1]);
+        std::fprintf(stderr, "%s: marker lines around the catalogue not found\n", argv[1]);
         return 1;
     }
     const std::size_t from = begin + sizeof first_line - 1;

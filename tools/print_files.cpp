@@ -14,7 +14,7 @@ bool write_changed(const std::string& path, const std::string& text)
     std::ofstream file(path, std::ios::binary);
     file << text << std::flush;
     if (!file)
-        std::fprintf(stderr, "%s: could not be written\n", path.c_str());
+        std::fprintf(stderr, "%s: cannot be written\n", path.c_str());
     return static_cast<bool>(file);
 }
 

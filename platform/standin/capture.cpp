@@ -36,7 +36,7 @@ struct Capture {
     ino_t inode;
     pid_t process;   // which opened the file
     const char* writer;
-    uint64_t most_bytes;
+    uint64_t max_bytes;
     uint32_t files;
     char name[PATH_MAX];   // absolute, with %p
     char path[PATH_MAX];   // the same with the process id
@@ -147,7 +147,7 @@ void stop()
     return error;
 }
 
-// Makes way for a new file at `capture.path`: PATH becomes PATH.1, PATH.1 becomes PATH.2, and the oldest one is
+// Vacates the name for a new file at `capture.path`: PATH becomes PATH.1, PATH.1 becomes PATH.2, and the oldest one is
 // replaced. All of these are tested before any is moved. Returns 0 or an error.
 [[nodiscard]] int rotate()
 {
@@ -259,22 +259,22 @@ int open_above_standard(const char* path)
 }
 
 // With rotation, a limit that the process has on its files counts too: a write beyond it would raise a signal.
-uint64_t room_per_file()
+uint64_t capacity_per_file()
 {
     rlimit limit;
-    if (capture.files == 1 && capture.most_bytes == capture_without_limit)
-        return capture.most_bytes;
-    return getrlimit(RLIMIT_FSIZE, &limit) == 0 ? std::min<uint64_t>(capture.most_bytes, limit.rlim_cur)
-                                                : capture.most_bytes;
+    if (capture.files == 1 && capture.max_bytes == capture_without_limit)
+        return capture.max_bytes;
+    return getrlimit(RLIMIT_FSIZE, &limit) == 0 ? std::min<uint64_t>(capture.max_bytes, limit.rlim_cur)
+                                                : capture.max_bytes;
 }
 
 // Returns 0 or an error.
-[[nodiscard]] int make_room(uint64_t bytes, struct stat& status)
+[[nodiscard]] int start_next_file_if_full(uint64_t bytes, struct stat& status)
 {
-    const uint64_t room = room_per_file();
-    if (static_cast<uint64_t>(status.st_size) + bytes <= room)
+    const uint64_t capacity = capacity_per_file();
+    if (static_cast<uint64_t>(status.st_size) + bytes <= capacity)
         return 0;
-    if (sizeof file_head + bytes > room)
+    if (sizeof file_head + bytes > capacity)
         return EFBIG;
     int error = rotate();
     capture.inode = 0;   // a single file starts over
@@ -307,7 +307,7 @@ void write_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_l
     const uint32_t kept = std::min(rest_length, most_captured - before_rest);
     uint8_t record[16 + call_head];
     const size_t bytes = sizeof record + head_length + kept;
-    int error = make_room(bytes, status);
+    int error = start_next_file_if_full(bytes, status);
     if (error == 0) {
         const uint64_t now = capture_time();
         store_u32(record, static_cast<uint32_t>(now / ns_per_second));
@@ -340,7 +340,7 @@ bool capture_to(const CapturePlan& plan)
     capture.device = 0;
     capture.inode = 0;
     capture.writer = plan.writer;
-    capture.most_bytes = plan.most_bytes;
+    capture.max_bytes = plan.max_bytes;
     capture.files = plan.files;
     if (!make_absolute(plan.path))
         return fail(errno, "a file");

@@ -2,8 +2,8 @@
 // at most; the stand-in and the tap each have their own copy of this writer.
 //
 // The file is a pcap file with microseconds, little-endian on every host, link type USER1 (148). Each packet is written
-// by one system call without buffering, so the file can be read while it grows. It consists of the capture head, then
-// id, length and byte string. The capture head has 24 bytes, all numbers little-endian:
+// by one system call without buffering, so the file can be read while it grows. It consists of the call head, then
+// id, length and byte string. The call head has 24 bytes, all numbers little-endian:
 //
 //    0  u8   version, 1
 //    1  u8   direction: 0 sent, 1 received
@@ -37,7 +37,7 @@ constexpr uint64_t capture_without_limit = INT64_MAX;
 struct CapturePlan {
     const char* writer;     // who reports failures; a literal
     const char* path;       // %p stands for the process id; a relative path starts at the current folder of now
-    uint64_t most_bytes;    // per file, or capture_without_limit; a packet that does not fit starts a new file
+    uint64_t max_bytes;     // per file, or capture_without_limit; a packet that does not fit starts a new file
     uint32_t files;         // including the current one: PATH, then PATH.1 (the latest full one), PATH.2 ...
     bool at_first_packet;   // open the file then, rather than now
 };

@@ -25,8 +25,8 @@
 
 namespace {
 
-constexpr uint32_t default_mib = 64, most_mib = 4096;
-constexpr uint32_t default_files = 4, most_files = 99;
+constexpr uint32_t default_mib = 64, max_mib = 4096;
+constexpr uint32_t default_files = 4, max_files = 99;
 constexpr int no_mesh = -1;
 
 constinit bool with_other_ids{};   // set before the program starts
@@ -183,9 +183,9 @@ uint32_t number_in(const char* name, uint32_t least, uint32_t most, uint32_t oth
     const char* const path = secure_getenv("KESTO_TAP");
     if (path != nullptr && path[0] != '\0') {
         with_other_ids = number_in("KESTO_TAP_OTHERS", 0, 1, 0) != 0;
-        const uint64_t most_bytes = uint64_t{number_in("KESTO_TAP_MIB", 1, most_mib, default_mib)} << 20;
-        const uint32_t files = number_in("KESTO_TAP_FILES", 1, most_files, default_files);
-        [[maybe_unused]] const bool ignored = capture_to({"kesto tap", path, most_bytes, files, true});
+        const uint64_t max_bytes = uint64_t{number_in("KESTO_TAP_MIB", 1, max_mib, default_mib)} << 20;
+        const uint32_t files = number_in("KESTO_TAP_FILES", 1, max_files, default_files);
+        [[maybe_unused]] const bool ignored = capture_to({"kesto tap", path, max_bytes, files, true});
     }
     errno = error;
 }

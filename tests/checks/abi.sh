@@ -16,7 +16,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 zcat "$1" >"$work/committed.abi"
 abidiff --no-show-locs --leaf-changes-only --impacted-interfaces "$work/committed.abi" "$2" || {
-    echo "The binary interface of $2 is not that of $1. If that is meant: docs/integrating.md, then ./run abi --write"
+    echo "The binary interface of $2 differs from $1. If this is intended, see docs/integrating.md and run ./run abi --write"
     exit 1
 }
-echo "$(grep -c '<function-decl' "$work/committed.abi") functions and their records as in $1"
+echo "$(grep -c '<function-decl' "$work/committed.abi") functions and their records match $1"

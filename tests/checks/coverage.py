@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Line and branch coverage of core/: coverage.py BUILD, a build of preset `coverage` whose tests have run.
+"""Reports line and branch coverage of core/.
 
-Code that is compiled for many layouts, which is all that stands in headers, counts as covered when it was for one of them:
-of the branches of such a line only the two directions are told apart. What is not covered must be listed in
-coverage_gaps.txt beside this script, with the reason why no test can get there. Ends with 1 when something is not listed, or
-listed and covered.
+    coverage.py BUILD    a build of preset `coverage` whose tests have run
+
+Headers are compiled for many layouts. Their code counts as covered if it ran for one of them, and of its branches only
+the two directions are distinguished. Gaps must be listed in coverage_gaps.txt in this folder, each with the reason why
+no test can reach it. The exit status is 1 if a gap is not listed, or if a listed one is covered.
 """
 import collections
 import glob
@@ -20,8 +21,8 @@ sys.path.append(os.path.join(ROOT, "tests"))
 import exceptions   # noqa: E402, the module in the parent folder
 
 build = os.path.abspath(sys.argv[1])
-lines = collections.defaultdict(int)              # (file, line) -> how often
-branches = collections.defaultdict(dict)          # (file, line) -> {(number of branches, index): how often}
+lines = collections.defaultdict(int)              # (file, line) -> executions
+branches = collections.defaultdict(dict)          # (file, line) -> {(number of branches, index): executions}
 for data in sorted(glob.glob(build + "/CMakeFiles/ifit_codec.dir/**/*.gcda", recursive=True)):
     report = subprocess.run(["gcov", "--branch-probabilities", "--json-format", "--stdout", data], cwd=build,
                             capture_output=True, check=True).stdout
@@ -56,8 +57,8 @@ for at in sorted(lines):
             print("%s:%d: %s not covered: %s" % (at[0], at[1], what, source))
 for name, line in sorted(listed - gaps):
     unexplained += 1
-    print("%s:%d is listed as a gap, and is covered" % (name, line))
+    print("%s:%d is listed as a gap but covered" % (name, line))
 executed = sum(1 for count in lines.values() if count)
-print("core/: %d of %d lines run, %d of the %d that branch in every direction; %d gaps explained, %d not"
+print("core/: %d of %d lines run, %d of the %d with branches taken in every direction; %d gaps listed, %d not"
       % (executed, len(lines), fully, branching, len(gaps & listed), unexplained))
 sys.exit(1 if unexplained else 0)

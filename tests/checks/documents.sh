@@ -33,5 +33,5 @@ for source in "$work"/*.c; do
     cc -std=c11 -Wall -Wextra -Wconversion -Werror -Iinclude -I. -fsyntax-only "$source" || failed=1
     count=$((count + 1))
 done
-echo "$count pieces of C in the documents"
+echo "$count C code blocks compiled"
 exit $failed

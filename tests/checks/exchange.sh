@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs `exchange` of examples/: every message must arrive in another process, and lost or damaged ones must be reported.
+# Runs `exchange` of examples/: every message must arrive in another process, and it must report lost and damaged ones.
 #
 #   exchange.sh [EMULATOR...] PROGRAM
 set -uo pipefail

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Installs a build, moves the installation, and builds and runs programs that use only this: with CMake and pkg-config,
-# in C and C++, with their own MESH and with the stand-in. Then builds the same programs with the library's sources
-# included.
+# Installs a build, moves the installation, and builds and runs programs that use nothing else: with CMake and
+# pkg-config, in C and C++, with their own MESH and with the stand-in. Then builds the same programs together with the
+# library's sources.
 #
 #   install.sh BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
@@ -21,7 +21,7 @@ quietly() {
 
 # The given command must fail and print $1.
 fails_with() {
-    "${@:2}" >"$work/log" 2>&1 && fail "this works: ${*:2}"
+    "${@:2}" >"$work/log" 2>&1 && fail "expected to fail, but passed: ${*:2}"
     grep -q "$1" "$work/log" || { cat "$work/log"; fail "${*:2}"; }
 }
 
@@ -35,9 +35,9 @@ runs_well() {
 quietly cmake --install "$build" --prefix "$work/first/place"
 mkdir "$work/moved" && mv "$work/first/place" "$here"
 lib=$(dirname "$(find "$here" -name libifit_codec.so)")
-[ "$(readlink "$lib/libifit_codec.so")" = libifit_codec.so.1 ] || fail "libifit_codec.so does not lead to the soname"
+[ "$(readlink "$lib/libifit_codec.so")" = libifit_codec.so.1 ] || fail "libifit_codec.so is not a link to the soname"
 grep -rlF -e "$work/first" -e "$sources" -e "$build" "$here" --include='*.cmake' --include='*.pc' --include='*.h' &&
-    fail "these name the folder they were made in"
+    fail "the files listed above contain a path of the build"
 
 quietly cmake -G Ninja -S "$consumer" -B "$work/package" -DIFIT_CODEC_FROM=find_package -DCMAKE_PREFIX_PATH="$here" \
     -DCMAKE_C_STANDARD=99 -DCMAKE_CXX_STANDARD=11
@@ -60,7 +60,7 @@ fails_with 'compatible with requested version "2.0"' cmake -S "$consumer" -B "$w
 
 export PKG_CONFIG_PATH=$lib/pkgconfig
 version=$(sed -n 's/^project(IfitCodec VERSION \([0-9.]*\).*/\1/p' "$sources/CMakeLists.txt")
-[ "$(pkg-config --modversion ifit-codec)" = "$version" ] || fail "the version of ifit-codec.pc"
+[ "$(pkg-config --modversion ifit-codec)" = "$version" ] || fail "ifit-codec.pc has the wrong version"
 mkdir "$work/pkgconfig"
 read -ra compile < <(pkg-config --cflags ifit-codec)
 read -ra link < <(pkg-config --libs ifit-codec)
@@ -70,16 +70,16 @@ quietly cc -std=c99 "${compile[@]}" "$consumer/consumer.c" "$work/pkgconfig/mesh
 quietly c++ -std=c++11 "${compile[@]}" "$consumer/consumer.cpp" "$work/pkgconfig/mesh.o" "${link[@]}" \
     -Wl,-rpath,"$lib" -o "$work/pkgconfig/consumer_cpp"
 runs_well "$work/pkgconfig"
-echo "installed and moved: find_package and pkg-config, C and C++"
+echo "installed and moved: passed with find_package and pkg-config, in C and C++"
 
-# Builds with the sources, only with the module that is used. FetchContent ends in an add_subdirectory, so only one of
-# the two is built.
-for way in add_subdirectory FetchContent; do
-    quietly cmake -G Ninja -S "$consumer" -B "$work/$way" -DIFIT_CODEC_FROM=$way -DIFIT_CODEC_SOURCES="$sources" \
+# Builds with the sources and only the module that is used. FetchContent calls add_subdirectory, so building one of the
+# two is enough.
+for method in add_subdirectory FetchContent; do
+    quietly cmake -G Ninja -S "$consumer" -B "$work/$method" -DIFIT_CODEC_FROM=$method -DIFIT_CODEC_SOURCES="$sources" \
         -DCMAKE_BUILD_TYPE=None -DKESTO_MODULES=ifit_dfx
 done
 quietly cmake --build "$work/FetchContent"
 runs_well "$work/FetchContent"
 quietly cmake --install "$work/FetchContent" --prefix "$work/nothing"
-[ -z "$(find "$work/nothing" -type f 2>/dev/null)" ] || fail "a program that takes the sources along installs them"
-echo "with the sources: FetchContent, add_subdirectory"
+[ -z "$(find "$work/nothing" -type f 2>/dev/null)" ] || fail "a program that includes the sources also installs the library"
+echo "with the sources: passed with FetchContent and add_subdirectory"

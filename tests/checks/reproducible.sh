@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds the library again in a folder of another name and depth, and compares the bytes, with debugging information
-# and stripped. LIBRARY must have been built with debugging information.
+# Rebuilds the library in a folder with another name and depth, and compares the files, with debugging information and
+# stripped. LIBRARY must have been built with debugging information.
 #
 #   reproducible.sh SOURCE_FOLDER LIBRARY
 set -euo pipefail
@@ -16,4 +16,4 @@ strip -o "$work/another.so" "$place/made/libifit_codec.so"
 cmp "$2" "$place/made/libifit_codec.so"
 cmp "$work/one.so" "$work/another.so"
 size() { stat -Lc %s "$1"; }
-echo "the same $(size "$2") bytes, $(size "$work/one.so") stripped, from two folders"
+echo "identical from two folders: $(size "$2") bytes, $(size "$work/one.so") stripped"

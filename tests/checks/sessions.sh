@@ -11,14 +11,14 @@ trap 'rm -rf "$work"' EXIT
 mkdir -p "$work/build" && ln -s "$2" "$work/build/dev" && cd "$work" || exit 1
 PATH=$2/tools/kesto:$PATH
 export LC_ALL=C.UTF-8
-command="" expected="" pattern="" failed=0 left_out=0 count=0
+command="" expected="" pattern="" failed=0 skipped=0 count=0
 
-# Runs the last command that was read and compares its output.
+# Runs the last command read and compares its output.
 compare() {
     [ -n "$command" ] || return
     if [ "${command%% *}" = tshark ] && ! type tshark >/dev/null 2>&1; then
-        echo "left out: $command"
-        left_out=1
+        echo "skipped: $command"
+        skipped=1
         return
     fi
     eval "$command" >"$work/output" 2>&1 </dev/null
@@ -32,7 +32,7 @@ compare() {
     failed=1
 }
 
-take_output() {
+expect_output() {
     expected+=$1$'\n'
     case $1 in
     ...) pattern+="*" ;;
@@ -47,10 +47,10 @@ while IFS= read -r line; do
         command=${line#    \$ } expected="" pattern=""
         while [ "${command: -1}" = "\\" ] && IFS= read -r line; do command=${command%\\}$line; done
         ;;
-    "    "*) take_output "${line#    }" ;;
+    "    "*) expect_output "${line#    }" ;;
     esac
 done <"$document"
 compare
-echo "$count commands of $(basename "$document")"
+echo "$count commands run from $(basename "$document")"
 [ $failed -eq 0 ] && [ $count -gt 0 ] || exit 1
-[ $left_out -eq 0 ] || exit 77
+[ $skipped -eq 0 ] || exit 77

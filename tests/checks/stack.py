@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""The stack that each operation takes at most within the library, from the call graphs that the compiler leaves.
+"""Computes the maximum stack usage of each operation within the library from the compiler's call graphs.
 
     stack.py COLUMN BUILD_FOLDER
 
-Fails where that is more than docs/integrating.md says in this column of its table. BUILD_FOLDER is compiled with
-KESTO_CALL_GRAPHS. MESH, services and libc count nothing.
+Fails if one exceeds the value in this column of the table in docs/integrating.md. BUILD_FOLDER must be compiled with
+KESTO_CALL_GRAPHS. The stack used by MESH, services and libc is not counted.
 """
 import functools
 import pathlib
@@ -21,7 +21,7 @@ ANY = "__indirect_call"
 
 
 def nesting():
-    """Messages on the longest way from one to those within."""
+    """Returns the length of the longest chain of nested messages."""
     depth = {}
     for line in open("tests/data/messages.txt"):
         if " : " in line and not line.startswith("#"):
@@ -30,7 +30,7 @@ def nesting():
     return max(depth.values())
 
 
-# True for a call through a pointer to a service of the process.
+# True for a call through a pointer to one of the process's services.
 def leaves_the_library(file, line):
     return file.endswith("core/unit.cpp") or SERVICE.search(pathlib.Path(file).read_text().splitlines()[int(line) - 1])
 
@@ -44,7 +44,7 @@ for graph in graphs:
     for line in graph.with_suffix(graph.suffix + ".ci").read_text().splitlines():
         if node := NODE.match(line):
             if node[3] == "dynamic":
-                sys.exit(f"{node[1]}: a frame without a bound")
+                sys.exit(f"{node[1]}: a frame of unbounded size")
             frames[node[1]] = int(node[2])
             half[node[1]] = "send" in graph.name
         if (edge := EDGE.match(line)) and not (edge[2] == ANY and leaves_the_library(edge[3], edge[4])):
@@ -60,7 +60,7 @@ def template(name):
     return name.split(":")[-1].split("I")[0]
 
 
-# A function that is never called by name is called through a pointer; so may be all instances of the same template.
+# A function without direct calls must be called through a pointer. All instances of its template then count as such.
 named = set().union(*calls.values())
 pointed = {template(f) for f in frames if f not in named and not operation(f)} | {"_ZN5kesto11send_single"}
 targets = {side: [f for f in frames if template(f) in pointed and half[f] == side] for side in (False, True)}
@@ -85,7 +85,7 @@ table = [[cell.strip() for cell in line.split("|")[1:-1]] for line in open("docs
 place = next((row.index(column, 1) for row in table if column in row[1:]), None)
 stated = {name: int(row[place].replace(",", "")) for row in table for name in re.findall(OPERATION, row[0])
           if place is not None and len(row) > place and re.fullmatch(r"[\d,]+", row[place])}
-wrong = [f"{column}, {name}: {found[name]} bytes, stated {stated.get(name)}" for name in sorted(found)
+wrong = [f"{column}, {name}: {found[name]} bytes, documented as {stated.get(name)}" for name in sorted(found)
          if found[name] > stated.get(name, 0)]
-print("\n".join(wrong) or f"{column}, bytes at most: {found}")
+print("\n".join(wrong) or f"{column}, maximum bytes: {found}")
 sys.exit(bool(wrong) or len(found) < 9)

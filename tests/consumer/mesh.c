@@ -1,22 +1,22 @@
-/* A process's own MESH: what is sent on any channel is decoded here and now, and shown by `on_message`. */
+/* A process's own MESH: decodes messages sent on any channel immediately and passes them to `on_message`. */
 #include <stdlib.h>
 
 #include "platform/mesh.h"
 
 void on_message(uint32_t id, uint32_t length, const void* record);
 
-enum { ROOM = 256 };
+enum { MAX_HOOKS = 256 };
 
 static struct {
     uint32_t id;
     MeshUnpack unpack;
     MeshFree free_record;
-} hooks[ROOM];
+} hooks[MAX_HOOKS];
 static uint32_t hook_count;
 
 int MESH_RegIDLFuncHook(uint32_t id, MeshUnpack unpack, MeshFree free_record)
 {
-    if (hook_count == ROOM)
+    if (hook_count == MAX_HOOKS)
         return 1;
     hooks[hook_count].id = id;
     hooks[hook_count].unpack = unpack;
@@ -34,7 +34,7 @@ static int deliver(const MeshSendItem* item)
 {
     for (uint32_t i = 0; i < hook_count; ++i)
         if (hooks[i].id == item->id) {
-            void* record = calloc(1, hooks[i].unpack(NULL, 0, NULL)); /* a refused call tells the size */
+            void* record = calloc(1, hooks[i].unpack(NULL, 0, NULL)); /* a refused call returns the size */
             if (record == NULL)
                 return 1;
             hooks[i].unpack(item->data, item->length, record);

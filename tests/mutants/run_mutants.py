@@ -1,19 +1,20 @@
 #!/usr/bin/env python3
-"""Changes one thing in core/ at a time and looks whether the tests notice.
+"""Mutation tests of core/: changes one thing at a time and checks whether the tests detect it.
 
     run_mutants.py --tests BUILD [--i686] [--count N | --mutants FILE] [--share K/N] [--only FILE] [--list FILE]
 
-BUILD is a build folder that holds the test programs; they are run against a library built from a changed copy of the
-sources. A mutant that they all miss is run through a part of the small faults and, in the reader, the proof. A mutant is
-one changed comparison, connective, sign, constant or dropped statement. The sample is the same every time. Mutants that
-no test can notice are listed in equivalent.txt beside this script, each with its reason. Ends with 0 when at least 95 %
-of the others were noticed, and none of those.
+BUILD is a build folder with the test programs, which run against a library built from a changed copy of the sources. A
+mutant is one changed comparison, connective, sign or constant, or one dropped statement; the sample is the same in every
+run. A mutant that survives the tests is also run through some of the exhaustive tests and, in the reader, the proof.
+Mutants that no test can detect are listed in equivalent.txt in this folder, each with its reason. The exit status is 0
+if at least 95 % of the others were noticed, and none of the listed ones.
 
-With --list every mutant meets every program, and FILE gets a line for each: the programs that noticed it, and the mutant.
-PROGRAM(time) did by its time limit. With --mutants, the mutants are those that a program noticed according to FILE, such
-a list; each meets those programs first, and the others until one notices it. Ends with 0 when all were noticed again, and
-lists the others: so two states of the tests are compared. A mutant listed without its line means each line that fits.
-With --i686, BUILD is a build for it, and the mutants are those of lines that only hosts with narrow registers run.
+With --list, every mutant runs against every program, and FILE gets a line with the programs that noticed it and the
+mutant; PROGRAM(time) means that the program exceeded its time limit. With --mutants, the mutants are those in FILE, such
+a list; each runs against the programs listed for it and then against the others, until one notices it. The exit status is
+0 if all were noticed again, and the lost ones are printed; this compares two states of the tests. An entry without line
+number stands for every matching line. With --i686, BUILD must be an i686 build, and the mutants are those of lines that
+run only on hosts with narrow registers.
 """
 import argparse
 import concurrent.futures
@@ -39,13 +40,13 @@ import exceptions   # noqa: E402, the module in the parent folder
 FILES = ["wire.h", "lanes.h", "copy.h", "layout.h", "image.h", "image_forms.h", "decode.h", "decode.cpp", "decode_fast.h",
          "measure.h", "pack.h", "send.h", "send.cpp", "unit.h", "unit.cpp", "registration.cpp", "receive_unit.h", "send_unit.h"]
 TESTS = ["codec_test", "services_test", "large_test", "first_use_test", "unwinding_test"]
-LAST = ["exhaustive_test", "proof_test"]   # only if the others noticed nothing
+LAST = ["exhaustive_test", "proof_test"]   # run only if the others noticed nothing
 
-# A wrong constant can make the compiler use all memory, and the core dump of a crashing test may be as large as all the
-# memory that it maps. CPU seconds do not depend on the machine's load.
-OF_COMPILER = {resource.RLIMIT_AS: 2 << 30}
-OF_TEST = {resource.RLIMIT_CORE: 0, resource.RLIMIT_CPU: 60}
-MOST_SECONDS = 600   # wall-clock limit of any process, in case it waits for something
+# A wrong constant can make the compiler use all memory, and a crashing test can dump all the memory that it maps. CPU
+# seconds do not depend on the load of the machine.
+COMPILER_LIMITS = {resource.RLIMIT_AS: 2 << 30}
+TEST_LIMITS = {resource.RLIMIT_CORE: 0, resource.RLIMIT_CPU: 60}
+MAX_SECONDS = 600   # wall-clock limit of any process, in case it hangs
 
 # Patterns searched in a line without its comment, and their replacements.
 CHANGES = [
@@ -58,13 +59,15 @@ CHANGES = [
     (r"^(\s+)(?!return|using|const |constexpr|static|if|for|else|case)[a-z_:]+[^=;{}]*\(.*\);$", r"\1;"),
 ]
 # Lines without run-time behaviour.
-LEFT_OUT = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
+EXCLUDED = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
 
 
 def runs_here(lines):
-    """(number, line, narrow) of those that are not for hosts of the other byte order alone, which no test here runs. What
-    only hosts with narrow registers run is narrow."""
-    choice = other = None   # indents: of the host-dependent branch, and of its side that is not taken here
+    """Yields (number, line, narrow) of all lines except those for big-endian hosts only, which no test runs here.
+
+    `narrow` is true for lines that run only on hosts with narrow registers.
+    """
+    choice = other = None   # indentation of the host-dependent branch, and of the side that is not taken here
     narrow = False          # whether that side is for narrow registers
     for number, line in enumerate(lines):
         indent = len(line) - len(line.lstrip())
@@ -82,7 +85,7 @@ def runs_here(lines):
 
 
 def mutants_of(path, narrow=False):
-    """All (line number, old, new) of one file; of narrow lines, or of all others."""
+    """Returns (line number, old, new) for each mutant of a file: of its narrow lines, or of all others."""
     found = []
     with open(path) as file:
         lines = file.read().split("\n")
@@ -90,19 +93,19 @@ def mutants_of(path, narrow=False):
         if is_narrow != narrow:
             continue
         code = line.split("//")[0].rstrip()
-        if not code or LEFT_OUT.search(code):
+        if not code or EXCLUDED.search(code):
             continue
         for pattern, replacement in CHANGES:
             for match in re.finditer(pattern, code):
                 if '"' in code[:match.start()] or re.search(r"<[a-z_:0-9 ]*$", code[:match.start()]):
-                    continue   # in a string, or more likely a template argument than a comparison
+                    continue   # in a string, or probably a template argument list
                 changed = code[:match.start()] + match.expand(replacement) + code[match.end():]
                 found.append((number, code, changed + line[len(code):]))
     return found
 
 
 def sample(count, only, narrow):
-    """As many from each file as its share of all mutants, but at least four."""
+    """Samples each file in proportion to its number of mutants, but takes at least four."""
     by_file = {name: mutants_of(os.path.join(ROOT, "core", name), narrow) for name in FILES if only in (None, name)}
     total = sum(len(mutants) for mutants in by_file.values())
     chosen = []
@@ -113,7 +116,7 @@ def sample(count, only, narrow):
 
 
 def listed(path, narrow):
-    """{(file, line number, old, new): the programs that noticed it}, of a list that --list made."""
+    """Reads a list made by --list. Returns {(file, line number, old, new): programs that noticed it}."""
     found = {}
     with open(path) as file:
         entries = re.findall(r"^(?!#|survived|equivalent)(.*)\t(\S+?):(\d*):? (.*)  ->  (.*)$", file.read(), re.MULTILINE)
@@ -128,7 +131,7 @@ def listed(path, narrow):
 
 
 def equivalents():
-    """(file, line number, new) of the mutants that no test can notice."""
+    """Returns (file, line number, new) of the mutants that no test can detect."""
     path = os.path.join(HERE, "equivalent.txt")
     known = set(exceptions.read(path, 1))
     for name, line, new in known:
@@ -139,14 +142,14 @@ def equivalents():
 
 
 def run(command, limits={}, **kwargs):
-    """'passed', 'failed' or 'time'. Nothing that it started goes on after a time-out."""
+    """Returns 'passed', 'failed' or 'time'. A timeout kills the whole process group."""
     def limit():
-        for what, most in limits.items():
-            resource.setrlimit(what, (most, resource.getrlimit(what)[1]))
+        for kind, value in limits.items():
+            resource.setrlimit(kind, (value, resource.getrlimit(kind)[1]))
     with subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, start_new_session=True,
                           preexec_fn=limit, **kwargs) as process:
         with contextlib.suppress(subprocess.TimeoutExpired):
-            process.wait(timeout=MOST_SECONDS)
+            process.wait(timeout=MAX_SECONDS)
         if process.returncode in (None, -signal.SIGXCPU):
             with contextlib.suppress(ProcessLookupError):
                 os.killpg(process.pid, signal.SIGKILL)
@@ -158,7 +161,7 @@ class Tree:
     """A copy of the sources and a build of its library."""
 
     def __init__(self, folder, tests, toolchain, thorough):
-        self.thorough = thorough   # runs every program, whatever the others report
+        self.thorough = thorough   # run every program even if one has noticed the mutant
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
         self.tests = tests
@@ -172,12 +175,12 @@ class Tree:
             sys.exit("configure failed")
 
     def run_test(self, test):
-        # The tests find the library by the path that they were linked with, unless this path comes first.
-        return run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST, cwd=self.root,
+        # LD_LIBRARY_PATH takes precedence over the path that the tests were linked with.
+        return run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], TEST_LIMITS, cwd=self.root,
                    env=dict(os.environ, LD_LIBRARY_PATH=self.build, KESTO_SHARE="1/25"))
 
     def run_proof(self):
-        """Builds the proof from this reader, as the build folder's own commands do, and runs it."""
+        """Builds the proof with this tree's reader and the flags of the build folder, and runs it."""
         with open(os.path.join(self.tests, "compile_commands.json")) as file:
             commands = [shlex.split(each["command"]) + [each["file"]] for each in json.load(file)
                         if "proof_test.dir" in each["command"]]
@@ -194,14 +197,14 @@ class Tree:
         program = os.path.join(self.build, "proof_test")
         if run(["c++", *objects, "-lgtest_main", "-lgtest", "-lz3", "-pthread", "-o", program]) != "passed":
             return "failed"
-        return run([program, "--gtest_brief=1", "--gtest_fail_fast"], OF_TEST)
+        return run([program, "--gtest_brief=1", "--gtest_fail_fast"], TEST_LIMITS)
 
     def verdict(self, name, first=()):
-        """('not built', 'noticed' or 'survived', and by what), where some programs come first."""
-        if run(["ninja", "-j1", "-C", self.build, "ifit_codec"], OF_COMPILER) != "passed":
+        """Returns 'not built', 'noticed' or 'survived', and the programs that noticed. Runs the programs in `first` first."""
+        if run(["ninja", "-j1", "-C", self.build, "ifit_codec"], COMPILER_LIMITS) != "passed":
             return "not built", ["compiler"]
         by = []
-        for test in sorted(TESTS + LAST, key=lambda test: test not in first):   # the others in their order
+        for test in sorted(TESTS + LAST, key=lambda test: test not in first):   # stable: the others keep their order
             if by and (test in LAST or not self.thorough) or test == "proof_test" and name not in ("wire.h", "lanes.h"):
                 continue
             result = self.run_proof() if test == "proof_test" else self.run_test(test)
@@ -229,10 +232,10 @@ def main():
     arguments = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     arguments.add_argument("--tests", required=True)
     arguments.add_argument("--count", type=int, default=110)
-    arguments.add_argument("--share", default="1/1", help="every N-th mutant, from the K-th on")
-    arguments.add_argument("--only", help="one file of core/")
+    arguments.add_argument("--share", default="1/1", help="every N-th mutant, starting with the K-th")
+    arguments.add_argument("--only", help="limit to one file of core/")
     arguments.add_argument("--i686", action="store_true")
-    arguments.add_argument("--mutants", metavar="FILE", help="a list that --list made")
+    arguments.add_argument("--mutants", metavar="FILE", help="a list made by --list")
     arguments.add_argument("--list", metavar="FILE")
     options = arguments.parse_args()
 
@@ -249,10 +252,10 @@ def main():
                       options.list and not options.mutants) for job in range(jobs)]
         result, by = trees[0].verdict("wire.h")
         if result != "survived":
-            sys.exit("without a mutant: %s by %s" % (result, by))
+            sys.exit("the unchanged sources: %s by %s" % (result, by))
 
         def judge(mutant):
-            tree = trees.pop()   # there are as many as jobs
+            tree = trees.pop()   # there is one per job
             try:
                 return mutant, tree.verdict_with(mutant, before.get(mutant, ()))
             finally:

@@ -30,7 +30,7 @@ void opened_view(SymbolicWorld& world, Role role, const View& view)
     world.state(role, view.vtable_length <= 0xffff, "a vtable length has 16 bits");
     world.state(role, wide(view.vtable) + wide(view.vtable_length) <= length, "the vtable lies inside");
     world.state(role, wide(view.table) + wide(view.bytes_after_table) == length,
-                "the room is all from the table's start on");
+                "the view counts the bytes after the table");
 }
 
 View any_opened_view(SymbolicWorld& world)
@@ -70,10 +70,11 @@ void fitting_payload(SymbolicWorld& world, Role role, const Word& payload, const
     world.state(role, wide(payload) + wide(count) * width <= wide(world.input().length), "the payload lies inside");
 }
 
-// For an image whose own bytes lie inside: `room` is the number of bytes left for its bodies.
-void bytes_are_left(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& room)
+// For an image whose own bytes lie inside: `remaining` is the number of bytes left for its bodies.
+void bytes_remain(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& remaining)
 {
-    world.state(role, wide(at) + wide(n) + wide(room) <= wide(world.input().length), "all that is left lies inside");
+    world.state(role, wide(at) + wide(n) + wide(remaining) <= wide(world.input().length),
+                "the remaining bytes lie inside");
 }
 
 Truth cell_lies_inside(SymbolicWorld& world, const View& view, const Word& offset)
@@ -148,7 +149,7 @@ int slots_are_held(SymbolicWorld& world)
                   "slots are held if and only if the vtable is long enough");
     if (held) {
         const Word k = world.any();
-        world.rely(k < slots, "one of them");
+        world.rely(k < slots, "k is one of them");
         slot_value(world, Role::promised, slot_unchecked(world.input(), view, k));
     }
     return held;
@@ -163,7 +164,7 @@ int slot_has_an_offset(SymbolicWorld& world)
     slot_value(world, Role::promised, offset);
     if (wide(view.vtable_length) > wide(k) * 2 + 5) {
         world.promise(offset == in.content<u16>(wide(view.vtable) + wide(k) * 2 + 4),
-                      "a slot inside the vtable is as it was written");
+                      "a slot inside the vtable has the value written there");
         return 1;
     }
     world.promise(offset == 0, "a slot after the vtable is absent");
@@ -175,7 +176,7 @@ int bytes_are_held(SymbolicWorld& world)
     const SymbolicInput in = world.input();
     const Word n = world.any();
     const bool held = holds_bytes(in, n);
-    world.promise(held == (n <= in.length), "so many bytes are there or not");
+    world.promise(held == (n <= in.length), "accepted if and only if the input has n bytes");
     return held;
 }
 
@@ -190,31 +191,31 @@ int image_lies_inside(SymbolicWorld& world)
     const bool accepted = image_fits(in, table, before, n, at);
     const Truth fits =
         (wide(table) >= wide(before) + root_bytes) & (wide(table) + wide(n) <= wide(in.length) + wide(before));
-    world.promise(accepted == fits, "an image is looked at if and only if it lies inside");
+    world.promise(accepted == fits, "an image is accepted if and only if it lies inside");
     if (!accepted) {
         world.promise(at == at_before, "a refusal writes nothing");
         return 0;
     }
-    world.promise(wide(at) + wide(before) == wide(table), "the table is where it was said to be");
+    world.promise(wide(at) + wide(before) == wide(table), "the table has its position within the image");
     in.touch(wide(at), wide(n));
     return 1;
 }
 
-int body_is_taken(SymbolicWorld& world)
+int body_is_consumed(SymbolicWorld& world)
 {
     const SymbolicInput in = world.input();
-    const Word at = world.any(), n = world.any(), position = world.any(), room_before = world.any();
-    bytes_are_left(world, Role::relied_on, at, n, room_before);
+    const Word at = world.any(), n = world.any(), position = world.any(), remaining_before = world.any();
+    bytes_remain(world, Role::relied_on, at, n, remaining_before);
     world.rely(wide(position) + count_bytes <= wide(n), "the count is in the image");
-    Word room = room_before, length = world.any();
-    const bool accepted = consume_body(in, at + position, room, length);
+    Word remaining = remaining_before, length = world.any();
+    const bool accepted = consume_body(in, at + position, remaining, length);
     const Word count = in.content<u32>(wide(at) + wide(position));
-    world.promise(accepted == (count <= room_before), "a body is taken if and only if there is room for it");
+    world.promise(accepted == (count <= remaining_before), "a body is consumed if and only if it fits");
     if (!accepted)
         return 0;
-    world.promise(length == count, "it is as long as its count says");
+    world.promise(length == count, "its length is its count");
     in.touch(wide(at) + wide(position) + count_bytes, wide(length));
-    bytes_are_left(world, Role::promised, at + length, n, room);
+    bytes_remain(world, Role::promised, at + length, n, remaining);
     return 1;
 }
 
@@ -246,7 +247,7 @@ int body_is_opened(SymbolicWorld& world)
         return 0;
     }
     world.promise(wide(payload) == body + count_bytes, "the payload is after the count");
-    world.promise(count == in.content<u32>(body), "the count is as it was written");
+    world.promise(count == in.content<u32>(body), "the count is the one written there");
     opened_body(world, Role::promised, payload);
     return 1;
 }
@@ -263,7 +264,7 @@ int payload_lies_inside(SymbolicWorld& world)
     if (!accepted)
         return 0;
     fitting_payload(world, Role::promised, payload, count, width);
-    world.promise(wide(count) * width < 0xffffffff, "a NUL more does not wrap");
+    world.promise(wide(count) * width < 0xffffffff, "adding a NUL does not wrap");
     return 1;
 }
 
@@ -323,7 +324,7 @@ int element_table_is_found(SymbolicWorld& world)
 struct Contract {
     const char* name;
     int (*program)(SymbolicWorld&);
-    std::size_t outcomes;   // number of possible outcomes; with fewer the proof has lost a part of its subject
+    std::size_t outcomes;   // number of possible outcomes; with fewer, part of the proof is vacuous
 };
 
 const Contract contracts[] = {
@@ -334,7 +335,7 @@ const Contract contracts[] = {
     {"slot_offset", slot_has_an_offset, 2},
     {"holds_bytes", bytes_are_held, 2},
     {"image_fits", image_lies_inside, 2},
-    {"consume_body", body_is_taken, 2},
+    {"consume_body", body_is_consumed, 2},
     {"read_scalar<u8>", scalar_is_read<u8>, 2},
     {"read_scalar<u16>", scalar_is_read<u16>, 2},
     {"read_scalar<u32>", scalar_is_read<u32>, 2},
@@ -348,7 +349,7 @@ const Contract contracts[] = {
     {"element_table", element_table_is_found, 2},
 };
 
-TEST(Reader, keeps_its_contracts_for_every_length_and_every_byte_string)
+TEST(Reader, contracts_hold_for_every_length_and_content)
 {
     for (const Contract& contract : contracts) {
         const Verdict verdict = SymbolicWorld(least_length).explore(contract.program);
@@ -358,7 +359,7 @@ TEST(Reader, keeps_its_contracts_for_every_length_and_every_byte_string)
 }
 
 // Also tests that a proof can fail.
-TEST(Reader, relies_on_the_least_length)
+TEST(Reader, contracts_need_the_minimum_length)
 {
     EXPECT_NE(SymbolicWorld(least_length - 1).explore(root_is_the_first_word).counterexample, "");
 }
@@ -367,34 +368,36 @@ TEST(Reader, relies_on_the_least_length)
 
 // The largest value that a lane of a word can handle, and that of a wide lane. The names in wire.h are not used here,
 // as they are under test.
-constexpr unsigned word_room = 0x7FFF, wide_room = 0xFFFE;
+constexpr unsigned word_limit = 0x7FFF, wide_limit = 0xFFFE;
 
-// No lane is reported as beyond if and only if every field is inside.
-bool lanes_are_proved(unsigned bits, unsigned greatest_room)
+// True if proved: no lane is reported as beyond the end if and only if every field is inside.
+bool lanes_are_proved(unsigned bits, unsigned max_available)
 {
     constexpr unsigned widest = 8;
     z3::context& context = solver_context();
     z3::solver solver(context);
     const z3::expr offsets = context.bv_const("offsets", bits), widths = context.bv_const("widths", bits),
-                   rooms = context.bv_const("rooms", bits), beyond = lanes_beyond<z3::expr>(rooms, widths, offsets);
-    z3::expr said = context.bool_val(true), true_of_all = said;
+                   available_bytes = context.bv_const("available_bytes", bits),
+                   beyond = lanes_beyond<z3::expr>(available_bytes, widths, offsets);
+    z3::expr accepted = context.bool_val(true), all_fit = accepted;
     for (unsigned i = 0; i < bits / 16; ++i) {
         const auto lane = [&](const z3::expr& word) { return z3::zext(word.extract(16 * i + 15, 16 * i), 16); };
         const auto number = [&](unsigned value) { return context.bv_val(value, 32); };
         solver.add(z3::ule(lane(widths), number(widest)));
-        solver.add(z3::uge(lane(rooms), lane(widths)) && z3::ule(lane(rooms), number(greatest_room)));
-        said = said && z3::ule(lane(beyond), number(word_room));
-        true_of_all = true_of_all && z3::ule(lane(offsets) + lane(widths), lane(rooms));
+        solver.add(z3::uge(lane(available_bytes), lane(widths)) &&
+                   z3::ule(lane(available_bytes), number(max_available)));
+        accepted = accepted && z3::ule(lane(beyond), number(word_limit));
+        all_fit = all_fit && z3::ule(lane(offsets) + lane(widths), lane(available_bytes));
     }
-    solver.add(said != true_of_all);
+    solver.add(accepted != all_fit);
     return solver.check() == z3::unsat;
 }
 
 TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
 {
     for (const unsigned bits : {32U, 64U}) {
-        EXPECT_TRUE(lanes_are_proved(bits, word_room));
-        EXPECT_FALSE(lanes_are_proved(bits, word_room + 1));
+        EXPECT_TRUE(lanes_are_proved(bits, word_limit));
+        EXPECT_FALSE(lanes_are_proved(bits, word_limit + 1));
     }
 }
 
@@ -402,31 +405,31 @@ TEST(Lanes, pass_if_and_only_if_every_field_is_inside)
 template <std::size_t N>
 void expect_every_slot_to_be_bounded()
 {
-    constexpr u32 greatest_room = N < 4 ? 0xFFFFFFFF : N < 8 ? word_room : wide_room;
+    constexpr u32 max_available = N < 4 ? 0xFFFFFFFF : N < 8 ? word_limit : wide_limit;
     std::array<u8, 4 + 2 * N> bytes{};
     const Input in{bytes.data(), static_cast<u32>(bytes.size())};
-    const auto expect_bound = [&](u32 k, u32 width, u32 room, u32 offset) {
+    const auto expect_bound = [&](u32 k, u32 width, u32 available, u32 offset) {
         Widths<N> widths{{}, static_cast<u8>(width)};
         widths.of[k] = static_cast<u8>(width);
         store(bytes.data() + 4 + 2 * k, static_cast<u16>(offset));
         const bool matters = N >= 4 || width != 0;   // in lanes all offsets are tested
-        const bool fits = room >= width && (!matters || offset + width <= std::min(room, greatest_room));
-        const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), room};
+        const bool fits = available >= width && (!matters || offset + width <= std::min(available, max_available));
+        const TableView<Input> view{0, 0, static_cast<u32>(bytes.size()), available};
         ASSERT_EQ(scalars_fit(in, view, widths), fits)
-            << N << " slots, " << k << " of " << width << " bytes at " << offset << ", room " << room;
+            << N << " slots, " << k << " of " << width << " bytes at " << offset << ", available " << available;
     };
     for (u32 k = 0; k < N; ++k) {
         for (const u32 width : {0U, 1U, 2U, 4U, 8U})
-            for (const u32 room : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8007U, 0xFFFDU, 0xFFFEU, 0xFFFFU,
-                                   0x10000U, 0x10006U, 0x10007U})
-                for (const u32 edge : {9U, room, 0x8000U, 0xFFFFU})
+            for (const u32 available : {4U, 5U, 8U, 9U, 0x7FFEU, 0x7FFFU, 0x8000U, 0x8007U, 0xFFFDU, 0xFFFEU, 0xFFFFU,
+                                        0x10000U, 0x10006U, 0x10007U})
+                for (const u32 edge : {9U, available, 0x8000U, 0xFFFFU})
                     for (u32 offset = edge - std::min(edge, 9U); offset <= std::min(edge + 9, 0xFFFFU); ++offset)
-                        expect_bound(k, width, room, offset);
+                        expect_bound(k, width, available, offset);
         store(bytes.data() + 4 + 2 * k, u16{0});
     }
 }
 
-TEST(Lanes, bound_every_slot)
+TEST(Lanes, check_the_bounds_of_every_slot)
 {
     [&]<std::size_t... N>(std::index_sequence<N...>) { (expect_every_slot_to_be_bounded<N + 1>(), ...); }
     (std::make_index_sequence<13>());

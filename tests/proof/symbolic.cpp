@@ -6,10 +6,10 @@ namespace kesto::proof {
 
 namespace {
 
-SymbolicWorld* under_way = nullptr;
+SymbolicWorld* current_world = nullptr;
 
 // Limit per query, in steps, not time. A query that needs more is beyond the simple arithmetic that the reader uses.
-constexpr unsigned most_solver_steps = 200'000'000;
+constexpr unsigned max_solver_steps = 200'000'000;
 
 z3::expr within(const z3::expr& value, u64 range)
 {
@@ -24,11 +24,11 @@ z3::context& solver_context()
     return context;
 }
 
-Truth::operator bool() const { return under_way->decide(expression); }
+Truth::operator bool() const { return current_world->decide(expression); }
 
 void SymbolicInput::touch(const Exact& at, const Exact& bytes) const
 {
-    world->promise(at + bytes <= wide(length), "a read outside");
+    world->promise(at + bytes <= wide(length), "a read out of bounds");
 }
 
 Word SymbolicInput::content(const Exact& at, unsigned bytes) const
@@ -44,12 +44,12 @@ SymbolicWorld::SymbolicWorld(u32 least_length)
     : least_length_(least_length), length_(solver_context().int_const("length")), path_(solver_context(), "QF_UFLIA")
 {
     z3::params limits(solver_context());
-    limits.set("rlimit", most_solver_steps);
+    limits.set("rlimit", max_solver_steps);
     path_.set(limits);
-    under_way = this;
+    current_world = this;
 }
 
-SymbolicWorld::~SymbolicWorld() { under_way = nullptr; }
+SymbolicWorld::~SymbolicWorld() { current_world = nullptr; }
 
 Verdict SymbolicWorld::explore(int (*program)(SymbolicWorld&))
 {

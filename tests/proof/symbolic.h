@@ -38,23 +38,23 @@ struct Number {
     z3::expr expression;
 
     explicit Number(const z3::expr& e) : expression(e) {}
-    Number(u64 value = 0) : expression(whole(value)) {}
+    Number(u64 value = 0) : expression(integer(value)) {}
 
     friend Number operator+(const Number& a, const Number& b)
     {
         const z3::expr sum = a.expression + b.expression;
-        return Number(!wraps || Truth(sum < whole(word_range)) ? sum : sum - whole(word_range));
+        return Number(!wraps || Truth(sum < integer(word_range)) ? sum : sum - integer(word_range));
     }
     friend Number operator-(const Number& a, const Number& b)
     {
         static_assert(wraps);
         const z3::expr difference = a.expression - b.expression;
-        return Number(Truth(difference >= 0) ? difference : difference + whole(word_range));
+        return Number(Truth(difference >= 0) ? difference : difference + integer(word_range));
     }
     friend Number operator*(const Number& a, const Number& b)
     {
         const z3::expr product = a.expression * b.expression;
-        return Number(!wraps || Truth(product < whole(word_range)) ? product : z3::mod(product, whole(word_range)));
+        return Number(!wraps || Truth(product < integer(word_range)) ? product : z3::mod(product, integer(word_range)));
     }
     friend Number operator/(const Number& a, const Number& b) { return Number(a.expression / b.expression); }
     friend Truth operator==(const Number& a, const Number& b) { return Truth(a.expression == b.expression); }
@@ -65,7 +65,7 @@ struct Number {
     friend Truth operator>=(const Number& a, const Number& b) { return Truth(a.expression >= b.expression); }
 
 private:
-    static z3::expr whole(u64 value) { return solver_context().int_val(std::uint64_t{value}); }
+    static z3::expr integer(u64 value) { return solver_context().int_val(std::uint64_t{value}); }
 };
 
 using Word = Number<true>;
@@ -75,7 +75,7 @@ inline Exact wide(const Word& value) { return Exact(value.expression); }
 
 class SymbolicWorld;
 
-// Replaces Input in the templates of core/wire.h: any bytes, any length. A read outside ends the proof.
+// Replaces Input in the templates of core/wire.h: any bytes, any length. A read out of bounds ends the proof.
 struct SymbolicInput {
     using Word = proof::Word;
 

@@ -78,20 +78,20 @@ std::string fault_of_encoders(const Operations& library, const model::Record& re
     // Packs into a buffer of exactly the size, and into a larger one, where the packer need not measure first. Bytes
     // that the size counts but the packer does not write stay untouched, and so do the bytes after them.
     static const GuardedBuffer buffer(1 << 20);
-    for (const std::uint32_t room : {size, static_cast<std::uint32_t>(buffer.most())}) {
-        std::uint8_t* const packed = buffer.place(room);
-        expected.resize(std::min(room, size + 64), untouched);
+    for (const std::uint32_t capacity : {size, static_cast<std::uint32_t>(buffer.capacity())}) {
+        std::uint8_t* const packed = buffer.place(capacity);
+        expected.resize(std::min(capacity, size + 64), untouched);
         std::memset(packed, untouched, expected.size());
-        std::uint32_t length = room;
+        std::uint32_t length = capacity;
         if (library.pack(memory.data(), packed, &length) != 0 || length != size)
             return "packed " + std::to_string(length) + " bytes, expected " + std::to_string(size);
         const std::string fault = first_difference({packed, packed + expected.size()}, expected);
         if (!fault.empty())
-            return "packed into " + std::to_string(room) + " bytes: " + fault;
+            return "packed into " + std::to_string(capacity) + " bytes: " + fault;
     }
     std::uint32_t length = size - 1;
     if (library.pack(memory.data(), buffer.place(length), &length) != -1 || length != size - 1)
-        return "packed with a byte too few";
+        return "packed into a buffer one byte too small";
 
     // Sends: in fixed form if there is one, otherwise in compact form with zeros for those bytes.
     expected = both_forms(record).back();
@@ -100,10 +100,10 @@ std::string fault_of_encoders(const Operations& library, const model::Record& re
     mesh().reset();
     mesh().send_result = 7;
     if (library.sendsingle(3, memory.data(), 0, 0) != 7 || mesh().sends.size() != 1 || mesh().sends[0].sent.size() != 1)
-        return "not sent once";
+        return "not sent exactly once";
     const SendCall& call = mesh().sends[0];
     if (call.to_destination || call.channel != 3 || call.sent[0].id != message.id)
-        return "sent with other arguments";
+        return "sent with wrong arguments";
     const std::string fault = first_difference(call.sent[0].bytes, expected);
     return fault.empty() ? services().difference({}) : "sent: " + fault;
 }
@@ -118,10 +118,10 @@ std::vector<ByteString> both_forms(const model::Record& record)
     return forms;
 }
 
-GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
+GuardedBuffer::GuardedBuffer(std::size_t capacity) : capacity_(capacity)
 {
     constexpr std::size_t guard = 0x20000;   // whole pages, and larger than any 16-bit offset
-    mapped_ = (most + guard - 1) / guard * guard + guard;
+    mapped_ = (capacity + guard - 1) / guard * guard + guard;
     void* const memory =
         mmap(nullptr, mapped_, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
     if (memory == MAP_FAILED || mprotect(static_cast<std::uint8_t*>(memory) + mapped_ - guard, guard, PROT_NONE) != 0) {
@@ -134,7 +134,7 @@ GuardedBuffer::GuardedBuffer(std::size_t most) : most_(most)
 
 GuardedBuffer::~GuardedBuffer() { munmap(start_, mapped_); }
 
-DecodeCheck::DecodeCheck(std::size_t most_bytes) : buffer_(most_bytes), packed_(1 << 16), storage_(largest_record) {}
+DecodeCheck::DecodeCheck(std::size_t max_bytes) : buffer_(max_bytes), packed_(1 << 16), storage_(largest_record) {}
 
 std::string DecodeCheck::check(const model::Message& message, const ByteString& bytes)
 {
@@ -209,10 +209,10 @@ std::string DecodeCheck::pack_again(const Operations& library, const std::uint8_
 {
     const std::uint64_t size = model::exact_size(outcome_.record);
     if (model::reported_size(size) == 0) {   // an ignored refusal of a nested table may leave such a record
-        auto length = static_cast<std::uint32_t>(packed_.most());
-        return library.pack(record, packed_.place(length), &length) == -1 ? "" : "packed a vector without elements";
+        auto length = static_cast<std::uint32_t>(packed_.capacity());
+        return library.pack(record, packed_.place(length), &length) == -1 ? "" : "packed a vector with a null pointer";
     }
-    if (size > packed_.most())
+    if (size > packed_.capacity())
         return {};
     std::uint32_t length = static_cast<std::uint32_t>(size);
     std::uint8_t* const packed = packed_.place(length);

@@ -21,20 +21,20 @@ using ByteString = std::vector<std::uint8_t>;
 // The compact form, and the fixed form if there is one.
 std::vector<ByteString> both_forms(const model::Record& record);
 
-// A buffer that ends at an inaccessible page, so that a read after it ends the process.
+// A buffer that ends at an inaccessible page, so that a read past its end crashes.
 class GuardedBuffer {
 public:
-    explicit GuardedBuffer(std::size_t most);
+    explicit GuardedBuffer(std::size_t capacity);
     ~GuardedBuffer();
     GuardedBuffer(const GuardedBuffer&) = delete;
     GuardedBuffer& operator=(const GuardedBuffer&) = delete;
 
     // The last `size` bytes before the end.
     std::uint8_t* place(std::size_t size) const { return end_ - size; }
-    std::size_t most() const { return most_; }
+    std::size_t capacity() const { return capacity_; }
 
 private:
-    std::size_t most_;
+    std::size_t capacity_;
     std::size_t mapped_;
     std::uint8_t* start_;
     std::uint8_t* end_;
@@ -44,7 +44,7 @@ private:
 // decoder and of the subsequent free.
 class DecodeCheck {
 public:
-    explicit DecodeCheck(std::size_t most_bytes = 1 << 20);
+    explicit DecodeCheck(std::size_t max_bytes = 1 << 20);
 
     model::AllocationFaults faults;
     const model::Record* expected = nullptr;   // if set, decoding must succeed with this record

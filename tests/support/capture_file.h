@@ -44,7 +44,7 @@ inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes, std::size_t sta
 
 inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes) { return packet_of(id, bytes, bytes.size()); }
 
-// The head about the call that precedes a packet of link type USER1.
+// The call head that precedes a packet of link type USER1.
 inline Bytes call_head(std::uint32_t direction, std::uint32_t known, std::uint32_t channel, std::uint32_t destination,
                        std::uint32_t result, std::uint64_t began)
 {

@@ -83,23 +83,23 @@ bool add_message(Catalogue& catalogue, const std::vector<std::string_view>& word
     Message message;
     message.name = words[0];
     if (words.size() < 3 || !words[1].starts_with("0x") || !number_of(words[1].substr(2), 16, message.id))
-        return error = "an id is needed, such as 0x2492d87f", false;
+        return error = "expected an id such as 0x2492d87f", false;
 
     u32 stated_length = 0;
     std::size_t at = 3;
     if (words[2] == "fixed") {
         if (words.size() < 4 || !number_of(words[3], 10, stated_length))
-            return error = "a length is needed", false;
+            return error = "expected a length", false;
         at = 4;
     } else if (words[2] != "compact") {
-        return error = "the form is `fixed N` or `compact`", false;
+        return error = "expected the form, `fixed N` or `compact`", false;
     }
     if (at >= words.size() || words[at] != ":")
-        return error = "a colon is needed before the slots", false;
+        return error = "expected a colon before the slots", false;
     for (++at; at < words.size(); ++at) {
         Slot slot;
         if (!parse_slot(catalogue, words[at], slot))
-            return error = "slot " + std::string(words[at]), false;
+            return error = "unknown slot " + std::string(words[at]), false;
         message.slots.push_back(std::move(slot));
     }
     if (!catalogue.add(std::move(message), error))

@@ -23,10 +23,10 @@ struct Subject {
     void expect(const std::string& what, u64 wanted, u64 found)
     {
         if (wanted != found)
-            faults += what + ": " + std::to_string(wanted) + " expected, " + std::to_string(found) + " found\n";
+            faults += what + ": expected " + std::to_string(wanted) + ", found " + std::to_string(found) + "\n";
     }
 
-    bool holds(const std::string& what, std::size_t position, std::size_t length)
+    bool contains(const std::string& what, std::size_t position, std::size_t length)
     {
         if (position + length <= bytes.size())
             return true;
@@ -58,7 +58,7 @@ void check_number(const std::string& argument, Subject& subject)
     long long value = 0;
     if (std::sscanf(argument.c_str(), "%u/%u=%lli", &position, &width, &value) != 3)
         subject.faults += argument + ": not a number at a position\n";
-    else if (subject.holds(argument, position, width))
+    else if (subject.contains(argument, position, width))
         subject.expect(argument, static_cast<u64>(value) & ((u64{1} << (8 * width)) - 1),
                        get(&subject.bytes[position], width));
 }
@@ -83,7 +83,7 @@ void check_field(const std::string& argument, Subject& subject)
         holder = &holder->fields[k].records[0];
     const u32 position = number(rest + 1);   // after the @
     const Bytes content = content_of(holder->message->slots[k], holder->fields[k]);
-    if (subject.holds(argument, position, content.size()))
+    if (subject.contains(argument, position, content.size()))
         subject.expect(argument, 1, std::equal(content.begin(), content.end(), &subject.bytes[position]));
 }
 
@@ -100,7 +100,7 @@ void check_order(const Figure& figure, Subject& subject)
 
 // ---- lines
 
-std::string take_word(std::string_view& rest)
+std::string next_word(std::string_view& rest)
 {
     rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
     const std::string word(rest.substr(0, rest.find(' ')));
@@ -114,31 +114,31 @@ bool parse_fill(std::string_view& rest, Figure& figure, std::string& error)
         rest.remove_prefix(1);
         return parse_record(*figure.message, rest, figure.records.emplace_back(), error);
     }
-    const std::string fill = take_word(rest);
+    const std::string fill = next_word(rest);
     if (fill == "zero" || fill == "any")
         figure.records.push_back(zero_record(*figure.message));
     Random random(figure.line);
     for (int i = 0; i < 3 && (fill == "full" || fill == "any"); ++i)
         figure.records.push_back(random_record(*figure.message, Density::full, random));
-    return !figure.records.empty() || (error = "a fill is needed", false);
+    return !figure.records.empty() || (error = "expected a fill", false);
 }
 
 bool parse_figure(std::string_view rest, Figure& figure, std::string& error)
 {
-    figure.kind = take_word(rest);
-    const std::string name = take_word(rest);
+    figure.kind = next_word(rest);
+    const std::string name = next_word(rest);
     figure.message = expected_catalogue().find(name);
     if (figure.message == nullptr)
         return error = "no message " + name, false;
-    const std::string form = take_word(rest);
+    const std::string form = next_word(rest);
     if (form != "compact" && form != "fixed")
-        return error = "a form is needed", false;
+        return error = "expected a form", false;
     figure.fixed_form = form == "fixed";
     if (!parse_fill(rest, figure, error))
         return false;
-    for (std::string word = take_word(rest); !word.empty(); word = take_word(rest))
+    for (std::string word = next_word(rest); !word.empty(); word = next_word(rest))
         figure.arguments.push_back(word);
-    return !figure.arguments.empty() || (error = "arguments are needed", false);
+    return !figure.arguments.empty() || (error = "expected arguments", false);
 }
 
 }   // namespace

@@ -45,12 +45,12 @@ void* ServicesDouble::allocate(std::uint32_t size, std::uint32_t module, const c
 
 void ServicesDouble::release(void* pointer, std::uint32_t module, const char* caller)
 {
-    Happened event{
+    RecordedEvent event{
         .act = model::Act::release, .routine = caller, .fault = module == OSAL_MEMORY_MODULE ? nullptr : "module"};
     if (pointer != nullptr) {
         const auto found = std::find(blocks_.begin(), blocks_.end(), pointer);
         if (found == blocks_.end()) {
-            event.fault = "released what is not allocated";
+            event.fault = "released a block that is not allocated";
         } else {
             event.block = static_cast<std::int32_t>(found - blocks_.begin());
             *found = nullptr;
@@ -63,7 +63,7 @@ void ServicesDouble::release(void* pointer, std::uint32_t module, const char* ca
 void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint32_t code, const char* file,
                          std::uint32_t line, const char* function, const char* format, std::va_list arguments)
 {
-    Happened event{.act = model::Act::log, .routine = function, .format = format, .code = code, .line = line};
+    RecordedEvent event{.act = model::Act::log, .routine = function, .format = format, .code = code, .line = line};
     if (lines != nullptr) {
         std::va_list copy;
         va_copy(copy, arguments);
@@ -91,7 +91,7 @@ void ServicesDouble::log(const void* descriptor, std::uint32_t level, std::uint3
 
 std::string ServicesDouble::difference(std::size_t i, const model::Event& expected) const
 {
-    const Happened& event = events_[i];
+    const RecordedEvent& event = events_[i];
     if (event.fault != nullptr)
         return event.fault;
     if (event.act != expected.act)

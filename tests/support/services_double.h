@@ -33,7 +33,7 @@ public:
              const char* function, const char* format, std::va_list arguments);
 
 private:
-    struct Happened {
+    struct RecordedEvent {
         model::Act act;
         const char* routine;
         const char* format = nullptr;   // of a log
@@ -48,7 +48,7 @@ private:
 
     std::string difference(std::size_t i, const model::Event& expected) const;
 
-    std::vector<Happened> events_;
+    std::vector<RecordedEvent> events_;
     std::vector<void*> blocks_;   // by number; null when failed or released
     std::uint32_t allocations_ = 0;
 };

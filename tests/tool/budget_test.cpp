@@ -1,4 +1,4 @@
-// The memory that kesto itself uses for byte strings that request much, measured as peak bytes held.
+// The peak memory that kesto uses for byte strings that request a lot of memory.
 
 #include <gtest/gtest.h>
 #include <malloc.h>
@@ -13,7 +13,7 @@
 
 namespace {
 
-std::size_t held = 0, most_held = 0;
+std::size_t held = 0, peak = 0;
 
 }   // namespace
 
@@ -21,7 +21,7 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     void* const block = std::malloc(size);
     if (block != nullptr)
-        most_held = std::max(most_held, held += malloc_usable_size(block));
+        peak = std::max(peak, held += malloc_usable_size(block));
     return block;
 }
 void* operator new(std::size_t size)
@@ -89,14 +89,14 @@ std::size_t memory_of(Work work)
 {
     testing::internal::CaptureStdout();
     const std::size_t before = held;
-    most_held = before;
+    peak = before;
     work();
-    const std::size_t most = most_held - before;
+    const std::size_t used = peak - before;
     testing::internal::GetCapturedStdout();
-    return most;
+    return used;
 }
 
-TEST(Memory, of_a_decode_stays_below_what_is_allowed)
+TEST(Memory, decode_stays_within_its_limit)
 {
     const struct {
         const char* message;
@@ -110,26 +110,26 @@ TEST(Memory, of_a_decode_stays_below_what_is_allowed)
         {"ifit_dfx_query_glbdata_item_mesh", one_text(1)},      // six characters in JSON
         {"ifit_dfx_query_glbdata_item_mesh", one_text(0xff)},   // hex
     };
-    constexpr std::size_t beside = 64 << 10;   // tables and the like, independent of the bytes
+    constexpr std::size_t overhead = 64 << 10;   // tables and the like, independent of the bytes
     for (const auto& each : cases) {
         const model::Message& message = *find_message(each.message);
         bool refused = false, accepted = false;
-        for (std::size_t most = 1000; !accepted; most = most * 5 / 4) {
-            ASSERT_LT(most, 1000000000u);
-            const std::size_t taken = memory_of([&] {
+        for (std::size_t limit = 1000; !accepted; limit = limit * 5 / 4) {
+            ASSERT_LT(limit, 1000000000u);
+            const std::size_t used = memory_of([&] {
                 try {
-                    accepted = command::decode_bytes(message, each.bytes, {.most_memory = most}) == command::accepted;
+                    accepted = command::decode_bytes(message, each.bytes, {.most_memory = limit}) == command::accepted;
                 } catch (const command::Fault& fault) {
                     refused = true;
                 }
             });
-            ASSERT_LE(taken, most + beside) << each.message << ", " << each.bytes.size() << " bytes";
+            ASSERT_LE(used, limit + overhead) << each.message << ", " << each.bytes.size() << " bytes";
         }
         EXPECT_TRUE(refused) << each.message;
     }
 }
 
-TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
+TEST(Memory, explanation_is_bounded_for_hostile_packets)
 {
     const model::Message& message = *find_message("ifit_flow_base_mesh_update");
     command::ExplainChoices as_json;
@@ -143,7 +143,7 @@ TEST(Memory, of_an_explanation_is_bounded_whatever_the_packet_asks_for)
 }
 
 // Bytes produced by a message's own writer are never read twice.
-TEST(Tries, end_where_bytes_are_read_again)
+TEST(Tries, stop_when_bytes_are_read_again)
 {
     const Bytes bytes = many_elements(0);
     const command::Fitting fitting = command::fitting_messages(bytes, bytes.size());

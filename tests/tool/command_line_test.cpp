@@ -29,14 +29,14 @@ constexpr const char item[] = "ifit_dfx_query_glbdata_item_mesh";
 constexpr const char hello[] = "0a000000060012000400060000000400000005000000"
                                "68656c6c6f00";
 
-TEST(CommandLine, takes_bytes_and_hex_from_everywhere)
+TEST(CommandLine, reads_bytes_and_hex_from_every_source)
 {
     const std::string decoded = "{\"f0\":\"hello\"}\n";
     const std::string printf_hello = std::string("printf '") + hello + "' |";
     const std::string xxd = printf_hello + " sed 's/../\\\\x&/g' | xargs -0 printf |";   // the bytes themselves
     const struct {
         std::string before, arguments;
-    } ways[] = {
+    } cases[] = {
         {"", std::string("decode ") + item + " --line --hex " + hello},
         {"", "decode 0x91cd149e --line --hex '0x0a,0x0,0x00,0x00, {06 00}: 12 00 04 00 06 00 00 00 \\x04\\x00 00 00 05 "
              "00 00 00 68 65 6C 6C 6F 00'"},
@@ -45,9 +45,9 @@ TEST(CommandLine, takes_bytes_and_hex_from_everywhere)
         {"printf '{\"f0\":\"hello\"}' | '" KESTO_PROGRAM "' encode " + std::string(item) + " |",
          std::string("decode --line --input-format bytes ") + item},
     };
-    for (const auto& way : ways) {
-        const CommandResult result = kesto(way.arguments, way.before);
-        EXPECT_EQ(result.output, decoded) << way.before << way.arguments;
+    for (const auto& each : cases) {
+        const CommandResult result = kesto(each.arguments, each.before);
+        EXPECT_EQ(result.output, decoded) << each.before << each.arguments;
         EXPECT_EQ(result.exit_code, 0);
     }
 }
@@ -73,7 +73,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain --raw --json --hex 00", 1, "\"root_table\": false"},
         {"decode" + named + " --hex 0a0000000600", 1, "refused: table_position"},
         {"decode" + named + " --memory 5 --hex " + hello, 2, "more than 5 bytes of memory"},
-        {"explain" + named + " --hex 0a0", 2, "'0a0' is no hex text"},
+        {"explain" + named + " --hex 0a0", 2, "'0a0' is not hex"},
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
         {"explain glbdata_item --hex 00", 2, item},
@@ -169,7 +169,7 @@ TEST_F(Files, diff_compares_records_and_not_bytes)
     EXPECT_EQ(kesto(diff + "/dev/null").exit_code, 2);
 }
 
-TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
+TEST_F(Files, foreign_text_is_escaped)
 {
     const std::string named = std::string(" ") + item + " ";
     const auto check = [&](const std::string& arguments, const std::string& input, const std::string& says) {
@@ -189,8 +189,8 @@ TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
               "diff" + named + nowhere + " " + nowhere, "encode " + quoted, "encode" + named + "-o " + nowhere,
               "size" + named + nowhere, "size " + quoted, "show " + quoted})
             check(arguments, arguments.starts_with("encode") ? "{}" : "00 " + text, shown);
-        check("encode" + named, text, "no JSON");
-        check("encode" + named, "{\"" + text + "\":1}", in_json == text ? shown : "no JSON");
+        check("encode" + named, text, "invalid JSON");
+        check("encode" + named, "{\"" + text + "\":1}", in_json == text ? shown : "invalid JSON");
         if (in_json.empty())
             continue;
         check("encode" + named, "{\"" + in_json + "\":1}", shown);
@@ -201,7 +201,7 @@ TEST_F(Files, foreign_text_does_not_reach_a_terminal_raw)
     }
 }
 
-TEST_F(Files, texts_of_records_do_not_reach_a_terminal_raw_and_keep_their_value)
+TEST_F(Files, text_fields_are_escaped_and_keep_their_value)
 {
     const std::string named = std::string(" ") + item + " ", a = path("a"), b = path("b");
     write_file(b, bytes_from_hex(hello));
@@ -262,7 +262,7 @@ Bytes capture_of_odd_times()
     return capture;
 }
 
-TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
+TEST_F(Files, packets_are_reported_one_by_one_and_one_bad_one_fails)
 {
     const std::string file = path("capture"), broken = path("broken"), odd = path("odd"), odder = path("odder"),
                       called = path("called");
@@ -327,7 +327,7 @@ TEST_F(Files, packets_are_told_one_by_one_and_one_bad_one_is_enough)
 #endif
 
 // Text from the byte string must not become part of the page.
-TEST_F(Files, a_page_holds_foreign_text_as_text)
+TEST_F(Files, page_escapes_foreign_text)
 {
     const std::string encode = "echo '{\"f0\":\"<script>alert(1)</script>&\\\"\"}' | '" KESTO_PROGRAM "' encode ";
     EXPECT_EQ(kesto(std::string("explain ") + item + " --html " + path("page"), encode + item + " |").exit_code, 0);

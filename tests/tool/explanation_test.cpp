@@ -26,15 +26,15 @@ using model::Density;
 using model::Random;
 using model::Record;
 
-constexpr std::uint64_t most_memory = 1 << 24;   // limit for the library in a test
+constexpr std::uint64_t max_memory = 1 << 24;   // limit for the library in a test
 
 // The library decodes while its log lines are recorded. The model, which is compared with it, gives the outcome.
 class Verdicts : public EveryMessageTest {
 protected:
-    void expect_true(const model::Message& message, const ByteString& bytes)
+    void expect_library_agrees(const model::Message& message, const ByteString& bytes)
     {
         const Explanation explanation = explain(*find_message(message.name), bytes);
-        if (explanation.memory > most_memory)
+        if (explanation.memory > max_memory)
             return;
         std::vector<std::string> lines;
         services().lines = &lines;
@@ -57,7 +57,7 @@ protected:
     DecodeCheck check_;
 };
 
-TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
+TEST_F(Verdicts, match_the_library_on_the_fuzz_corpus)
 {
     std::vector<ByteString> inputs;
     std::string error;
@@ -66,7 +66,7 @@ TEST_F(Verdicts, of_what_the_fuzzers_kept_are_the_librarys)
         const model::Message* const message = fuzz::message_of(expected_catalogue(), input.data(), input.size());
         if (message == nullptr || input.size() < fuzz::before_bytes)
             continue;
-        ASSERT_NO_FATAL_FAILURE(expect_true(*message, {input.begin() + fuzz::before_bytes, input.end()}));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(*message, {input.begin() + fuzz::before_bytes, input.end()}));
     }
 }
 
@@ -80,15 +80,15 @@ std::vector<const model::Message*> known_messages()
 
 INSTANTIATE_TEST_SUITE_P(All, Verdicts, testing::ValuesIn(known_messages()), name_of_case);
 
-TEST_P(Verdicts, of_strange_and_of_truncated_layouts_are_the_librarys)
+TEST_P(Verdicts, match_the_library_on_noncanonical_and_truncated_layouts)
 {
     Random chance(message().id);
     for (int round = 0; round < 12; ++round) {
         const Record record = model::random_record(message(), model::densities[round % 4], chance);
         ByteString bytes = model::noncanonical_layout(record, chance);
-        ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(message(), bytes));
         bytes.resize(chance.below(static_cast<std::uint32_t>(bytes.size())));
-        ASSERT_NO_FATAL_FAILURE(expect_true(message(), bytes));
+        ASSERT_NO_FATAL_FAILURE(expect_library_agrees(message(), bytes));
     }
 }
 
@@ -97,7 +97,7 @@ class Ranges : public EveryMessageTest {};
 INSTANTIATE_TEST_SUITE_P(All, Ranges, testing::ValuesIn(known_messages()), name_of_case);
 
 // In encoded byte strings nothing is unread and nothing is odd, except text of random octets.
-TEST_P(Ranges, of_written_byte_strings_cover_every_byte_once)
+TEST_P(Ranges, cover_every_byte_of_encoded_records_once)
 {
     Random chance(message().id);
     for (const Density density : model::densities)
@@ -152,7 +152,7 @@ ByteString damaged(ByteString whole, std::size_t at, const char* hex_text)
 }
 
 // The range that was read last is the origin of the refused number.
-TEST(Refusals, mark_what_was_read_last)
+TEST(Refusals, mark_the_last_range_read)
 {
     const ByteString bytes = damaged(one_element(), 24, "0f");
     const Explanation explanation = explain(*find_message(keys), bytes);
@@ -170,7 +170,7 @@ std::vector<std::string> codes_of(const Explanation& explanation)
     return codes;
 }
 
-TEST(Notes, tell_what_passes_without_a_word)
+TEST(Notes, report_oddities_that_the_decoder_accepts_silently)
 {
     const struct {
         const char* message;
@@ -200,7 +200,7 @@ TEST(Notes, tell_what_passes_without_a_word)
         EXPECT_EQ(codes_of(explain(*find_message(each.message), each.bytes)), each.codes) << model::to_hex(each.bytes);
 }
 
-TEST(Texts, cannot_steer_a_terminal)
+TEST(Texts, cannot_control_a_terminal)
 {
     const struct {
         std::string text, shown;
@@ -218,7 +218,7 @@ TEST(Texts, cannot_steer_a_terminal)
 }
 
 // X__pack counts 8 bytes for a block with a pointer and length 0 and does not write them.
-TEST(Origins, know_the_bytes_that_are_counted_and_not_written)
+TEST(Origins, recognise_bytes_that_are_counted_but_not_written)
 {
     Record record = model::zero_record(*find_message("ifit_dfx_query_comm_param_mesh"));
     record.fields[2].present = true;

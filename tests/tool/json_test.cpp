@@ -1,4 +1,4 @@
-// Converts records to JSON and back: nothing is lost, and nothing is guessed. vectors_test does this for every message.
+// Converts records to JSON and back without loss. vectors_test does this for every message.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ namespace {
 
 using command::find_message;
 
-TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
+TEST(JsonText, distinguishes_null_empty_and_invalid_text)
 {
     const model::Message& message = *find_message("ifit_dfx_query_glbdata_item_mesh");
     for (const char* text : {R"({"f0":null})", R"({"f0":""})", R"({"f0":"\"a\"\n\u00e9"})", R"({"f0":{"hex":"ff"}})",
@@ -24,7 +24,7 @@ TEST(JsonText, keeps_null_empty_and_what_is_no_text_apart)
     }
 }
 
-TEST(JsonText, that_is_wrong_is_refused_with_the_place)
+TEST(JsonText, errors_name_the_field_or_the_input)
 {
     std::string crowded = R"({"f0":0)";
     for (int k = 1; k < 1000; ++k)
@@ -48,8 +48,8 @@ TEST(JsonText, that_is_wrong_is_refused_with_the_place)
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f26":[1,2,3,4294967296]})", ".f26[3]: "},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"18446744073709551616"})", ".f7: "},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f7":"0x1"})", ".f7: "},
-        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: \"f1\" stands twice"},
-        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: no JSON"},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1,"f1":2})", "text: duplicate name \"f1\""},
+        {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1)", "text: invalid JSON"},
         {"ifit_dfx_query_queryhash_item_mesh", "[[[[[[[[[[[[[[[[[[[[", "text: nested deeper"},
         {"ifit_dfx_query_queryhash_item_mesh", R"({"f1":1e400})", "text: a number is out of range"},
         {"ifit_dfx_query_queryhash_item_mesh", crowded.c_str(), "text: an object has more names"},

@@ -42,7 +42,7 @@ Call call_of(const u_char* bytes)
     return call;
 }
 
-// `bytes` are the packet without the head about the call.
+// `bytes` are the packet without the call head.
 PacketFault fault_of(bool is_cut, bool knows_head, std::span<const u_char> bytes)
 {
     if (is_cut)
@@ -74,7 +74,7 @@ const char* text_of(PacketFault fault)
     switch (fault) {
     case PacketFault::none: return "a message";
     case PacketFault::cut: return "the capture kept only the first bytes of the packet";
-    case PacketFault::unknown_head: return "the head about the call is of a later version, or damaged";
+    case PacketFault::unknown_head: return "the call head has an unknown version or direction";
     case PacketFault::short_packet: return "the packet has no room for id and length";
     case PacketFault::length_disagrees: break;
     }

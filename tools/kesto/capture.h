@@ -1,6 +1,5 @@
-// Reads capture files packet by packet. In those of link type USER1, which the tap and the MESH stand-in write, a head
-// about the call precedes each packet; those of link type USER0 have packets alone. platform/standin/capture.h has the
-// layout.
+// Reads capture files packet by packet. In those of link type USER1, which the tap and the MESH stand-in write, a call
+// head precedes each packet; those of link type USER0 have only packets. platform/standin/capture.h has the layout.
 #pragma once
 
 #include <cstdint>
@@ -18,15 +17,15 @@ namespace kesto::tools {
 enum class PacketFault : std::uint8_t {
     none,
     cut,                // the capture kept only the first bytes of the packet
-    unknown_head,       // the head about the call has another version or an unknown direction
-    short_packet,       // too short for id and length, or for the head about the call
+    unknown_head,       // the call head has another version or an unknown direction
+    short_packet,       // too short for id and length, or for the call head
     length_disagrees,   // length differs from the number of bytes after the header
 };
 
 const char* name_of(PacketFault fault);   // the names used in dissector/kesto.lua
 const char* text_of(PacketFault fault);   // a sentence without a full stop
 
-// The call with which a packet left or arrived.
+// The call that sent or delivered a packet.
 struct Call {
     bool is_sent = false;
     std::optional<std::uint32_t> channel, destination;
@@ -38,7 +37,7 @@ struct CapturedPacket {
     std::uint64_t number = 0;   // from 1
     std::int64_t seconds = 0;   // since 1970
     std::uint32_t microseconds = 0;
-    std::optional<Call> call;   // of link type USER1, unless the head has a fault
+    std::optional<Call> call;   // of link type USER1, unless the call head is invalid
     PacketFault fault = PacketFault::none;
     std::uint32_t id = 0;                  // 0 if the packet is too short for it
     std::span<const std::uint8_t> bytes;   // after id and length; valid until the next packet is read

@@ -38,7 +38,7 @@ std::string written_text(const CapturedPacket& packet)
     return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:06}Z", time, packet.microseconds);
 }
 
-// With a head about the call, that of the call's begin, which is more exact.
+// With a call head, the time at which the call began, in nanoseconds.
 std::string time_text(const CapturedPacket& packet)
 {
     if (!packet.call)
@@ -50,7 +50,7 @@ std::string time_text(const CapturedPacket& packet)
     return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:09}Z", time, packet.call->began % second);
 }
 
-// With a comma before it, as in ", sent on channel 1 to destination 9, result 0"; empty without a head about the call.
+// With a comma before it, as in ", sent on channel 1 to destination 9, result 0"; empty without a call head.
 std::string call_text(const CapturedPacket& packet)
 {
     if (!packet.call)

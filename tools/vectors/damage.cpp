@@ -16,7 +16,7 @@ using command::Range;
 using model::u32;
 using model::u64;
 
-// Positions near the end and the start, where a reader may be off by a few bytes.
+// Positions near the start and the end, for readers that are off by a few bytes.
 std::vector<u64> targets(u32 length)
 {
     std::vector<u64> all = {3, 4};
@@ -25,7 +25,7 @@ std::vector<u64> targets(u32 length)
     return all;
 }
 
-// Ordered by the position or size that they denote, so that neighbours in the list are neighbours in meaning.
+// Ordered by the position or size that they denote, so that adjacent values have adjacent meanings.
 std::vector<u64> values_of(const Range& range, u32 length)
 {
     std::vector<u64> values;
@@ -45,7 +45,7 @@ std::vector<u64> values_of(const Range& range, u32 length)
         for (const u64 target : targets(length))
             if (target >= range.position)
                 values.push_back(target - range.position);
-        for (const u64 target : {0xffffffffU, 0U})   // the last before 2^32, and the first after
+        for (const u64 target : {0xffffffffU, 0U})   // the last position before 2^32, and the first one after
             values.push_back(target - range.position);
         values.push_back(0xffffffff);
         break;
@@ -76,7 +76,7 @@ class Collection {
 public:
     explicit Collection(const Bytes& whole) : whole_(whole) {}
 
-    // Keeps the samples on both sides of a change of the verdict, if they show anything new.
+    // Keeps the samples on both sides of each change of the verdict, unless they show nothing new.
     void add(const std::vector<Sample>& neighbours, const std::string& place)
     {
         std::vector<std::string> verdicts;

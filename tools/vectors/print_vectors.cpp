@@ -30,9 +30,9 @@ using model::u32;
 using model::u8;
 using nlohmann::ordered_json;
 
-constexpr std::size_t most_written = 4000;   // bytes of a record, so that the files stay small
-constexpr std::size_t most_strange = 700;
-constexpr int most_draws = 1000;   // after that, a message that is never short enough is taken as it is
+constexpr std::size_t max_record_bytes = 4000;   // keeps the files small
+constexpr std::size_t max_hostile_bytes = 700;
+constexpr int max_draws = 1000;   // after which a record is used even if it is too long
 
 using model::to_hex;
 
@@ -56,12 +56,12 @@ void make_readable(Record& record)
 }
 
 // A record as a decoder leaves it, without the states that only a sender's record can have.
-Record drawn_record(const Message& message, Density density, Random& random, std::size_t most)
+Record drawn_record(const Message& message, Density density, Random& random, std::size_t max_bytes)
 {
     for (int draw = 0;; ++draw) {
         Record record = model::as_decoded(model::random_record(message, density, random));
-        const bool says_little = density != Density::zero && model::is_default(record);
-        if ((says_little || model::exact_size(record) > most) && draw < most_draws)
+        const bool is_trivial = density != Density::zero && model::is_default(record);
+        if ((is_trivial || model::exact_size(record) > max_bytes) && draw < max_draws)
             continue;
         if (density == Density::full)
             make_readable(record);
@@ -80,7 +80,7 @@ std::vector<ordered_json> record_lines(const model::Module& module)
         const Message& message = *each_message;
         Random random(message.id);
         for (const auto& each : cases) {
-            const Record record = drawn_record(message, each.density, random, most_written);
+            const Record record = drawn_record(message, each.density, random, max_record_bytes);
             ordered_json line = line_of(message);
             line["case"] = each.name;
             line["compact"] = to_hex(model::compact_form(record));
@@ -134,7 +134,7 @@ void add_by_hand(std::vector<ordered_json>& lines)
         const ordered_json& refused = lines.back()["refused"];
         const std::string code = refused.is_null() ? "none" : refused["code"].get<std::string>();
         if (code != each.code)
-            throw Fault(fmt::format("{}: {} was expected, {} is it", each.sample.about, each.code, code));
+            throw Fault(fmt::format("{}: expected {}, got {}", each.sample.about, each.code, code));
     }
 }
 
@@ -147,7 +147,7 @@ void add_damaged(std::vector<ordered_json>& lines)
           "ifit_sync_flow_tuplev6_mesh_update", "ntvifit_flow_tuples", "ntvifit_stats_info_list"}) {
         const Message& message = *model::catalogue().find(name);
         Random random(message.id);
-        const Record record = drawn_record(message, Density::full, random, most_strange);
+        const Record record = drawn_record(message, Density::full, random, max_hostile_bytes);
         for (const bool fixed : {false, true}) {
             if (fixed && message.fixed_length == 0)
                 continue;
@@ -159,19 +159,19 @@ void add_damaged(std::vector<ordered_json>& lines)
     }
 }
 
-void add_strange(std::vector<ordered_json>& lines)
+void add_noncanonical(std::vector<ordered_json>& lines)
 {
     constexpr Density densities[] = {Density::full, Density::sparse, Density::edge};
     for (const Message& message : model::catalogue().messages) {
         Random random(message.id);
-        const Record record = drawn_record(message, densities[message.id % 3], random, most_strange);
+        const Record record = drawn_record(message, densities[message.id % 3], random, max_hostile_bytes);
         Sample sample = {"noncanonical layout", &message, {}};
-        for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * most_strange && draw < most_draws); ++draw)
+        for (int draw = 0; draw == 0 || (sample.bytes.size() > 2 * max_hostile_bytes && draw < max_draws); ++draw)
             sample.bytes = model::noncanonical_layout(record, random);
         lines.push_back(hostile_line(sample));
         const ordered_json& line = lines.back();
         if (!line["refused"].is_null() || line["record"] != model::record_json(record))
-            throw Fault(message.name + ": a noncanonical layout is not what it was made from");
+            throw Fault(message.name + ": a noncanonical layout decodes to another record");
     }
 }
 
@@ -180,7 +180,7 @@ std::vector<ordered_json> hostile_lines()
     std::vector<ordered_json> lines;
     add_by_hand(lines);
     add_damaged(lines);
-    add_strange(lines);
+    add_noncanonical(lines);
     return lines;
 }
 
@@ -193,14 +193,14 @@ std::string sha256_of(const std::string& path)
     const bool read = pipe != nullptr && std::fread(digits, 1, 64, pipe) == 64;
     for (char rest[256]; pipe != nullptr && std::fread(rest, 1, sizeof rest, pipe) != 0;) {}
     if (pipe == nullptr || pclose(pipe) != 0 || !read)
-        throw Fault(path + ": sha256sum gives no sum");
+        throw Fault(path + ": sha256sum failed");
     return digits;
 }
 
 void write_file(const std::string& path, const std::string& text)
 {
     if (!tools::write_changed(path, text))
-        throw Fault(path + ": not written");
+        throw Fault(path + ": cannot be written");
 }
 
 class Folder {
