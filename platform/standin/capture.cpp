@@ -47,16 +47,39 @@ constinit Capture capture{no_file, 0, 0, 0, "", capture_without_limit, 1, {}, {}
 constinit char older[PATH_MAX]{}, newer[PATH_MAX]{};   // for rotation; the caller's stack may be small
 constinit std::atomic<bool> capturing{};               // lets a process without a capture skip the lock
 
+// Above 0 from before this thread takes the lock until after it has released it. A signal handler that interrupts the
+// thread in between must not wait for the lock.
+[[gnu::tls_model("initial-exec")]] constinit thread_local uint32_t lock_depth{};
+
+void lock()
+{
+    if (lock_depth++ == 0)
+        pthread_mutex_lock(&mutex);
+}
+
+void unlock()
+{
+    if (lock_depth == 1)
+        pthread_mutex_unlock(&mutex);
+    --lock_depth;
+}
+
+struct CaptureLock {
+    CaptureLock() { lock(); }
+    ~CaptureLock() { unlock(); }
+    CaptureLock(const CaptureLock&) = delete;
+    CaptureLock& operator=(const CaptureLock&) = delete;
+};
+
 // A child after a fork must not inherit the lock from a thread that it does not have, and needs a file of its own.
 void follow_forks()
 {
     static constinit pthread_once_t once = PTHREAD_ONCE_INIT;
     pthread_once(&once, [] {
-        pthread_atfork([] { pthread_mutex_lock(&mutex); }, [] { pthread_mutex_unlock(&mutex); },
-                       [] {
-                           capture.process = another_process;
-                           pthread_mutex_unlock(&mutex);
-                       });
+        pthread_atfork(lock, unlock, [] {
+            capture.process = another_process;
+            unlock();
+        });
     });
 }
 
@@ -299,7 +322,7 @@ void store_call(uint8_t* at, const CapturedCall& call)
 void write_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_length, const uint8_t* rest,
                   uint32_t rest_length)
 {
-    const Lock lock(mutex);
+    const CaptureLock guard;
     struct stat status;
     if (!capturing.load(std::memory_order_relaxed) || !ensure_file(status))
         return;
@@ -333,7 +356,7 @@ void write_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_l
 bool capture_to(const CapturePlan& plan)
 {
     follow_forks();
-    const Lock lock(mutex);
+    const CaptureLock guard;
     stop();
     if (plan.path == nullptr)
         return true;
@@ -373,7 +396,7 @@ uint64_t capture_time()
 void capture_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_length, const uint8_t* rest,
                     uint32_t rest_length)
 {
-    if (!capture_is_on())
+    if (!capture_is_on() || lock_depth != 0)
         return;
     const int error = errno;
     int cancellation;   // a thread that is cancelled here would leave the lock held

@@ -56,7 +56,7 @@ bool capture_is_on();
 uint64_t capture_time();
 
 // Writes a packet of two pieces, either of which may be empty; `head_length` must be at most 1024. Costs next to
-// nothing without a capture. Preserves errno.
+// nothing without a capture. Preserves errno. Writes nothing in a signal handler that has interrupted this function.
 void capture_packet(const CapturedCall& call, const uint8_t* head, uint32_t head_length, const uint8_t* rest,
                     uint32_t rest_length);
 

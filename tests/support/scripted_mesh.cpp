@@ -3,13 +3,7 @@
 
 #include "tests/support/scripted_mesh.h"
 
-namespace kesto::tests {
-
 ScriptedMesh scripted_mesh{};
-
-}   // namespace kesto::tests
-
-using kesto::tests::scripted_mesh;
 
 static int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
 {

@@ -1,22 +1,15 @@
-// A MESH whose operations return what a test says and keep what they were given. A shared library, so that the tap finds
-// it as it finds any other.
+// A MESH whose operations return `result` and keep what they were given. A shared library, so that the tap finds it as
+// it finds any other.
 #pragma once
 
 #include "platform/mesh.h"
 
-namespace kesto::tests {
-
 struct ScriptedMesh {
-    // what the operations return, and leave in errno unless that is 0
-    int result, error;
-
-    // what the latest call was given
-    std::uint32_t channel, count, destination, id;   // destination 0 for MESH_SendMsg
+    int result, error;                               // `error` goes to errno unless it is 0
+    std::uint32_t channel, count, destination, id;   // of the latest call; destination 0 for MESH_SendMsg
     const MeshSendItem* items;
-    MeshUnpack unpack;   // of registrations with result 0
+    MeshUnpack unpack;   // of the latest registration with result 0
     MeshFree free_record;
 };
 
 extern ScriptedMesh scripted_mesh;
-
-}   // namespace kesto::tests
