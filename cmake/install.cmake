@@ -57,6 +57,9 @@ if(TARGET kesto)
   install(TARGETS kesto RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tools)
   install(FILES tools/kesto/kesto.bash RENAME kesto
     DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions COMPONENT tools OPTIONAL)
+  install(FILES tools/kesto/_kesto DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT tools OPTIONAL)
+  install(FILES tools/kesto/example.names
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/ifit-codec-tools/examples COMPONENT tools OPTIONAL)
   # The system-wide folder for Lua plugins of Wireshark.
   install(FILES dissector/kesto.lua
     DESTINATION ${CMAKE_INSTALL_LIBDIR}/wireshark/plugins COMPONENT tools OPTIONAL)

@@ -346,15 +346,159 @@ local scalar_fields = {
 
 local slots_of_message = {} -- by name, as text
 
+for _, line in ipairs(catalogue) do
+    slots_of_message[line[1]] = line[3]
+end
+
+-- ---- names of fields, from a file as kesto(1) describes it: -X lua_script1:FILE, or the environment ----
+
+local function unreadable(file, number, text, ...)
+    error(string.format("%s:%d: " .. text, file, number, ...), 0)
+end
+
+-- Which types a display can show.
+local display_types = {
+    hex = { u8 = true, u16 = true, u32 = true, u64 = true },
+    ipv4 = { u32 = true, ["u8[4]"] = true },
+    ipv6 = { ["u32[4]"] = true, ["u8[16]"] = true },
+    mac = { u64 = true, ["u8[6]"] = true },
+    time = { u32 = true, u64 = true },
+}
+display_types.enum = display_types.hex
+
+local ticks_per_second = { ["time"] = 1, ["time-ms"] = 1000, ["time-us"] = 1000000, ["time-ns"] = 1000000000 }
+for display in pairs(ticks_per_second) do
+    display_types[display] = display_types.time
+end
+
+-- A table from number to word.
+local function read_words(file, number, words)
+    local values, any = {}, false
+    for i = 4, #words do
+        local word, value = words[i]:match("^(%l[%l%d_]*)=(%w+)$")
+        value = value and tonumber(value)
+        if not value or values[value] then
+            unreadable(file, number, "'%s' is not as in tcp=6, or repeats a number", words[i])
+        end
+        values[value], any = word, true
+    end
+    return any and values or unreadable(file, number, "an enum needs words, as in tcp=6")
+end
+
+local function read_field_line(file, number, message, words)
+    local field, name, display = words[1], words[2], words[3]
+    local types = {}
+    for known, text in slots_of_message[message]:gmatch("([%w_]+)=(%S+)") do
+        types[known] = text
+    end
+    if not types[field] then
+        unreadable(file, number, "%s has no field '%s'", message, field)
+    elseif not name or not name:match("^%l[%l%d_]*$") or (types[name] and name ~= field) then
+        unreadable(file, number, "'%s' is no name for %s", name or "", field)
+    elseif display and not (display_types[display] and display_types[display][types[field]]) then
+        unreadable(file, number, "%s is %s, which '%s' cannot show", field, types[field], display)
+    elseif words[4] and display ~= "enum" then
+        unreadable(file, number, "'%s' is too much", words[4])
+    end
+    return { name = name, display = display, words = display == "enum" and read_words(file, number, words) or nil }
+end
+
+-- By message and field: name, display, words.
+local function read_names(file)
+    local views, message, number = {}, nil, 0
+    for line in assert(io.open(file)):lines() do
+        number = number + 1
+        local words = {}
+        for word in line:gsub("#.*", ""):gmatch("%S+") do
+            words[#words + 1] = word
+        end
+        if #words > 0 and not line:match("^[ \t]") then
+            message = words[1]
+            if #words > 1 or not slots_of_message[message] or views[message] then
+                unreadable(file, number, "'%s' is no message, or stands twice", table.concat(words, " "))
+            end
+            views[message] = {}
+        elseif #words > 0 then
+            if not message then
+                unreadable(file, number, "a field stands before any message")
+            end
+            local view = read_field_line(file, number, message, words)
+            for field, known in pairs(views[message]) do
+                if field == words[1] or known.name == view.name then
+                    unreadable(file, number, "'%s' stands twice", words[1])
+                end
+            end
+            views[message][words[1]] = view
+        end
+    end
+    return views
+end
+
+local names_file = ... or os.getenv("KESTO_NAMES")
+local views = names_file and names_file ~= "" and read_names(names_file) or {}
+
+-- The octets of an address in the order of reading. Numbers have the first octet at the top.
+local function octets_of(slot, range)
+    local octets = {}
+    for at = 0, range:len() - 1 do
+        local from = slot.width == 1 and at or at - at % slot.width + slot.width - 1 - at % slot.width
+        octets[at + 1] = range(from, 1):uint()
+    end
+    return octets
+end
+
+local function joined(octets, first, format, step, between)
+    local parts = {}
+    for at = first, #octets, step do
+        parts[#parts + 1] = string.format(format, octets[at], octets[at + 1])
+    end
+    return table.concat(parts, between)
+end
+
+local function time_of(slot, range)
+    local ticks = ticks_per_second[slot.view.display]
+    local value = slot.width == 8 and range:le_uint64() or UInt64(range:le_uint())
+    return NSTime((value / ticks):tonumber(), (value % ticks):tonumber() * (1000000000 / ticks))
+end
+
+-- Kinds of fields for displays, and the value to show in them; without one the bytes are the value.
+local displays = {
+    hex = { make = function(path, name, slot) return slot.make(path, name, base.HEX) end },
+    enum = { make = function(path, name, slot) return slot.make(path, name, base.DEC, slot.view.words) end },
+    ipv4 = {
+        make = function(path, name) return ProtoField.ipv4(path, name) end,
+        value = function(slot, range) return Address.ip(joined(octets_of(slot, range), 1, "%d", 1, ".")) end,
+    },
+    ipv6 = {
+        make = function(path, name) return ProtoField.ipv6(path, name) end,
+        value = function(slot, range) return Address.ipv6(joined(octets_of(slot, range), 1, "%02x%02x", 2, ":")) end,
+    },
+    mac = {
+        make = function(path, name) return ProtoField.ether(path, name) end,
+        value = function(slot, range)
+            local octets = octets_of(slot, range)
+            return Address.ether(joined(octets, #octets - 5, "%02x", 1, ":"))
+        end,
+    },
+}
+for display in pairs(ticks_per_second) do
+    displays[display] = {
+        make = function(path, name) return ProtoField.absolute_time(path, name, base.UTC) end,
+        value = time_of,
+    }
+end
+
 local make_slots
 
-local function make_slot(path, field, text)
-    local slot = { name = field, text = text }
+local function make_slot(path, field, text, view)
+    local slot = { name = view.name or field, text = text, view = view, display = displays[view.display] }
+    field = slot.name
     path = path .. "." .. field
     local scalar = scalar_fields[text]
     if scalar then
-        slot.kind, slot.width = "scalar", scalar[1]
-        slot.field = declare(scalar[2](path, field, base.DEC_HEX))
+        slot.kind, slot.width, slot.make = "scalar", scalar[1], scalar[2]
+        slot.field = declare(slot.display and slot.display.make(path, field, slot)
+            or scalar[2](path, field, base.DEC_HEX))
         return slot
     end
     if text == "string" or text == "bytes" then
@@ -365,7 +509,8 @@ local function make_slot(path, field, text)
     local element, count = text:match("^(%w+)%[(%d+)%]$")
     if element then
         slot.kind, slot.width, slot.count = "array", scalar_fields[element][1], tonumber(count)
-        slot.field = declare(slot.width == 1 and ProtoField.bytes(path, field)
+        slot.field = declare(slot.display and slot.display.make(path, field, slot)
+            or slot.width == 1 and ProtoField.bytes(path, field)
             or ProtoField.uint32(path, field, base.DEC_HEX))
         return slot
     end
@@ -379,7 +524,7 @@ end
 function make_slots(path, name)
     local slots = {}
     for field, text in slots_of_message[name]:gmatch("([%w_]+)=(%S+)") do
-        slots[#slots + 1] = make_slot(path, field, text)
+        slots[#slots + 1] = make_slot(path, field, text, (views[name] or {})[field] or {})
     end
     return slots
 end
@@ -387,8 +532,7 @@ end
 local messages = {} -- by id
 
 for _, line in ipairs(catalogue) do
-    local name, id, slots = line[1], line[2], line[3]
-    slots_of_message[name] = slots
+    local name, id = line[1], line[2]
     local path = "kesto." .. name
     messages[id] = { name = name, field = declare(ProtoField.none(path, name)), slots = make_slots(path, name) }
 end
@@ -425,10 +569,21 @@ function Reader:may_show(tree, length)
     return tree ~= nil and self.remaining >= 0
 end
 
--- The next three functions return the new item, or nil if it is not shown.
+-- The next four functions return the new item, or nil if it is not shown.
 function Reader:show(tree, field, at, length)
     if self:may_show(tree, length) then
         return tree:add_le(field, self:range(at, length))
+    end
+end
+
+-- A scalar, or an array that is shown as one value.
+function Reader:show_value(tree, slot, at, length)
+    if not (slot.display and slot.display.value) then
+        return self:show(tree, slot.field, at, length)
+    end
+    if self:may_show(tree, length) then
+        local range = self:range(at, length)
+        return tree:add(slot.field, range, slot.display.value(slot, range))
     end
 end
 
@@ -552,7 +707,7 @@ function read.scalar(reader, tree, slot, at)
     if at + slot.width > reader.length then
         return reader:refuse(tree, "scalar_end", at, at + slot.width, reader.length)
     end
-    reader:show(tree, slot.field, at, slot.width)
+    reader:show_value(tree, slot, at, slot.width)
     return true
 end
 
@@ -592,8 +747,8 @@ function read.array(reader, tree, slot, at)
     if not reader:body_fits(tree, body, count * slot.width) then
         return false
     end
-    if slot.width == 1 then
-        reader:show(tree, slot.field, body + 4, count)
+    if slot.width == 1 or slot.display then
+        reader:show_value(tree, slot, body + 4, count * slot.width)
     else
         local item = reader:heading(tree, body + 4, 4 * count, "%s: %s", slot.name, slot.text)
         for i = 0, count - 1 do

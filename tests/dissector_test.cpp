@@ -440,6 +440,37 @@ TEST_F(Dissector, display_filters_match_fields)
         EXPECT_EQ(matching_packets(filter), packets) << filter;
 }
 
+TEST_F(Dissector, shows_fields_by_the_names_and_displays_of_a_file)
+{
+    const Message& list = *expected_catalogue().find("ifit_flow_base_mesh_update");
+    const Message& tuple = *expected_catalogue().find("ifit_flow_tuplev6_mesh");
+    Record flows = zero_record(list), flow = zero_record(*list.slots[1].nested), ipv6 = zero_record(tuple);
+    const u64 numbers[] = {16, 0xc0a80001, 1700000000250000000, 0x001122334455, 1700000000, 0, 17};
+    for (std::size_t k = 0; k < std::size(numbers); ++k)
+        flow.fields[k].number = numbers[k];
+    flows.fields[1].present = true;
+    flows.fields[1].number = 1;
+    flows.fields[1].records = {flow};
+    ipv6.fields[3].words = {0x20010db8, 0, 0, 1};
+    (void)check({{&list, compact_form(flows)}, {&tuple, fixed_form(ipv6)}});
+
+    setenv("KESTO_NAMES", KESTO_SOURCE_DIR "/tests/data/fields.names", 1);
+    const std::string row = "kesto.ifit_flow_base_mesh_update.rows";
+    EXPECT_EQ(matching_packets(row + ".flow == 0x10 && " + row + ".source == 192.168.0.1 && " + row +
+                               ".begin == \"2023-11-14 22:13:20.25Z\" && " + row + ".station == 00:11:22:33:44:55 && " +
+                               row + ".changed == \"2023-11-14 22:13:20Z\" && " + row + ".protocol == \"udp\""),
+              "1 ")
+        << read_file(folder / "errors");
+    EXPECT_EQ(matching_packets("kesto.ifit_flow_tuplev6_mesh.source == 2001:db8::1"), "2 ");
+
+    const std::string wrong = (folder / "wrong").string();
+    write_file(wrong, {'\n', 'x'});
+    setenv("KESTO_NAMES", wrong.c_str(), 1);
+    (void)matching_packets("");
+    unsetenv("KESTO_NAMES");
+    EXPECT_NE(read_file(folder / "errors").find(wrong + ":2: 'x' is no message"), std::string::npos);
+}
+
 }   // namespace
 
 }   // namespace kesto::tests

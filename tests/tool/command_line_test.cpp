@@ -68,6 +68,8 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain ifit_mcp_mesh --hex " + std::string(hello), 0, "written for ifit_dfx_query_glbdata_item_mesh"},
         {"explain --raw --hex " + std::string(hello), 0, item},
         {"explain --raw --hex 00", 1, "less than the 4 bytes"},
+        {"explain --raw --hex 9e14cd911c000000" + std::string(hello), 0, "written just so for: ifit_dfx_query_glbdata"},
+        {"explain --raw --json --hex 9e14cd911c000000" + std::string(hello), 0, "\"stated\": 28,\n    \"present\": 28"},
         {"explain --raw --json --hex " + std::string(hello), 0,
          "\"written_for\": [\n    \"ifit_dfx_query_glbdata_item"},
         {"explain --raw --json --hex 00", 1, "\"root_table\": false"},
@@ -77,6 +79,11 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
         {"explain glbdata_item --hex 00", 2, item},
+        {"explain 'glbdata rec' --hex 00", 2, "did you mean ifit_dfx_query_glbdata_rec_mesh"},
+        {"explain 'level 2 code 22 ifit_dfx_query_glbdata_item_mesh_unp' --hex 00", 2, item},   // cut by the log
+        {"explain ifit_dfx_query_glbdata_item_mesh_removed --hex 00", 2, item},
+        {"explain 'ifit_dfx_datetime_mesh ifit_dfx_query_glbdata_item_mesh' --hex 00", 2,
+         "names 2 messages: ifit_dfx_d"},
         {"explain --hex 00", 2, "a MESSAGE is needed"},
         {"explain" + named + " --no-such-option", 2, "--no-such-option"},
         {"", 2, "subcommand"},
@@ -97,6 +104,22 @@ TEST(CommandLine, exits_with_0_1_and_2)
     }
 }
 
+// As programs, headers and logs name a message.
+TEST(CommandLine, knows_a_message_by_whatever_names_it)
+{
+    for (const char* text :
+         {"IFIT_DFX_Query_glbdata_item_mesh", "0X91CD149E", "ifit_dfx_query_glbdata_item_mesh_unpack",
+          "ifit_dfx_query_glbdata_item_mesh_UNPACK_non_root", "ifit_dfx_query_glbdata_item_mesh_free_unpacked",
+          "ifit_dfx_query_glbdata_item_mesh_pack", "ifit_dfx_query_glbdata_item_mesh__unpack",
+          "ifit_dfx_query_glbdata_item_mesh_free__unpacked", "ifit_dfx_query_glbdata_item_mesh__sendtomsg",
+          "IFIT_DFX_QUERY_GLBDATA_ITEM_MESH_ID", "12:00:01 [2] id=0x91cd149e refused",
+          "KESTO/KESTO_MARLOCK_SERIAL level 2 code 12 ifit_dfx_query_glbdata_item_mesh_unpack: [KESTO]:Malloc unpack "
+          "data failed, size(6)"})
+        EXPECT_EQ(kesto(std::string("decode '") + text + "' --line --hex " + hello).output, "{\"f0\":\"hello\"}\n");
+    // A suffix that belongs to the name stays.
+    EXPECT_NE(kesto("show ifit_dfx_query_glbdata_mesh_key_unpack").output.find("0xda64baf0"), std::string::npos);
+}
+
 // The completions that bash offers after the given words.
 std::string completions(const std::string& words)
 {
@@ -115,6 +138,8 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("explain --pcap /dev/nul"), "/dev/null\n");
     EXPECT_EQ(completions("decode --pcap x --message ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
+    EXPECT_EQ(completions("compare --all x /dev/nul"), "/dev/null\n");
+    EXPECT_EQ(completions("decode --names x ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
 }
 
 // Texts that would control a terminal or reverse a line, with their first character as shown.
@@ -225,6 +250,93 @@ TEST_F(Files, text_fields_are_escaped_and_keep_their_value)
     }
 }
 
+TEST_F(Files, names_of_fields_are_used_everywhere_and_change_no_byte)
+{
+    const std::string plain =
+        "{\"f0\":3,\"f1\":[{\"f0\":16,\"f1\":3232235521,\"f2\":\"1700000000250000000\",\"f3\":"
+        "\"73588229205\",\"f4\":1700000000,\"f5\":0,\"f6\":17,\"f7\":0,\"f8\":0,\"f9\":0,\"f10\":0,"
+        "\"f11\":0}]}\n";
+    const std::string named =
+        "{\"f0\":3,\"rows\":[{\"flow\":\"0x00000010\",\"source\":\"192.168.0.1\",\"begin\":"
+        "\"2023-11-14T22:13:20.250000000Z\",\"station\":\"00:11:22:33:44:55\",\"changed\":\"2023-11-14T22:13:20Z\","
+        "\"f5\":0,\"protocol\":\"udp\",\"f7\":0,\"f8\":0,\"f9\":0,\"f10\":0,\"f11\":0}]}\n";
+    const std::string with_names = "KESTO_NAMES=" KESTO_SOURCE_DIR "/tests/data/fields.names";
+    const std::string list = " ifit_flow_base_mesh_update ", a = path("a"), b = path("b"), json = path("json");
+    const auto encode = [&](const std::string& text, const std::string& environment, const std::string& to) {
+        write_file(json, {text.begin(), text.end()});
+        return kesto("encode" + list + json + " -o " + to, environment);
+    };
+    EXPECT_EQ(encode(plain, "", a).exit_code, 0);
+    EXPECT_EQ(encode(named, with_names, b).output, "");
+    EXPECT_EQ(read_file(a), read_file(b));
+    EXPECT_EQ(encode(plain, with_names, b).output, "");
+    EXPECT_EQ(read_file(a), read_file(b));
+    EXPECT_EQ(kesto("decode --line" + list + a).output, plain);
+    EXPECT_EQ(kesto("decode --line" + list + a + " --names " KESTO_SOURCE_DIR "/tests/data/fields.names").output,
+              named);
+    EXPECT_EQ(encode("{\"rows\":[{\"protocol\":99,\"source\":\"10.0.0.1\"}]}", with_names, b).exit_code, 0);
+    const std::string difference = kesto("diff" + list + a + " " + b, with_names).output;
+    EXPECT_NE(difference.find(".rows[0].source: \"192.168.0.1\"  \"10.0.0.1\"\n"), std::string::npos) << difference;
+    EXPECT_NE(difference.find(".rows[0].protocol: \"udp\"  99\n"), std::string::npos) << difference;
+    EXPECT_NE(kesto("explain" + list + a, with_names).output.find(".rows[0].protocol  u8             udp = 17\n"),
+              std::string::npos);
+    EXPECT_EQ(kesto("decode --line ifit_flow_tuplev6_mesh", "echo '{\"source\":\"2001:db8::1\"}' | " + with_names +
+                                                                " " KESTO_PROGRAM " encode ifit_flow_tuplev6_mesh |")
+                  .output.find("[536939960,0,0,1]"),
+              29u);
+    EXPECT_EQ(
+        kesto("list --names reset_statis", "KESTO_NAMES=" KESTO_SOURCE_DIR "/tools/kesto/example.names").exit_code, 0);
+
+    const struct {
+        const char *text, *says;
+    } wrong[] = {
+        {"{\"rows\":[{\"source\":\"10.0.0.256\"}]}", ".rows[0].source: '10.0.0.256' is not as this field is displayed"},
+        {"{\"rows\":[{\"protocol\":\"ip\"}]}", ".rows[0].protocol: 'ip'"},
+        {"{\"rows\":[{\"station\":\"00:11:22:33:44\"}]}", ".rows[0].station: '00:11:22:33:44'"},
+        {"{\"rows\":[{\"begin\":\"2023-11-14T22:13\"}]}", ".rows[0].begin: "},
+        {"{\"rows\":[],\"f1\":[]}", ".f1 and f1 are one field"},
+        {"{\"rows\":[{\"flaw\":0}]}", "flaw: ifit_flow_base_mesh has no such field"},
+    };
+    for (const auto& each : wrong) {
+        const CommandResult result = encode(each.text, with_names, b);
+        EXPECT_EQ(result.exit_code, 2) << each.text;
+        EXPECT_NE(result.output.find(each.says), std::string::npos) << result.output;
+    }
+}
+
+TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
+{
+    const std::string message = "ifit_flow_base_mesh\n";
+    const struct {
+        std::string text;
+        const char* says;
+    } wrong[] = {
+        {" f0 flow\n", ":1: a field stands before any message"},
+        {"# first\n\nifit_flaw_base_mesh\n", ":3: no message 'ifit_flaw_base_mesh'"},
+        {message + message, ":2: ifit_flow_base_mesh stands here a second time"},
+        {"ifit_flow_base_mesh f0 flow", ":1: a message stands alone"},
+        {message + " f12 flow\n", ":2: ifit_flow_base_mesh has no field 'f12', but f0 to f11"},
+        {message + " f0\n", ":2: a name is needed"},
+        {message + " f0 Flow\n", ":2: 'Flow' is no name"},
+        {message + " f0 f1\n", ":2: 'f1' is another field"},
+        {message + " f0 flow\n f1 flow\n", ":3: name 'flow' stands here a second time"},
+        {message + " f0 flow\n f0 source\n", ":3: field 'f0' stands here a second time"},
+        {message + " f0 flow octal\n", ":2: no display 'octal'"},
+        {message + " f0 flow ipv6\n", ":2: f0 is u32, which 'ipv6' cannot show"},
+        {message + " f0 flow hex 5\n", ":2: '5' is too much"},
+        {message + " f6 protocol enum\n", ":2: an enum needs words"},
+        {message + " f6 protocol enum tcp=256\n", ":2: 'tcp=256' is not as in tcp=6"},
+        {message + " f6 protocol enum tcp=6 udp=6\n", ":2: 'udp=6' repeats tcp=6"},
+    };
+    const std::string file = path("names");
+    for (const auto& each : wrong) {
+        write_file(file, {each.text.begin(), each.text.end()});
+        const CommandResult result = kesto("--names " + file + " list");
+        EXPECT_EQ(result.output.find("kesto: " + file + each.says), 0u) << each.text << result.output;
+        EXPECT_EQ(result.exit_code, 2) << each.text;
+    }
+}
+
 #if KESTO_CAN_CAPTURE
 
 // 1: a text, 2: a truncated one, 3: a packet with a wrong length, 4: an unknown id, 5: shorter than a head, 6: like 1.
@@ -322,6 +434,79 @@ TEST_F(Files, packets_are_reported_one_by_one_and_one_bad_one_fails)
         EXPECT_TRUE(each.lines == 0 || std::ranges::count(result.output, '\n') == each.lines) << each.arguments << "\n"
                                                                                               << result.output;
     }
+}
+
+// Sent: 1 a text, 2 the same, 3 another, 4 one that is lost, 5 a packet that is no message.
+TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
+{
+    constexpr std::uint32_t id = 0x91cd149e, other_id = 0x2492d87f;
+    const Bytes text = bytes_from_hex(hello),
+                other = bytes_from_hex("04000000f4ffffff000000000000000008000c0004000800");
+    Bytes changed = text;
+    changed[22] = 'j';
+    Bytes cut = text;
+    cut.resize(26);
+    const auto capture = [&](const char* name, const std::vector<RawPacket>& packets) {
+        Bytes bytes = capture_head(147);
+        for (const RawPacket& packet : packets)
+            add_packet(bytes, packet);
+        write_file(path(name), bytes);
+        return path(name);
+    };
+    const RawPacket hello_packet = packet_of(id, text);
+    const std::string sent = capture(
+        "sent", {hello_packet, hello_packet, packet_of(id, cut), packet_of(other_id, other), packet_of(5, text)});
+    const std::string received = capture("received", {hello_packet, hello_packet, packet_of(5, text), hello_packet,
+                                                      packet_of(id, changed), packet_of(other_id + 1, other)});
+    const auto json_of = [&](const std::string& arguments, int exit_code) {
+        const CommandResult result = kesto(arguments);
+        EXPECT_EQ(result.exit_code, exit_code) << arguments;
+        return nlohmann::json::parse(result.output);
+    };
+
+    const nlohmann::json summary = json_of("summary --json " + sent, 1);
+    EXPECT_EQ(summary.at("packets"), 5);
+    EXPECT_EQ(summary.at("bytes"), 3 * 28 + 26 + 24);
+    EXPECT_EQ(summary.at("refused"), 2);
+    const nlohmann::json& texts = summary.at("messages").at(0);
+    EXPECT_EQ(texts.at("packets"), 3);
+    EXPECT_EQ(texts.at("first"), "2023-11-14T22:13:20.000250Z");
+    EXPECT_EQ(texts.at("refused").dump(),
+              "[{\"code\":\"body_end\",\"first_packet\":3,\"packets\":1,\"path\":\".f0\"}]");
+
+    const nlohmann::json difference = json_of("compare --json " + sent + " " + received, 1);
+    EXPECT_EQ(difference.at("as_sent"), 3);
+    const auto numbers_of = [&](const char* part) {
+        std::string numbers;
+        for (const nlohmann::json& pair : difference.at(part))
+            for (const char* side : {"sent", "received"})
+                numbers += (pair.at(side).is_null() ? "-" : pair.at(side).at("packet").dump()) + " ";
+        return numbers;
+    };
+    EXPECT_EQ(numbers_of("missing"), "4 - ");
+    EXPECT_EQ(numbers_of("twice"), "1 4 ");
+    EXPECT_EQ(numbers_of("changed"), "3 5 ");
+    EXPECT_EQ(numbers_of("unexpected"), "- 6 ");
+    EXPECT_EQ(difference.at("changed").at(0).at("reason"), "sent: refused: body_end at .f0, position 18");
+    EXPECT_EQ(kesto("compare " + sent + " " + sent).exit_code, 0);
+    EXPECT_NE(kesto("compare " + sent + " " + received).output.find("pairs by order within an id: a guess"),
+              std::string::npos);
+
+    write_file(path("text"), changed);
+    EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 " + path("text")).output, ".f0: \"hello\"  \"jello\"\n");
+    EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 --pcap " + received + " --packet 5").output,
+              ".f0: \"hello\"  \"jello\"\n");
+    EXPECT_EQ(kesto("diff --pcap " + received + " --packet 1 --packet 4").exit_code, 0);
+    EXPECT_EQ(kesto("diff --pcap " + received + " --packet 1 --packet 7").exit_code, 2);
+    EXPECT_EQ(kesto("explain --pcap " + sent + " --packet 3 --html " + path("page")).exit_code, 1);
+    EXPECT_NE(read_file(path("page")).find("truncated"), std::string::npos);
+    EXPECT_EQ(kesto("explain --pcap " + sent + " --html " + path("page")).exit_code, 2);
+
+    EXPECT_EQ(run_command("gzip -k " + sent).exit_code, 0);
+    EXPECT_EQ(kesto("compare " + sent + ".gz " + sent).exit_code, 0);
+    EXPECT_EQ(kesto("summary --json -", "cat " + sent + ".gz |").output, kesto("summary --json - <" + sent).output);
+    EXPECT_EQ(run_command("head -c 60 " + sent + ".gz >" + path("cut")).exit_code, 0);
+    EXPECT_EQ(kesto("summary " + path("cut")).exit_code, 2);   // and not a shorter capture
 }
 
 #endif

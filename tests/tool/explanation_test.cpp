@@ -123,6 +123,62 @@ TEST_P(Ranges, cover_every_byte_of_encoded_records_once)
         }
 }
 
+// The length that a note of truncation states; 0 if there is none.
+std::uint64_t announced_length(const Explanation& explanation)
+{
+    for (const command::Note& note : explanation.notes)
+        if (std::string_view(note.code) == "truncated")
+            return std::stoull(note.text.substr(note.text.find_first_of("0123456789")));
+    return 0;
+}
+
+class Lengths : public EveryMessageTest {};
+
+INSTANTIATE_TEST_SUITE_P(All, Lengths, testing::ValuesIn(known_messages()), name_of_case);
+
+TEST_P(Lengths, of_cut_and_of_padded_byte_strings_are_named_and_no_others)
+{
+    const model::Message& known = *find_message(message().name);
+    Random chance(message().id);
+    const bool holds_tables = std::ranges::any_of(message().slots, [](const auto& slot) { return slot.nested; });
+    for (const bool fixed_form : {false, true}) {
+        if (fixed_form && !fixed())
+            continue;
+        const Record record = model::random_record(message(), Density::full, chance);
+        const ByteString whole = fixed_form ? model::fixed_form(record) : model::compact_form(record);
+        for (std::size_t length = 4; length < whole.size(); length += 1 + whole.size() / 200) {
+            const Explanation cut = explain(known, std::span(whole).first(length));
+            if (cut.ignored)
+                continue;   // the verdict tells where the table ends
+            const std::uint64_t announced = announced_length(cut);
+            ASSERT_GT(announced, length) << model::to_hex(whole);
+            ASSERT_LE(announced, whole.size()) << length << " of " << model::to_hex(whole);
+            if (fixed_form || (!holds_tables && length >= 8)) {
+                ASSERT_EQ(announced, whole.size()) << length << " of " << model::to_hex(whole);
+            }
+        }
+        for (const int octet : {0x00, 0xee})
+            for (const std::size_t more : {1u, 3u, 12u}) {
+                ByteString longer = whole;
+                longer.resize(whole.size() + more, static_cast<std::uint8_t>(octet));
+                const Explanation explanation = explain(known, longer);
+                ASSERT_EQ(std::ranges::count_if(explanation.notes,
+                                                [&](const command::Note& note) {
+                                                    return std::string_view(note.code) == "surplus" &&
+                                                           note.position == whole.size() && note.length == more;
+                                                }),
+                          1)
+                    << model::to_hex(longer);
+            }
+        // A word that leads past the end without anything being cut.
+        for (std::size_t at = 4; at + 4 <= whole.size(); at += 1 + whole.size() / 100) {
+            ByteString damaged = whole;
+            damaged[at + 3] |= 0x40;
+            EXPECT_EQ(announced_length(explain(known, damaged)), 0) << at << " in " << model::to_hex(damaged);
+        }
+    }
+}
+
 constexpr char keys[] = "ifit_mcp_mesh_delete";
 constexpr char text_item[] = "ifit_dfx_query_glbdata_item_mesh";
 
@@ -186,7 +242,8 @@ TEST(Notes, report_oddities_that_the_decoder_accepts_silently)
         {keys, damaged(one_element(), 32, "02"), {"field_in_table_head 32 .f1[0].f0", "overlap 36 .f1[0].f0"}},
         {text_item, one_text(), {}},
         {text_item, bytes_from_hex("9e14cd91 04000000 00000000"), {"packet_head 0 ."}},
-        {text_item, bytes_from_hex("9e14cd91 05000000 00000000"), {}},
+        {text_item, bytes_from_hex("9e14cd91 05000000 00000000"), {"packet_head 0 ."}},   // cut, or more after it
+        {text_item, bytes_from_hex("9f14cd91 04000000 00000000"), {}},
         {text_item, damaged(one_text(), 27, "21"), {"table_length 6 .", "text_without_nul 22 .f0", "not_read 27 ."}},
         {text_item, damaged(one_text(), 24, "00"), {"text_with_nul 24 .f0"}},
         {text_item, damaged(one_text(), 24, "ff"), {"text_not_utf8 22 .f0"}},

@@ -1,7 +1,9 @@
 #include "tools/kesto/capture.h"
 
+#include <fcntl.h>
 #include <pcap/pcap.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -9,6 +11,7 @@
 #include <cstring>
 
 #include "model/little_endian.h"
+#include "tools/kesto/gzip_file.h"
 
 namespace kesto::tools {
 
@@ -89,17 +92,22 @@ bool CaptureReader::open(const std::string& path, std::string& error)
     number_ = all_ = 0;
     read_ = file_head;
     next_report_ = report_every;
-    std::FILE* const file = path == "-" ? stdin : std::fopen(path.c_str(), "rb");
+    const int descriptor = path == "-" ? dup(STDIN_FILENO) : ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status;
+    if (descriptor >= 0 && fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+        all_ = static_cast<std::uint64_t>(status.st_size);
+    std::FILE* const file = descriptor < 0 ? nullptr : open_gzip(descriptor);
     if (file == nullptr) {
         error = name_ + ": " + std::strerror(errno);
+        if (descriptor >= 0)
+            close(descriptor);
         return false;
     }
     char reason[PCAP_ERRBUF_SIZE] = "";
     handle_.reset(pcap_fopen_offline(file, reason));   // owns the file if it succeeds
     if (handle_ == nullptr) {
         error = name_ + ": " + reason;
-        if (file != stdin)
-            std::fclose(file);
+        std::fclose(file);
         return false;
     }
     const int link_type = pcap_datalink(handle_.get());
@@ -109,9 +117,6 @@ bool CaptureReader::open(const std::string& path, std::string& error)
         handle_.reset();
         return false;
     }
-    struct stat status;
-    if (fstat(fileno(file), &status) == 0 && S_ISREG(status.st_mode))
-        all_ = static_cast<std::uint64_t>(status.st_size);
     return true;
 }
 

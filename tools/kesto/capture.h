@@ -1,5 +1,6 @@
-// Reads capture files packet by packet. In those of link type USER1, which the tap and the MESH stand-in write, a call
-// head precedes each packet; those of link type USER0 have only packets. platform/standin/capture.h has the layout.
+// Reads capture files packet by packet; they may be compressed with gzip. In those of link type USER1, which the tap and
+// the MESH stand-in write, a call head precedes each packet; those of link type USER0 have only packets.
+// platform/standin/capture.h has the layout.
 #pragma once
 
 #include <cstdint>
@@ -51,7 +52,7 @@ public:
     // False at the end, with a reason in `error` if the file is truncated or damaged.
     [[nodiscard]] bool next(CapturedPacket& packet, std::string& error);
 
-    // Called about every megabyte with the bytes read and the total (0 if unknown, as for a pipe).
+    // Called about every megabyte with the bytes read, after decompression, and the file's (0 if unknown, as for a pipe).
     std::function<void(std::uint64_t read, std::uint64_t all)> progress;
 
 private:

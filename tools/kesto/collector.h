@@ -4,6 +4,7 @@
 #include <array>
 #include <unordered_map>
 
+#include "tools/kesto/names.h"
 #include "tools/kesto/notes.h"
 
 namespace kesto::command {
@@ -44,7 +45,7 @@ private:
     void note_text(const model::Item& item, Table& table);
     void note_table(const Table& table);
     void add(const Range& range);
-    std::string path_text(const model::Path& path) const { return command::path_text(*explanation_.message, path); }
+    std::string path_text(const model::Path& path) const { return field_path(*explanation_.message, path); }
 
     Explanation& explanation_;
     Notes& notes_;

@@ -8,6 +8,7 @@
 
 #include "model/encode.h"
 #include "model/json.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -21,7 +22,7 @@ void warn_of_cut_text(const Record& record)
         const model::Field& field = record.fields[k];
         const bool is_text = record.message->slots[k].kind == Kind::string;
         if (is_text && model::text_length(field.octets) != field.octets.size())
-            complain(fmt::format("{} of {} holds a NUL; text ends there", record.message->slots[k].field,
+            complain(fmt::format("{} of {} holds a NUL; text ends there", field_name(*record.message, k),
                                  record.message->name));
         std::for_each(field.records.begin(), field.records.end(), warn_of_cut_text);
     }
@@ -31,8 +32,15 @@ void warn_of_cut_text(const Record& record)
 
 const Message& message_named(const std::string& name)
 {
-    if (const Message* const found = find_message(name))
-        return *found;
+    const std::vector<const Message*> found = messages_named(name);
+    if (found.size() == 1)
+        return *found.front();
+    if (!found.empty()) {
+        std::vector<std::string> names;
+        for (const Message* message : found)
+            names.push_back(message->name);
+        throw Fault(fmt::format("'{}' names {} messages: {}", name, names.size(), fmt::join(names, ", ")));
+    }
     const std::vector<std::string> similar = suggestions(name);
     const std::string hint = similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", "));
     throw Fault(fmt::format("no message '{}'{}; `kesto list` shows all, `kesto list PART` those whose name holds PART",
@@ -50,10 +58,8 @@ Explanation explain_fully(const Message& message, std::span<const u8> bytes, con
 int explain_bytes(const Message& message, std::span<const u8> bytes, const ExplainChoices& choices)
 {
     const Explanation explanation = explain_fully(message, bytes, choices.options);
-    if (!choices.html.empty()) {
-        const std::string page = explanation_html(explanation);
-        write_bytes(choices.html, page.data(), page.size());
-    }
+    if (!choices.html.empty())
+        write_page(explanation, choices.html);
     if (choices.json)
         print(json_text(explanation_json(explanation), 2) + "\n");
     else if (choices.html.empty())
@@ -98,7 +104,7 @@ int decode_bytes(const Message& message, std::span<const u8> bytes, const Decode
     const std::optional<Record> record = decoded(message, bytes, choices.most_memory, "");
     if (!record)
         return refused;
-    print(json_text(model::record_json(*record), choices.compact_json ? -1 : 2) + "\n");
+    print(json_text(named_json(*record), choices.compact_json ? -1 : 2) + "\n");
     return accepted;
 }
 
@@ -114,7 +120,7 @@ Bytes encoded(const Record& record, Form form)
 
 int encode_json(const Message& message, const std::string& text, const std::string& where, const EncodeChoices& choices)
 {
-    const Record record = model::record_from_json(message, model::parse_json(text, where));
+    const Record record = record_from_named_json(message, model::parse_json(text, where));
     warn_of_cut_text(record);
     const Bytes bytes = encoded(record, choices.form);
     const bool to_terminal = choices.output == "-" && is_terminal_output();

@@ -86,7 +86,7 @@ Record record_of(const Explanation& accepted);
 // The bytes that X__pack writes or that are sent in fixed form. Throws a Fault if the message has no fixed form.
 Bytes encoded(const Record& record, Form form);
 
-// Throws a Fault that suggests names similar to the mistyped one.
+// Throws a Fault that suggests similar names, or lists the messages if the text names several.
 const Message& message_named(const std::string& name);
 
 }   // namespace kesto::command

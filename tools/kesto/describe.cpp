@@ -9,6 +9,7 @@
 #include "model/encode.h"
 #include "model/json.h"
 #include "tools/kesto/commands.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -39,7 +40,7 @@ std::string fields_that(const Message& message, Belongs belongs)
     std::vector<std::string> names;
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         if (belongs(message.slots[k]))
-            names.push_back(message.slots[k].field);
+            names.push_back(field_name(message, k));
     return fmt::format("{}", fmt::join(names, ", "));
 }
 
@@ -84,7 +85,7 @@ void append_fixed_picture(std::string& out, const Message& message)
         const std::string type = slot.kind == Kind::table ? fmt::format("the fixed form of {}, {} bytes",
                                                                         slot.nested->name, slot.nested->fixed_length)
                                                           : slot_text(message.slots[k]);
-        append_line(out, 4 + message.fixed_offsets[k], fmt::format("{}: {}{}", message.slots[k].field, head, type));
+        append_line(out, 4 + message.fixed_offsets[k], fmt::format("{}: {}{}", field_name(message, k), head, type));
     }
     append_line(out, vtable,
                 fmt::format("vtable: length {}, table length {}, {}", message.vtable_length, message.fixed_table_length,
@@ -123,6 +124,7 @@ std::string show_json(const Message& message)
     json["slots"] = ordered_json::array();
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         json["slots"].push_back({{"field", message.slots[k].field},
+                                 {"name", field_name(message, k)},
                                  {"type", slot_text(message.slots[k])},
                                  {"record_32", layout_json(message, k, 4)},
                                  {"record_64", layout_json(message, k, 8)}});
@@ -133,13 +135,13 @@ std::string fields_table(const Message& message)
 {
     std::size_t name = 5, type = 4;
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
-        name = std::max(name, message.slots[k].field.size());
+        name = std::max(name, field_name(message, k).size());
         type = std::max(type, slot_text(message.slots[k]).size());
     }
     std::string out = fmt::format("slot  {:{}}  {:{}}  at/32  size/32  at/64  size/64\n", "field", name, "type", type);
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         fmt::format_to(std::back_inserter(out), "{:>4}  {:{}}  {:{}}  {:>5}  {:>7}  {:>5}  {:>7}\n", k,
-                       message.slots[k].field, name, slot_text(message.slots[k]), type, message.narrow.offsets[k],
+                       field_name(message, k), name, slot_text(message.slots[k]), type, message.narrow.offsets[k],
                        model::member_size(message.slots[k], 4), message.wide.offsets[k],
                        model::member_size(message.slots[k], 8));
     return out;
@@ -182,7 +184,7 @@ int show_message(const Message& message, bool json)
                        message.layout(width).size, message.layout(width).alignment);
     for (std::size_t k = 0; k < message.slots.size(); ++k)
         if (message.slots[k].lenient)
-            fmt::format_to(into, "a refusal of {} is ignored, and the read goes on\n", message.slots[k].field);
+            fmt::format_to(into, "a refusal of {} is ignored, and the read goes on\n", field_name(message, k));
     std::vector<std::string> users;
     for (const Message* user : message.users)
         users.push_back(user->name);

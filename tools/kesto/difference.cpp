@@ -1,9 +1,8 @@
+#include "tools/kesto/difference.h"
+
 #include <fmt/format.h>
 
-#include <nlohmann/json.hpp>
-
-#include "model/json.h"
-#include "tools/kesto/commands.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -11,12 +10,6 @@ namespace kesto::command {
 namespace {
 
 using nlohmann::ordered_json;
-
-struct Difference {
-    std::string path;
-    ordered_json left;   // null if absent
-    ordered_json right;
-};
 
 bool is_record(const ordered_json& json) { return json.is_object() && !json.contains("hex"); }
 
@@ -40,22 +33,37 @@ void collect(const ordered_json& left, const ordered_json& right, const std::str
 
 }   // namespace
 
-int compare(const Record& left, const Record& right, const DiffChoices& choices)
+std::vector<Difference> differences(const Record& left, const Record& right)
 {
     std::vector<Difference> found;
-    collect(model::record_json(left), model::record_json(right), "", found);
+    collect(named_json(left), named_json(right), "", found);
+    return found;
+}
+
+ordered_json differences_json(const std::vector<Difference>& all)
+{
+    ordered_json json = ordered_json::array();
+    for (const Difference& each : all)
+        json.push_back({{"path", each.path}, {"a", each.left}, {"b", each.right}});
+    return json;
+}
+
+std::string difference_line(const Difference& difference, const Colours& colours)
+{
+    return fmt::format("{}: {}  {}\n", colours.name(difference.path), colours.bad(json_text(difference.left, -1)),
+                       colours.good(json_text(difference.right, -1)));
+}
+
+int compare(const Record& left, const Record& right, const DiffChoices& choices)
+{
+    const std::vector<Difference> found = differences(left, right);
     std::string out;
-    if (choices.json) {
-        ordered_json all = ordered_json::array();
-        for (const Difference& each : found)
-            all.push_back({{"path", each.path}, {"a", each.left}, {"b", each.right}});
-        out = json_text(all, 2) + "\n";
-    }
+    if (choices.json)
+        out = json_text(differences_json(found), 2) + "\n";
     const Colours colours = colours_for(choices.colour);
     for (const Difference& each : found)
         if (!choices.json)
-            out += fmt::format("{}: {}  {}\n", colours.name(each.path), colours.bad(json_text(each.left, -1)),
-                               colours.good(json_text(each.right, -1)));
+            out += difference_line(each, colours);
     print(out);
     return found.empty() ? accepted : refused;
 }

@@ -19,6 +19,8 @@ nlohmann::ordered_json explanation_json(const Explanation& explanation);
 nlohmann::ordered_json refused_json(const Explanation& explanation, const Refused& refused);
 std::string explanation_html(const Explanation& explanation);   // a self-contained page
 
+void write_page(const Explanation& explanation, const std::string& file);
+
 // The library's log line: "level 2 code 22 ifit_mcp_mesh_unpack: ...".
 std::string log_line(const model::Event& log);
 

@@ -5,6 +5,7 @@
 
 #include "tools/kesto/explain.h"
 #include "tools/kesto/input.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/page.h"
 
 namespace kesto::command {
@@ -142,7 +143,7 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
     fmt::format_to(std::back_inserter(out),
                    "<div class=\"verdict {0}\"><p><b>{0}: {1}</b> at <code>{2}</code>, position {3}</p><p>{4}{5}{6}</p>"
                    "<p>The library logs {7}</p></div>\n",
-                   word, name_of(failure.refusal), escaped(path_text(*explanation.message, failure.path)),
+                   word, name_of(failure.refusal), escaped(field_path(*explanation.message, failure.path)),
                    failure.position, rule_text(failure), comparison.empty() ? "" : ": ", comparison,
                    refused.log ? "<code>" + escaped(log_line(*refused.log)) + "</code>" : "nothing.");
 }
@@ -194,6 +195,12 @@ std::string explanation_html(const Explanation& explanation)
     fmt::format_to(std::back_inserter(out), "</main>\n<div id=hint hidden></div>\n<script>{}</script>\n</html>\n",
                    page_script);
     return out;
+}
+
+void write_page(const Explanation& explanation, const std::string& file)
+{
+    const std::string page = explanation_html(explanation);
+    write_bytes(file, page.data(), page.size());
 }
 
 }   // namespace kesto::command

@@ -4,6 +4,7 @@
 
 #include "tools/kesto/explain.h"
 #include "tools/kesto/input.h"
+#include "tools/kesto/names.h"
 
 namespace kesto::command {
 
@@ -30,7 +31,7 @@ ordered_json refused_json(const Explanation& explanation, const Refused& refused
     const model::Failure& failure = refused.failure;
     ordered_json json = {
         {"code", name_of(failure.refusal)},
-        {"path", path_text(*explanation.message, failure.path)},
+        {"path", field_path(*explanation.message, failure.path)},
         {"position", failure.position},
         {"value", failure.value},
         {"limit", failure.limit},

@@ -5,6 +5,7 @@
 
 #include "tools/kesto/explain.h"
 #include "tools/kesto/input.h"
+#include "tools/kesto/names.h"
 
 namespace kesto::command {
 
@@ -98,7 +99,7 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
     const model::Failure& failure = refused.failure;
     const std::string head =
         fmt::format("{}: {} at {}, position {}", ignored ? "ignored" : "refused", name_of(failure.refusal),
-                    path_text(*explanation.message, failure.path), failure.position);
+                    field_path(*explanation.message, failure.path), failure.position);
     const std::string comparison = comparison_text(failure);
     fmt::format_to(into, "{}\n", ignored ? colours.odd(head) : colours.bad(head));
     fmt::format_to(into, "    {}{}{}\n", rule_text(failure), comparison.empty() ? "" : ": ", comparison);

@@ -6,6 +6,8 @@
 
 #include "model/encode.h"
 #include "tools/kesto/collector.h"
+#include "tools/kesto/extent.h"
+#include "tools/kesto/packet_head.h"
 
 namespace kesto::command {
 
@@ -61,24 +63,16 @@ void note_sharing(const Explanation& explanation, Notes& notes)
     }
 }
 
-// Such bytes result from copying a whole packet from a capture.
 void note_packet_head(const Explanation& explanation, Notes& notes)
 {
-    const std::span<const u8> bytes = explanation.bytes;
-    constexpr u32 head = 8;
-    if (bytes.size() < head || model::get32(bytes.data() + 4) != bytes.size() - head)
-        return;
-    if (const Message* const named = catalogue().find(model::get32(bytes.data())))
-        notes.add("packet_head", 0, head, ".",
-                  fmt::format("the id of {} and the length of what follows: the head of a packet? Then the byte string "
-                              "begins at {}",
-                              named->name, head));
+    if (const std::optional<PacketHead> head = packet_head_of(explanation.bytes))
+        notes.add("packet_head", 0, PacketHead::length, ".", packet_head_text(*head));
 }
 
 // Fills the gaps with ranges: NULs after texts, bytes between two ranges and bytes after the last.
 class Gaps {
 public:
-    Gaps(Explanation& explanation, Notes& notes) : explanation_(explanation), notes_(notes) {}
+    explicit Gaps(Explanation& explanation) : explanation_(explanation) {}
 
     void fill()
     {
@@ -113,8 +107,6 @@ private:
         // The fixed form rounds up to 8; an enclosing table may then round up to 4.
         const bool padding = zero && next - at <= 7 + 3;
         add(padding ? Part::padding : Part::unread, at, next - at, {});
-        if (!padding && !explanation_.refused && explanation_.left_out == 0)
-            notes_.add("not_read", at, next - at, ".", counted(next - at, "byte") + " that no decoder reads");
     }
 
     void add(Part part, u32 position, u32 length, const Range& owner)
@@ -123,9 +115,19 @@ private:
     }
 
     Explanation& explanation_;
-    Notes& notes_;
     Range text_;   // the last text
 };
+
+// Up to `end`, where another note begins.
+void note_unread(const Explanation& explanation, u64 end, Notes& notes)
+{
+    if (explanation.refused || explanation.left_out != 0)
+        return;
+    for (const Range& range : explanation.ranges)
+        if (range.part == Part::unread && range.position < end)
+            notes.add("not_read", range.position, range.length, ".",
+                      counted(range.length, "byte") + " that no decoder reads");
+}
 
 // ---- which writer ----
 
@@ -199,13 +201,14 @@ Explanation explain(const Message& message, std::span<const u8> bytes, const Exp
     collector.finish();
     merge_equal(explanation.ranges);
     note_sharing(explanation, notes);
-    Gaps(explanation, notes).fill();
+    Gaps(explanation).fill();
     if (explanation.refused)
         note_packet_head(explanation, notes);
     if (!explanation.refused && explanation.record_memory > most_of_written(bytes.size()))
         explanation.origin = Origin::other;
     else if (!explanation.refused && explanation.record_memory <= options.most_memory)
         explanation.origin = origin_of(message, bytes);
+    note_unread(explanation, note_extent(explanation, notes), notes);
     explanation.notes = notes.all();
     return explanation;
 }

@@ -6,7 +6,7 @@ _kesto()
     local before=${COMP_WORDS[COMP_CWORD - 1]}
     COMPREPLY=()
     if ((COMP_CWORD == 1)); then
-        mapfile -t COMPREPLY < <(compgen -W "explain decode encode diff list show size --help --version" -- "$word")
+        mapfile -t COMPREPLY < <(compgen -W "explain decode encode diff summary compare list show size --names --help --version" -- "$word")
         return
     fi
     case $before in
@@ -14,6 +14,7 @@ _kesto()
         --input-format) mapfile -t COMPREPLY < <(compgen -W "auto bytes hex" -- "$word"); return ;;
         --form) mapfile -t COMPREPLY < <(compgen -W "sent compact fixed" -- "$word"); return ;;
         --pointers) mapfile -t COMPREPLY < <(compgen -W "32 64" -- "$word"); return ;;
+        --names) [[ $command == list ]] || { mapfile -t COMPREPLY < <(compgen -f -- "$word"); return; } ;;
         -o | --output | --html | --pcap) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
         --message)
             mapfile -t COMPREPLY < <(compgen -W "$("$program" list --names 2>/dev/null)" -- "$word")
@@ -27,12 +28,20 @@ _kesto()
             grep -oE '^ +-[-a-z,]+' | tr ',' ' ')" -- "$word")
         return
     fi
+    if [[ $command == summary || $command == compare ]]; then
+        mapfile -t COMPREPLY < <(compgen -f -- "$word")
+        return
+    fi
     for ((i = 2; i < COMP_CWORD; ++i)); do
         case ${COMP_WORDS[i]} in
+            --names) [[ $command == list ]] || ((++i)) ;;
             --color | --input-format | --form | --pointers | -o | --output | --html | --memory | --message | --packet)
                 ((++i))
                 ;;
-            --pcap) return ;;   # replaces message and file
+            --pcap)   # replaces message and file
+                [[ $command != diff ]] || mapfile -t COMPREPLY < <(compgen -f -- "$word")
+                return
+                ;;
             --hex) [[ $command == encode ]] || ((++i)) ;;
             --raw) ((++words)) ;;   # replaces the message
             -?*) ;;

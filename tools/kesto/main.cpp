@@ -5,8 +5,8 @@
 #include <nlohmann/json.hpp>
 
 #include "model/json.h"
-#include "tools/kesto/commands.h"
-#include "tools/kesto/packets.h"
+#include "tools/kesto/glance.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace {
@@ -18,6 +18,8 @@ const std::map<std::string, InputFormat> input_formats{
 const std::map<std::string, ColourChoice> colour_choices{
     {"auto", ColourChoice::automatic}, {"always", ColourChoice::always}, {"never", ColourChoice::never}};
 const std::map<std::string, Form> forms{{"sent", Form::as_sent}, {"compact", Form::compact}, {"fixed", Form::fixed}};
+
+constexpr const char message_help[] = "the message: its name, its id, a routine of it, or the log line that names one";
 
 template <class Value>
 CLI::Option* add_choice(CLI::App& app, const std::string& name, Value& value,
@@ -59,7 +61,7 @@ struct Source {
 
     void add_to(CLI::App& app)
     {
-        CLI::Option* const name = app.add_option("MESSAGE", message, "name or id of the message");
+        CLI::Option* const name = app.add_option("MESSAGE", message, message_help);
         CLI::Option* const path = app.add_option("FILE", file, "the byte string; - for standard input (the default)");
         add_format(app, format);
         CLI::Option* const text = app.add_option("--hex", hex, "the byte string itself, as in \"04 00 00 00\"");
@@ -71,7 +73,7 @@ struct Source {
             ->type_name("N")
             ->needs(capture)
             ->check(CLI::Range(u32{1}, UINT32_MAX));
-        app.add_option("--message", packets_of, "of a capture: only the packets of this message, by name or id")
+        app.add_option("--message", packets_of, "of a capture: only the packets of this message")
             ->type_name("NAME")
             ->needs(capture);
     }
@@ -89,7 +91,7 @@ struct Source {
     const Message& message_meant() const
     {
         if (message.empty())
-            throw Fault("a MESSAGE is needed, by name or id; `kesto explain --raw` does without, and --pcap");
+            throw Fault("a MESSAGE is needed, by name, id or log line; `kesto explain --raw` does without, and --pcap");
         return message_named(message);
     }
 
@@ -119,7 +121,6 @@ struct Explain {
         CLI::Option* const html = self.add_option("--html", choices.html, "write a page to look at in a browser");
         html->type_name("FILE");
         self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")->excludes(html);
-        html->excludes("--pcap");
         self.add_flag("--all", choices.whole, "show long payloads to the last byte");
         self.add_option_function<u32>(
                 "--pointers", [this](u32 bits) { choices.options.pointer_width = bits / 8; },
@@ -130,6 +131,8 @@ struct Explain {
 
     int run()
     {
+        if (source.is_capture() && !choices.html.empty() && source.packets.number == 0)
+            throw Fault("--html takes one packet of a capture: --packet is needed");
         if (source.is_capture())
             return raw ? explain_raw_packets(source.packets_meant(), choices.json)
                        : explain_packets(source.packets_meant(), choices);
@@ -171,7 +174,7 @@ struct Encode {
     explicit Encode(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("encode", "Write the bytes of a record that is given as JSON");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_option("FILE", file, "the JSON; - for standard input (the default)");
         add_choice(self, "--form", choices.form, forms, "compact as X__pack writes it, fixed, or the one that is sent");
         self.add_option("-o,--output", choices.output, "the file to write")->type_name("FILE");
@@ -187,6 +190,8 @@ struct Encode {
 
 struct Diff {
     std::string message, left, right;
+    std::vector<std::string> captures;
+    std::vector<u64> packets;
     InputFormat format = InputFormat::automatic;
     DiffChoices choices;
     u64 most_memory = DecodeChoices{}.most_memory;
@@ -194,25 +199,93 @@ struct Diff {
     explicit Diff(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("diff", "Compare the records of two byte strings, whatever their forms");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
-        self.add_option("A", left, "a byte string; - for standard input")->required();
-        self.add_option("B", right, "another")->required();
+        self.add_option("MESSAGE", message, message_help);
+        self.add_option("A", left, "a byte string; - for standard input");
+        self.add_option("B", right, "another");
+        CLI::Option* const capture =
+            self.add_option("--pcap", captures, "a capture with one of the packets; twice for two captures")
+                ->type_name("FILE")
+                ->allow_extra_args(false);
+        self.add_option("--packet", packets, "a packet instead of A; twice for A and B")
+            ->type_name("N")
+            ->needs(capture)
+            ->allow_extra_args(false);
         add_format(self, format);
         add_colour(self, choices.colour);
         self.add_flag("--json", choices.json, "print JSON");
         add_memory(self, most_memory);
     }
 
-    Record read(const std::string& file) const
+    Record read(const Message& of, const Bytes& bytes, const std::string& where) const
     {
-        const Bytes bytes = read_bytes(file, format);
-        std::optional<Record> record = decoded(message_named(message), bytes, most_memory, file);
+        std::optional<Record> record = decoded(of, bytes, most_memory, where);
         if (!record)
             throw Fault("refused, so there is nothing to compare");
         return *record;
     }
 
-    int run() const { return compare(read(left), read(right), choices); }
+    // With one packet, the only word on the command line is the file of the other byte string.
+    int run_with_packets() const
+    {
+        const bool is_one = packets.size() == 1;
+        if (packets.empty() || packets.size() > 2 || captures.size() > packets.size())
+            throw Fault("--packet is needed once or twice, --pcap as often or once");
+        if (is_one == message.empty() || !left.empty())
+            throw Fault(is_one ? "one --packet is compared with one FILE; two packets with each other"
+                               : "two packets are compared without MESSAGE, A and B");
+        const PacketCopy a = message_packet(captures.front(), packets.front());
+        const std::string name = "packet " + std::to_string(a.number);
+        if (is_one)
+            return compare(read(*a.message, a.bytes, name), read(*a.message, read_bytes(message, format), message),
+                           choices);
+        const PacketCopy b = message_packet(captures.back(), packets.back());
+        if (a.message != b.message)
+            throw Fault("the packets are different messages: " + a.message->name + ", " + b.message->name);
+        return compare(read(*a.message, a.bytes, name), read(*b.message, b.bytes, "packet " + std::to_string(b.number)),
+                       choices);
+    }
+
+    int run() const
+    {
+        if (!captures.empty())
+            return run_with_packets();
+        if (right.empty())
+            throw Fault("MESSAGE, A and B are needed, or --pcap and --packet");
+        const Message& of = message_named(message);
+        return compare(read(of, read_bytes(left, format), left), read(of, read_bytes(right, format), right), choices);
+    }
+};
+
+struct Summary {
+    std::string file;
+    GlanceChoices choices;
+
+    explicit Summary(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("summary", "Show what a capture holds, message by message");
+        self.add_option("CAPTURE", file, "the capture; - for standard input")->required();
+        add_colour(self, choices.colour);
+        self.add_flag("--json", choices.json, "print JSON");
+    }
+
+    int run() const { return summarise_capture(file, choices); }
+};
+
+struct Compare {
+    std::string sent, received;
+    GlanceChoices choices;
+
+    explicit Compare(CLI::App& app)
+    {
+        CLI::App& self = *app.add_subcommand("compare", "Show which packets are missing, doubled or changed");
+        self.add_option("SENT", sent, "the sender's capture")->required();
+        self.add_option("RECEIVED", received, "the receiver's")->required();
+        add_colour(self, choices.colour);
+        self.add_flag("--json", choices.json, "print JSON, with everything");
+        self.add_flag("--all", choices.whole, "list all packets and fields that differ");
+    }
+
+    int run() const { return compare_captures(sent, received, choices); }
 };
 
 struct List {
@@ -237,7 +310,7 @@ struct Show {
     explicit Show(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("show", "Show a message's slots, record and wire forms");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_flag("--json", json, "print JSON");
     }
 
@@ -251,7 +324,7 @@ struct Size {
     explicit Size(CLI::App& app)
     {
         CLI::App& self = *app.add_subcommand("size", "Show the lengths of a message, or of a record given as JSON");
-        self.add_option("MESSAGE", message, "name or id of the message")->required();
+        self.add_option("MESSAGE", message, message_help)->required();
         self.add_option("FILE", file, "the JSON; - for standard input");
         self.add_flag("--json", json, "print JSON");
     }
@@ -261,7 +334,7 @@ struct Size {
         const Message& meant = message_named(message);
         if (file.empty())
             return show_sizes(meant, json);
-        return show_sizes(kesto::model::record_from_json(meant, kesto::model::parse_json(read_text(file), file)), json);
+        return show_sizes(record_from_named_json(meant, kesto::model::parse_json(read_text(file), file)), json);
     }
 };
 
@@ -270,10 +343,17 @@ int run(int argc, char** argv)
     CLI::App app("Explains, decodes, encodes and compares KESTO byte strings.", "kesto");
     app.require_subcommand(1);
     app.set_version_flag("--version", KESTO_VERSION);
+    app.fallthrough();   // options of the program may follow the sub-command
+    std::string names_file;
+    app.add_option("--names", names_file, "a file with names of fields, and how to show them")
+        ->type_name("FILE")
+        ->envname("KESTO_NAMES");
     Explain explain(app);
     Decode decode(app);
     Encode encode(app);
     Diff diff(app);
+    Summary summary(app);
+    Compare compare(app);
     List list(app);
     Show show(app);
     Size size(app);
@@ -285,6 +365,8 @@ int run(int argc, char** argv)
         complain(error.what() + std::string("; --help tells more"));
         return unusable;
     }
+    if (!names_file.empty())
+        names().read(read_text(names_file), names_file);
     const std::string& chosen = app.get_subcommands().front()->get_name();
     if (chosen == "explain")
         return explain.run();
@@ -294,6 +376,10 @@ int run(int argc, char** argv)
         return encode.run();
     if (chosen == "diff")
         return diff.run();
+    if (chosen == "summary")
+        return summary.run();
+    if (chosen == "compare")
+        return compare.run();
     if (chosen == "list")
         return list.run();
     if (chosen == "show")

@@ -13,7 +13,6 @@ using model::Bytes;
 using model::catalogue;
 using model::Kind;
 using model::Message;
-using model::path_text;
 using model::Record;
 using model::Slot;
 using model::slot_text;
@@ -21,10 +20,14 @@ using model::u32;
 using model::u64;
 using model::u8;
 
-// Finds a message by name, or by id as 0x2492d87f or in decimal; null if there is none.
-const Message* find_message(std::string_view name_or_id);
+// The messages that a text names, in any case: by name, by id as 0x2492d87f or in decimal, by a routine as in
+// X_unpack_non_root or X__pack, or by X_ID. The text may be a whole log line.
+std::vector<const Message*> messages_named(std::string_view text);
+
+// Null unless the text names exactly one message.
+const Message* find_message(std::string_view text);
 
 // Names similar to a mistyped one, the likeliest first.
-std::vector<std::string> suggestions(std::string_view name);
+std::vector<std::string> suggestions(std::string_view text);
 
 }   // namespace kesto::command

@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <nlohmann/json.hpp>
 
-#include "model/json.h"
 #include "tools/kesto/capture.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
 
@@ -202,7 +202,7 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
         json["refused"] = refused_json(verdict, *verdict.refused);
         result = refused;
     } else {
-        json["record"] = model::record_json(record_of(verdict));
+        json["record"] = named_json(record_of(verdict));
     }
     print_line(json);
     return result;
@@ -211,11 +211,13 @@ int decode_packet(const Reading& reading, const DecodeChoices& choices)
 int explain_packet(const Reading& reading, const ExplainChoices& choices, const Colours& colours)
 {
     const Explanation explanation = explain_fully(*reading.message, reading.packet.bytes, choices.options);
+    if (!choices.html.empty())
+        write_page(explanation, choices.html);
     if (choices.json) {
         ordered_json json = head_json(reading);
         json.update(explanation_json(explanation));
         print_line(json);
-    } else {
+    } else if (choices.html.empty()) {
         print(fmt::format("{}\n{}\n", head_text(reading.packet),
                           explanation_text(explanation, {colours, choices.whole})));
     }
@@ -223,6 +225,19 @@ int explain_packet(const Reading& reading, const ExplainChoices& choices, const 
 }
 
 }   // namespace
+
+void for_every_packet(const std::string& file, u64 number, const std::function<void(const PacketView&)>& see)
+{
+    PacketChoices which;
+    which.file = file;
+    which.number = number;
+    (void)for_each_packet(which, [&](const Reading& reading) {
+        const CapturedPacket& packet = reading.packet;
+        see({packet.number, time_text(packet), packet.id, reading.message,
+             is_message(reading) ? nullptr : fault_name(reading), packet.bytes});
+        return int{accepted};
+    });
+}
 
 int explain_packets(const PacketChoices& which, const ExplainChoices& choices)
 {

@@ -8,6 +8,7 @@ namespace {
 
 }   // namespace
 
+void for_every_packet(const std::string&, u64, const std::function<void(const PacketView&)>&) { fail(); }
 int explain_packets(const PacketChoices&, const ExplainChoices&) { fail(); }
 int explain_raw_packets(const PacketChoices&, bool) { fail(); }
 int decode_packets(const PacketChoices&, const DecodeChoices&) { fail(); }

@@ -257,6 +257,9 @@ RawView look_at(std::span<const u8> bytes)
 {
     RawView view;
     view.length = bytes.size();
+    view.packet_head = packet_head_of(bytes);
+    if (view.packet_head)
+        bytes = bytes.subspan(PacketHead::length);
     view.has_root_table = Guesser(bytes, view.lines).root();
     if (bytes.size() <= most_bytes_tried)
         view.fitting = fitting_messages(bytes, most_read_by_all);
@@ -266,6 +269,9 @@ RawView look_at(std::span<const u8> bytes)
 std::string raw_text(const RawView& view)
 {
     std::string out = fmt::format("{}\n\n", counted(view.length, "byte"));
+    if (view.packet_head)
+        fmt::format_to(std::back_inserter(out), "{}, and positions count from there\n\n",
+                       packet_head_text(*view.packet_head));
     for (const RawLine& line : view.lines)
         fmt::format_to(std::back_inserter(out), "{:>6}  {:{}}{}\n", line.position, "", 2 * line.depth, line.text);
     out += "\n";
@@ -278,6 +284,10 @@ nlohmann::ordered_json raw_json(const RawView& view)
 {
     nlohmann::ordered_json json;
     json["length"] = view.length;
+    json["packet_head"] = view.packet_head ? nlohmann::ordered_json{{"message", view.packet_head->message->name},
+                                                                    {"stated", view.packet_head->stated},
+                                                                    {"present", view.packet_head->present}}
+                                           : nlohmann::ordered_json();
     json["root_table"] = view.has_root_table;
     json["lines"] = nlohmann::ordered_json::array();
     for (const RawLine& line : view.lines)

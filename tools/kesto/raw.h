@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "tools/kesto/commands.h"
+#include "tools/kesto/packet_head.h"
 
 namespace kesto::command {
 
@@ -16,6 +17,7 @@ struct RawLine {
 
 struct RawView {
     u64 length = 0;
+    std::optional<PacketHead> packet_head;   // of a whole packet; everything else is about the byte string after it
     bool has_root_table = false;
     std::vector<RawLine> lines;
     std::optional<Fitting> fitting;   // none if the byte string is too long to try

@@ -1,6 +1,7 @@
 #include <fmt/format.h>
 
 #include "tools/kesto/explanation.h"
+#include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
 namespace kesto::command {
@@ -80,13 +81,24 @@ std::string distance_text(u32 table, u32 distance)
                        table - distance, wrap_text(!is_behind && distance > table));
 }
 
+// With the number of a word or a time; an address and a hex number are numbers themselves.
+std::string displayed_scalar(const Explanation& explanation, const Range& range)
+{
+    const std::string text = displayed(*range.message, slot_number(range), explanation.bytes.data() + range.position);
+    const FieldView* const view = names().find(*range.message, slot_number(range));
+    const bool with_number = view != nullptr && view->display >= Display::time;
+    return text.empty() || !with_number ? text : fmt::format("{} = {}", text, range.value);
+}
+
 constexpr std::size_t most_in_a_value = 100;
 
 std::string payload_text(const Explanation& explanation, const Range& range)
 {
     const u8* const bytes = explanation.bytes.data() + range.position;
     const Slot& slot = slot_of(range);
-    std::string text;
+    std::string text = slot.kind == Kind::array ? displayed(*range.message, slot_number(range), bytes) : "";
+    if (!text.empty())
+        return text;
     if (slot.kind == Kind::string) {
         text = quoted(bytes, std::min<std::size_t>(range.length, most_in_a_value));
         return range.length > most_in_a_value ? text + "..." : text;
@@ -110,7 +122,7 @@ std::string counted(u64 count, const char* thing)
 
 std::string path_text(const Explanation& explanation, const Range& range)
 {
-    return path_text(*explanation.message, range.path);
+    return field_path(*explanation.message, range.path);
 }
 
 std::string kind_text(const Range& range)
@@ -148,6 +160,8 @@ std::string value_text(const Explanation& explanation, const Range& range)
     case Part::slot:
         return value == 0 ? "absent" : fmt::format("at {} + {} = {}", range.table, value, range.table + value);
     case Part::scalar:
+        if (const std::string text = displayed_scalar(explanation, range); !text.empty())
+            return text;
         return range.value < 10 ? fmt::format("{}", range.value) : fmt::format("{0} = {0:#x}", range.value);
     case Part::cell:
     case Part::element_cell: {

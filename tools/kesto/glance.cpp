@@ -1,0 +1,401 @@
+#include "tools/kesto/glance.h"
+
+#include <fmt/format.h>
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <unordered_map>
+
+#include "tools/kesto/difference.h"
+#include "tools/kesto/names.h"
+#include "tools/kesto/quoting.h"
+
+namespace kesto::command {
+
+namespace {
+
+using nlohmann::ordered_json;
+
+constexpr u64 most_read_of_a_packet = 16 << 20;   // repeated reads count again
+
+std::string hex_id(u32 id) { return fmt::format("{:#010x}", id); }
+
+std::string message_title(u32 id, const Message* message)
+{
+    return fmt::format("{} {}", hex_id(id), message == nullptr ? "(no message has this id)" : message->name);
+}
+
+ordered_json message_name(const Message* message)
+{
+    return message == nullptr ? ordered_json() : ordered_json(message->name);
+}
+
+// ---- summary ----
+
+using Reason = std::pair<std::string, std::string>;   // code, and path without element numbers
+
+struct Refusals {
+    u64 packets = 0;
+    u64 first = 0;   // number of a packet
+};
+
+struct MessageTotal {
+    const Message* message = nullptr;
+    u64 packets = 0;
+    u64 bytes = 0;
+    std::string first, last;   // times
+    std::map<Reason, Refusals> refused;
+};
+
+struct Summary {
+    u64 packets = 0;
+    u64 bytes = 0;
+    u64 refused = 0;
+    std::map<u32, MessageTotal> by_id;
+
+    // The most frequent first.
+    std::vector<const std::pair<const u32, MessageTotal>*> sorted() const
+    {
+        std::vector<const std::pair<const u32, MessageTotal>*> all;
+        for (const auto& each : by_id)
+            all.push_back(&each);
+        std::ranges::stable_sort(all, std::greater(), [](const auto* each) { return each->second.packets; });
+        return all;
+    }
+};
+
+// The most frequent first.
+std::vector<std::pair<Reason, Refusals>> sorted(const std::map<Reason, Refusals>& refused)
+{
+    std::vector<std::pair<Reason, Refusals>> all(refused.begin(), refused.end());
+    std::ranges::stable_sort(all, std::greater(), [](const auto& each) { return each.second.packets; });
+    return all;
+}
+
+std::optional<Reason> reason_of(const PacketView& packet)
+{
+    if (packet.fault != nullptr)
+        return Reason{packet.fault, ""};
+    const Explanation verdict = explain(*packet.message, packet.bytes,
+                                        {.most_ranges = 0, .most_memory = 0, .most_read = most_read_of_a_packet});
+    if (verdict.given_up)
+        return Reason{"not_tested", ""};
+    if (!verdict.refused)
+        return {};
+    model::Path path = verdict.refused->failure.path;
+    for (model::Path::Step& step : path.steps)
+        step.element = -1;
+    return Reason{name_of(verdict.refused->failure.refusal), field_path(*packet.message, path)};
+}
+
+Summary summary_of(const std::string& file)
+{
+    Summary summary;
+    for_every_packet(file, 0, [&](const PacketView& packet) {
+        MessageTotal& total = summary.by_id[packet.id];
+        if (total.packets++ == 0)
+            total.first = packet.time;
+        total.last = packet.time;
+        total.message = packet.message;
+        total.bytes += packet.bytes.size();
+        ++summary.packets;
+        summary.bytes += packet.bytes.size();
+        if (const std::optional<Reason> reason = reason_of(packet)) {
+            ++summary.refused;
+            Refusals& refusals = total.refused[*reason];
+            if (refusals.packets++ == 0)
+                refusals.first = packet.number;
+        }
+    });
+    return summary;
+}
+
+ordered_json summary_json(const std::string& file, const Summary& summary)
+{
+    ordered_json json = {{"capture", file},
+                         {"packets", summary.packets},
+                         {"bytes", summary.bytes},
+                         {"refused", summary.refused},
+                         {"messages", ordered_json::array()}};
+    for (const auto* each : summary.sorted()) {
+        const auto& [id, total] = *each;
+        ordered_json refused = ordered_json::array();
+        for (const auto& [reason, refusals] : sorted(total.refused))
+            refused.push_back({{"code", reason.first},
+                               {"path", reason.second},
+                               {"packets", refusals.packets},
+                               {"first_packet", refusals.first}});
+        json["messages"].push_back({{"id", hex_id(id)},
+                                    {"message", message_name(total.message)},
+                                    {"packets", total.packets},
+                                    {"bytes", total.bytes},
+                                    {"first", total.first},
+                                    {"last", total.last},
+                                    {"refused", refused}});
+    }
+    return json;
+}
+
+std::string summary_text(const std::string& file, const Summary& summary, const Colours& colours)
+{
+    std::string out = fmt::format(
+        "{}: {}, {}, {}\n", visible(file), counted(summary.packets, "packet"), counted(summary.bytes, "byte"),
+        summary.refused == 0 ? colours.good("none refused") : colours.bad(fmt::format("{} refused", summary.refused)));
+    const auto into = std::back_inserter(out);
+    for (const auto* each : summary.sorted()) {
+        const auto& [id, total] = *each;
+        fmt::format_to(into, "\n{:>7}  {}\n         {}, {} to {}\n", total.packets,
+                       colours.bold(message_title(id, total.message)), counted(total.bytes, "byte"), total.first,
+                       total.last);
+        for (const auto& [reason, refusals] : sorted(total.refused))
+            fmt::format_to(into, "{:>7}  {}{}, first in packet {}\n", refusals.packets,
+                           colours.bad("refused: " + reason.first),
+                           reason.second.empty() ? "" : " at " + colours.name(reason.second), refusals.first);
+    }
+    return out;
+}
+
+// ---- comparison ----
+
+struct CapturedSide {
+    std::string file;
+    std::vector<PacketCopy> packets;
+    u64 bytes = 0;
+};
+
+CapturedSide side_of(const std::string& file)
+{
+    CapturedSide side{file, {}, 0};
+    for_every_packet(file, 0, [&](const PacketView& packet) {
+        side.packets.push_back({packet.number,
+                                packet.time,
+                                packet.id,
+                                packet.message,
+                                packet.fault,
+                                {packet.bytes.begin(), packet.bytes.end()}});
+        side.bytes += packet.bytes.size();
+    });
+    return side;
+}
+
+// Id and bytes.
+std::string content_of(const PacketCopy& packet)
+{
+    std::string content(packet.bytes.begin(), packet.bytes.end());
+    for (u32 i = 0; i < 4; ++i)
+        content += static_cast<char>(packet.id >> 8 * i);
+    return content;
+}
+
+using Pair = std::pair<const PacketCopy*, const PacketCopy*>;   // sent, received; one of them may be null
+
+struct Comparison {
+    u64 as_sent = 0;
+    std::vector<Pair> missing, twice, changed, unexpected;
+
+    bool is_same() const { return missing.empty() && twice.empty() && changed.empty() && unexpected.empty(); }
+};
+
+Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
+{
+    struct Copies {
+        std::vector<const PacketCopy*> sent, received;
+    };
+    std::unordered_map<std::string, Copies> by_content;
+    for (const PacketCopy& packet : sent.packets)
+        by_content[content_of(packet)].sent.push_back(&packet);
+    for (const PacketCopy& packet : received.packets)
+        by_content[content_of(packet)].received.push_back(&packet);
+
+    Comparison comparison;
+    std::map<u32, Copies> left;   // by id
+    for (const auto& [content, copies] : by_content) {
+        const std::size_t both = std::min(copies.sent.size(), copies.received.size());
+        comparison.as_sent += both;
+        for (std::size_t i = both; i < copies.sent.size(); ++i)
+            left[copies.sent[i]->id].sent.push_back(copies.sent[i]);
+        for (std::size_t i = both; i < copies.received.size(); ++i)
+            if (both == 0)
+                left[copies.received[i]->id].received.push_back(copies.received[i]);
+            else
+                comparison.twice.emplace_back(copies.sent.front(), copies.received[i]);
+    }
+    for (auto& [id, copies] : left) {
+        std::ranges::sort(copies.sent, {}, &PacketCopy::number);
+        std::ranges::sort(copies.received, {}, &PacketCopy::number);
+        for (std::size_t i = 0; i < std::max(copies.sent.size(), copies.received.size()); ++i) {
+            const Pair pair{i < copies.sent.size() ? copies.sent[i] : nullptr,
+                            i < copies.received.size() ? copies.received[i] : nullptr};
+            (pair.second == nullptr  ? comparison.missing
+             : pair.first == nullptr ? comparison.unexpected
+                                     : comparison.changed)
+                .push_back(pair);
+        }
+    }
+    const auto number_of = [](const Pair& pair) { return (pair.first == nullptr ? pair.second : pair.first)->number; };
+    for (std::vector<Pair>* pairs :
+         {&comparison.missing, &comparison.twice, &comparison.changed, &comparison.unexpected})
+        std::ranges::stable_sort(*pairs, {}, number_of);
+    return comparison;
+}
+
+// Of a changed packet: the records' differences, or why there are no records.
+struct Change {
+    std::vector<Difference> fields;
+    std::string text;   // instead of fields
+};
+
+Change change_of(const Pair& pair)
+{
+    std::vector<Record> records;
+    for (const auto& [side, packet] : {std::pair("sent", pair.first), std::pair("received", pair.second)}) {
+        if (packet->fault != nullptr)
+            return {{}, fmt::format("{}: no message: {}", side, packet->fault)};
+        const Explanation verdict = explain_verdict(*packet->message, packet->bytes, DecodeChoices{}.most_memory);
+        if (verdict.given_up)
+            return {{}, fmt::format("{}: {}", side, given_up_text(DecodeChoices{}.most_memory))};
+        if (verdict.refused)
+            return {{},
+                    fmt::format("{}: refused: {} at {}, position {}", side, name_of(verdict.refused->failure.refusal),
+                                field_path(*packet->message, verdict.refused->failure.path),
+                                verdict.refused->failure.position)};
+        records.push_back(record_of(verdict));
+    }
+    std::vector<Difference> fields = differences(records[0], records[1]);
+    return {fields, fields.empty() ? "the same record in other bytes" : ""};
+}
+
+ordered_json packet_json(const PacketCopy* packet)
+{
+    if (packet == nullptr)
+        return nullptr;
+    return {{"packet", packet->number}, {"time", packet->time}, {"length", packet->bytes.size()}};
+}
+
+ordered_json pairs_json(const std::vector<Pair>& pairs, bool with_change)
+{
+    ordered_json json = ordered_json::array();
+    for (const Pair& pair : pairs) {
+        const PacketCopy& packet = pair.first == nullptr ? *pair.second : *pair.first;
+        ordered_json& each = json.emplace_back(ordered_json{{"id", hex_id(packet.id)},
+                                                            {"message", message_name(packet.message)},
+                                                            {"sent", packet_json(pair.first)},
+                                                            {"received", packet_json(pair.second)}});
+        if (!with_change)
+            continue;
+        const Change change = change_of(pair);
+        each["fields"] = differences_json(change.fields);
+        each["reason"] = change.text;
+    }
+    return json;
+}
+
+class ComparisonText {
+public:
+    explicit ComparisonText(const GlanceChoices& choices) : choices_(choices), colours_(colours_for(choices.colour)) {}
+
+    std::string of(const CapturedSide& sent, const CapturedSide& received, const Comparison& comparison)
+    {
+        for (const CapturedSide* side : {&sent, &received})
+            line("{} {}: {}, {}\n", side == &sent ? "sent    " : "received", visible(side->file),
+                 counted(side->packets.size(), "packet"), counted(side->bytes, "byte"));
+        line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
+        add_section("did not arrive", comparison.missing);
+        add_section("arrived more often than sent", comparison.twice);
+        add_section("arrived changed", comparison.changed,
+                    "Packets pair by id and bytes. What is left pairs by order within an id: a guess.\n");
+        add_section("arrived without having been sent", comparison.unexpected);
+        return out_;
+    }
+
+private:
+    template <class... Values>
+    void line(fmt::format_string<Values...> format, Values&&... values)
+    {
+        fmt::format_to(std::back_inserter(out_), format, std::forward<Values>(values)...);
+    }
+
+    void add_section(const char* head, const std::vector<Pair>& pairs, const char* remark = "")
+    {
+        if (pairs.empty())
+            return;
+        line("\n{}\n{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark);
+        const std::size_t shown = choices_.whole ? pairs.size() : std::min(pairs.size(), most_pairs);
+        for (std::size_t i = 0; i < shown; ++i)
+            add_pair(pairs[i], *remark != 0);
+        if (shown < pairs.size())
+            line("    and {} more; --all lists them\n", pairs.size() - shown);
+    }
+
+    void add_pair(const Pair& pair, bool with_change)
+    {
+        const PacketCopy& packet = pair.first == nullptr ? *pair.second : *pair.first;
+        line("    {}\n", colours_.bold(message_title(packet.id, packet.message)));
+        for (const auto& [side, each] : {std::pair("sent    ", pair.first), std::pair("received", pair.second)})
+            if (each != nullptr)
+                line("        {} {:>6}, {}, {}\n", side, each->number, each->time, counted(each->bytes.size(), "byte"));
+        if (!with_change)
+            return;
+        const Change change = change_of(pair);
+        if (!change.text.empty())
+            line("        {}\n", change.text);
+        const std::size_t shown = choices_.whole ? change.fields.size() : std::min(change.fields.size(), most_fields);
+        for (std::size_t i = 0; i < shown; ++i)
+            line("        {}", difference_line(change.fields[i], colours_));
+        if (shown < change.fields.size())
+            line("        and {} more\n", counted(change.fields.size() - shown, "field"));
+    }
+
+    static constexpr std::size_t most_pairs = 10, most_fields = 5;
+
+    const GlanceChoices& choices_;
+    Colours colours_;
+    std::string out_;
+};
+
+}   // namespace
+
+int summarise_capture(const std::string& file, const GlanceChoices& choices)
+{
+    const Summary summary = summary_of(file);
+    print(choices.json ? json_text(summary_json(file, summary), 2) + "\n"
+                       : summary_text(file, summary, colours_for(choices.colour)));
+    return summary.refused == 0 ? accepted : refused;
+}
+
+int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices)
+{
+    const CapturedSide left = side_of(sent), right = side_of(received);
+    const Comparison comparison = comparison_of(left, right);
+    if (choices.json)
+        print(
+            json_text({{"sent", {{"capture", sent}, {"packets", left.packets.size()}, {"bytes", left.bytes}}},
+                       {"received", {{"capture", received}, {"packets", right.packets.size()}, {"bytes", right.bytes}}},
+                       {"as_sent", comparison.as_sent},
+                       {"missing", pairs_json(comparison.missing, false)},
+                       {"twice", pairs_json(comparison.twice, false)},
+                       {"changed", pairs_json(comparison.changed, true)},
+                       {"unexpected", pairs_json(comparison.unexpected, false)}},
+                      2) +
+            "\n");
+    else
+        print(ComparisonText(choices).of(left, right, comparison));
+    return comparison.is_same() ? accepted : refused;
+}
+
+PacketCopy message_packet(const std::string& file, u64 number)
+{
+    PacketCopy found;
+    for_every_packet(file, number, [&](const PacketView& packet) {
+        found = {packet.number,  packet.time,  packet.id,
+                 packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()}};
+    });
+    if (found.number == 0)
+        throw Fault(fmt::format("{} has no packet {}", file, number));
+    if (found.fault != nullptr)
+        throw Fault(fmt::format("{}: packet {} is no message: {}", file, number, found.fault));
+    return found;
+}
+
+}   // namespace kesto::command

@@ -1,0 +1,31 @@
+// Whole captures at a glance.
+#pragma once
+
+#include "tools/kesto/packets.h"
+
+namespace kesto::command {
+
+struct GlanceChoices {
+    ColourChoice colour = ColourChoice::automatic;
+    bool json = false;
+    bool whole = false;   // list all packets that differ
+};
+
+// What a capture holds, message by message. 1 if a packet is refused or no message.
+int summarise_capture(const std::string& file, const GlanceChoices& choices);
+
+// Which packets of `sent` are missing, doubled or changed in `received`. 1 if any is. Holds both in memory.
+int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices);
+
+// Throws a Fault if there is no such packet or it is no message. The bytes live as long as the result.
+struct PacketCopy {
+    u64 number = 0;
+    std::string time;
+    u32 id = 0;
+    const Message* message = nullptr;
+    const char* fault = nullptr;
+    Bytes bytes;
+};
+PacketCopy message_packet(const std::string& file, u64 number);
+
+}   // namespace kesto::command
