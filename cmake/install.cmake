@@ -1,9 +1,11 @@
 # Install rules for `cmake --install` and CPack. No installed file contains the prefix, so the tree can be moved.
 #
 #   runtime   the shared library
+#   verify    libkesto_verify.so, which gives the decoder's verdict
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
 #   tools     the program kesto and the dissector, if they are built
 #   tap       the preload library that captures a program's messages, if it is built
+#   python    the Python module kesto, if it is built
 #   zervamesh our stand-in for MESH, if it is built: IfitCodec::zervamesh, for projects that request the component
 
 include(GNUInstallDirs)
@@ -17,9 +19,13 @@ target_include_directories(ifit_codec_platform INTERFACE $<INSTALL_INTERFACE:${h
 
 install(TARGETS ifit_codec ifit_codec_platform EXPORT IfitCodec
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT dev)
+target_include_directories(kesto_verify INTERFACE $<INSTALL_INTERFACE:${headers_in}>)
+install(TARGETS kesto_verify EXPORT IfitCodec
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT verify NAMELINK_COMPONENT dev)
 foreach(module IN LISTS KESTO_MODULES)
-  install(FILES include/${module}.h DESTINATION ${headers_in} COMPONENT dev)
+  install(FILES include/${module}.h include/${module}.hpp DESTINATION ${headers_in} COMPONENT dev)
 endforeach()
+install(FILES include/ifit_codec.hpp include/kesto_verify.h DESTINATION ${headers_in} COMPONENT dev)
 install(FILES platform/mesh.h platform/osal.h DESTINATION ${headers_in}/platform COMPONENT dev)
 
 install(EXPORT IfitCodec NAMESPACE IfitCodec:: FILE IfitCodecTargets.cmake DESTINATION ${package_in} COMPONENT dev)
@@ -35,8 +41,10 @@ file(RELATIVE_PATH pc_prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INST
 string(REGEX REPLACE "/$" "" pc_prefix ${pc_prefix})
 file(RELATIVE_PATH pc_libdir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_LIBDIR})
 file(RELATIVE_PATH pc_includedir ${CMAKE_INSTALL_PREFIX} ${CMAKE_INSTALL_FULL_INCLUDEDIR}/ifit-codec)
-configure_file(cmake/ifit-codec.pc.in ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc @ONLY)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ifit-codec.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+foreach(name ifit-codec kesto-verify)
+  configure_file(cmake/${name}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT dev)
+endforeach()
 
 # In a folder of its own, so that programs on a machine with the closed library do not load this one by mistake.
 if(TARGET zervamesh)

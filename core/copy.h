@@ -31,8 +31,9 @@ template <class Visit, u32... I>
     return (visit.template operator()<I>() && ...);
 }
 
-// Sixteen bytes where the target has a register for them, else a word: wider moves would be split anyway.
-#if defined(__SSE2__) || defined(__ARM_NEON) || UINTPTR_MAX > 0xFFFFFFFF
+// Sixteen bytes on x86 with SSE2 and on 64-bit machines, else a word: wider moves would be split anyway. ARM moves words
+// with NEON, too.
+#if defined(__SSE2__) || UINTPTR_MAX > 0xFFFFFFFF
 constexpr u32 move_bytes = 16;
 #else
 constexpr u32 move_bytes = sizeof(void*);

@@ -81,8 +81,8 @@ template <class L, Measure how>
         size += bytes_of_scalars<L>(record);
     const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
-        if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array) {
-            return true;
+        if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array || (!exactly && Slot::fixed_bytes != 0)) {
+            return true;   // counted above
         } else if constexpr (Slot::kind == Kind::text) {
             const u8* const text = field_pointer(field);
             if (text != nullptr)
@@ -106,10 +106,8 @@ template <class L, Measure how>
                 size += cell_bytes + count_bytes + u64{cell_bytes} * count;
                 size += measure(records, count, element.nested);
             }
-        } else if constexpr (exactly || Slot::Layout::has_owned_blocks) {
-            size += measure_table<typename Slot::Layout, how>(field, nested[L::nested_before[K]].nested);
         } else {
-            return true;
+            size += measure_table<typename Slot::Layout, how>(field, nested[L::nested_before[K]].nested);
         }
         return size <= largest_size;   // leaving here keeps the u64 sum far from wrapping
     });

@@ -124,25 +124,6 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
 
 }   // namespace
 
-KESTO_ENTRY int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
-{
-    const LayoutEncoder& layout = *encoder.layout;
-    return pack_by(
-        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.dense_bytes; },
-        [&](u8* vtable) {
-            return layout.try_dense(vtable, record) ? vtable + layout.dense_bytes
-                                                    : layout.write_any(vtable, record, encoder.nested);
-        });
-}
-
-KESTO_ENTRY int pack_owning(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
-{
-    const LayoutEncoder& layout = *encoder.layout;
-    return pack_by(
-        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.bound(record, encoder.nested); },
-        [&](u8* vtable) { return layout.write_any(vtable, record, encoder.nested); });
-}
-
 KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length))
 {
     const u32 size = measure_message(record, encoder);
@@ -157,13 +138,6 @@ KESTO_ENTRY int pack_measured(KESTO_WITH(const Encoder& encoder, const u8* recor
     }
     *length = size;
     return 0;
-}
-
-KESTO_ENTRY int send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,
-                                                    [[maybe_unused]] u32 unused, u32 destination))
-{
-    return send_fixed_by<fixed_buffer_bytes>(encoder, channel, destination, encoder.layout->fixed_length,
-                                             [&](u8* buffer) { encoder.layout->write_fixed(buffer, record); });
 }
 
 KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record,

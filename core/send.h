@@ -51,12 +51,6 @@ KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const
 KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination));
 KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count));
 
-// The bodies of X__pack and X__sendsingle for all flat layouts, and of X__pack for all others.
-KESTO_ENTRY int pack_owning(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
-KESTO_ENTRY int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer, u32* length));
-KESTO_ENTRY int send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
-                                                    u32 destination));
-
 // The body of X__pack: bound() is an upper bound of the size of the message's table, and write(vtable) writes it.
 template <class Bound, class Write>
 [[gnu::always_inline]] inline int pack_by(const Encoder& encoder, const u8* record, u8* buffer, u32* length,
@@ -109,6 +103,37 @@ template <class L>
             else
                 FixedImage<L>::write(buffer, record);
         });
+}
+
+// With shared entries: X__pack for all layouts with owned blocks, X__pack for all flat layouts, and X__sendsingle for all
+// flat layouts. Inline, so that only targets that call them compile them.
+[[gnu::noinline]] KESTO_ENTRY inline int pack_owning(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer,
+                                                                u32* length))
+{
+    const LayoutEncoder& layout = *encoder.layout;
+    return pack_by(
+        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.bound(record, encoder.nested); },
+        [&](u8* vtable) { return layout.write_any(vtable, record, encoder.nested); });
+}
+
+[[gnu::noinline]] KESTO_ENTRY inline int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer,
+                                                              u32* length))
+{
+    const LayoutEncoder& layout = *encoder.layout;
+    return pack_by(
+        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.dense_bytes; },
+        [&](u8* vtable) {
+            return layout.try_dense(vtable, record) ? vtable + layout.dense_bytes
+                                                    : layout.write_any(vtable, record, encoder.nested);
+        });
+}
+
+[[gnu::noinline]] KESTO_ENTRY inline int
+send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
+                                    u32 destination))
+{
+    return send_fixed_by<fixed_buffer_bytes>(encoder, channel, destination, encoder.layout->fixed_length,
+                                             [&](u8* buffer) { encoder.layout->write_fixed(buffer, record); });
 }
 
 template <class L>

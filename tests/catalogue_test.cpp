@@ -76,10 +76,12 @@ TEST(Printed, headers_pages_and_dissector_are_up_to_date)
     (void)run(KESTO_PRINT_HEADERS " " + folder.string());
     (void)run(KESTO_PRINT_MESSAGES " " + folder.string());
     (void)run(KESTO_PRINT_SYNTHETIC " " + folder.string());
-    EXPECT_TRUE(read_file(KESTO_SOURCE_DIR "/tests/module/synthetic.h") == read_file((folder / "synthetic.h").string()))
-        << "tests/module/synthetic.h is not current: ./run headers";
+    for (const std::string name : {"synthetic.h", "synthetic.hpp"})
+        EXPECT_TRUE(read_file(KESTO_SOURCE_DIR "/tests/module/" + name) == read_file((folder / name).string()))
+            << "tests/module/" << name << " is not current: ./run headers";
     for (const model::Module& module : model::catalogue().modules)
-        for (const auto& [committed_in, suffix] : {std::pair{"include/", ".h"}, std::pair{"docs/messages/", ".md"}}) {
+        for (const auto& [committed_in, suffix] :
+             {std::pair{"include/", ".h"}, std::pair{"include/", ".hpp"}, std::pair{"docs/messages/", ".md"}}) {
             const std::string committed = read_file(KESTO_SOURCE_DIR "/" + (committed_in + module.name) + suffix);
             EXPECT_TRUE(committed == read_file((folder / (module.name + suffix)).string()))
                 << committed_in << module.name << suffix << " is not current: ./run headers";

@@ -164,8 +164,8 @@ TEST(WrappedBlock, is_never_overrun_and_is_released)
     EXPECT_GT(tried, all_modules_built ? 100U : 10U);
 }
 
-// The same with literal numbers: elements of 256 bytes, of which 2^24 take 2^32 bytes, and elements with owned blocks
-// in an array that holds one but not two.
+// The same with literal numbers: elements of 256 and of 16 bytes, of which 2^24 and 2^28 take 2^32 bytes, and elements
+// with owned blocks in an array that holds one but not two.
 TEST(WrappedBlock, zero_size_is_logged_by_the_vector_and_elements_that_fit_are_released)
 {
     const struct {
@@ -181,6 +181,8 @@ TEST(WrappedBlock, zero_size_is_logged_by_the_vector_and_elements_that_fit_are_r
         {"ifit_sync_ifit_session_entry_update", 1, "{7 [zero]}", 0, 0,
          "ifit_sync_ifit_session_entry_update_unpack logs 22 [KESTO]:Param invalid(nonNull, LENGTH, null)\n",
          "{7 null*COUNT}"},
+        {"synthetic_rows", 1, "{7 [zero] 9}", 0, 0,
+         "synthetic_rows_unpack logs 22 [KESTO]:Param invalid(nonNull, LENGTH, null)\n", "{7 null*COUNT 0}"},
         {"ntvifit_entry_list_mdtlm", 0, "{[{0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 h'07' 0 null 0 0 0 null 0 0}] 9}",
          sizeof(ntvifit_entry_to_mdtlm), 0,
          "ntvifit_entry_list_mdtlm_unpack allocates block 0, size SIZE\n"
@@ -202,6 +204,8 @@ TEST(WrappedBlock, zero_size_is_logged_by_the_vector_and_elements_that_fit_are_r
         std::string_view text = each.record;
         ASSERT_TRUE(parse_record(message, text, record, error)) << error;
         const Stem stem(record);
+        if (!has_address_space(stem.bytes.size() + std::size_t{4} * count))   // a 32-bit process
+            continue;
         DecodeCheck check(stem.bytes.size() + std::size_t{4} * count);
         std::uint32_t length = 0;
         std::uint8_t* const bytes = place(check.buffer(), stem, count, 2, length);

@@ -1,12 +1,15 @@
-// Prints the public headers, include/<module>.h, from the catalogue.
+// Prints the public headers from the catalogue: include/<module>.h for C, and include/<module>.hpp, which tells
+// ifit_codec.hpp which functions belong to which record.
 //
-//   print_headers FOLDER    writes FOLDER/<module>.h for every module
+//   print_headers FOLDER    writes both into FOLDER for every module
 
 #include <cctype>
 #include <cinttypes>
 #include <cstdio>
 #include <cstring>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tools/print_files.h"
 
@@ -177,6 +180,65 @@ void print_module(std::FILE* file, const Module& module)
     std::fputs("\n#ifdef __cplusplus\n}\n#endif\n\n#endif\n", file);
 }
 
+// ---- <module>.hpp ----
+
+// The paths from the record to the texts, blocks and vectors of its own and of its nested records.
+void add_owned(const Message& message, const std::string& path, std::vector<std::string>& paths)
+{
+    for (const Slot& slot : message.slots) {
+        const std::string field = path + "." + slot.field;
+        if (slot.kind == Kind::table)
+            add_owned(*slot.nested, field, paths);
+        else if (slot.kind == Kind::string || slot.kind == Kind::bytes || slot.kind == Kind::vector)
+            paths.push_back(field);
+    }
+}
+
+void print_traits(std::FILE* file, const Message& message)
+{
+    const char* const name = message.name.c_str();
+    std::fprintf(file, "\ntemplate <>\nstruct message_traits<::%s> {\n", name);
+    std::fprintf(file, "    static constexpr std::uint32_t id = %s_ID;\n", upper(message.name).c_str());
+    std::fprintf(file, "    static constexpr std::string_view name = \"%s\";\n", name);
+    std::fprintf(file, "    static constexpr bool owns_blocks = %s;\n", message.owns_blocks ? "true" : "false");
+    for (const auto& [what, bytes] :
+         {std::pair{"fixed_length", message.fixed_length}, std::pair{"compact_least", message.compact_zero},
+          std::pair{"compact_most", message.compact_full}})
+        std::fprintf(file, "    static constexpr std::uint32_t %s = %u;\n", what, bytes);
+    for (const char* operation : {"unpack", "pack", "sendmsg", "sendtomsg"})
+        std::fprintf(file, "    static constexpr auto %s = ::%s__%s;\n", operation, name, operation);
+    std::fprintf(file, "    static constexpr auto free_unpacked = ::%s_free__unpacked;\n", name);
+    if (message.owns_blocks) {
+        std::vector<std::string> paths;
+        add_owned(message, "record", paths);
+        std::fprintf(file, "    template <class Visit>\n");
+        std::fprintf(file, "    static constexpr void each_owned(::%s& record, Visit&& visit)\n    {\n", name);
+        for (const std::string& path : paths)
+            std::fprintf(file, "        visit(%s);\n", path.c_str());
+        std::fputs("    }\n", file);
+    }
+    std::fputs("};\n", file);
+}
+
+void print_traits_of_module(std::FILE* file, const Module& module)
+{
+    const char* const name = module.name.c_str();
+    std::fprintf(file,
+                 "// %s.hpp: the %s messages for C++20; ifit_codec.hpp explains. Printed from the catalogue by `./run "
+                 "headers`;\n// do not edit.\n",
+                 name, name);
+    const std::string guard = "KESTO_" + upper(module.name) + "_HPP";
+    std::fprintf(file, "#ifndef %s\n#define %s\n\n", guard.c_str(), guard.c_str());
+    std::fprintf(file, "#include \"%s.h\"\n#include \"ifit_codec.hpp\"\n\nnamespace ifit_codec {\n", name);
+    for (const Message* message : module.messages)
+        print_traits(file, *message);
+    std::fputs("\n}   // namespace ifit_codec\n\n#endif\n", file);
+}
+
 }   // namespace
 
-int main(int argc, char** argv) { return print_files(argc, argv, ".h", print_module); }
+int main(int argc, char** argv)
+{
+    const int result = print_files(argc, argv, ".h", print_module);
+    return result != 0 ? result : print_files(argc, argv, ".hpp", print_traits_of_module);
+}

@@ -31,6 +31,7 @@ pair() {
 
 run batch | compare batch
 run own_services | compare own_services
+run cpp_rows | compare cpp_rows
 pair receiver sender 0 "good morning" "" bye
 pair careful_receiver hostile_sender
 exit $failed

@@ -7,7 +7,7 @@ cd "$1"
 warnings=(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
 count=0 failed=0
 
-# $1 compiler, $2 language, then its standards
+# $1 compiler, $2 language, then its standards; the headers are in `headers`
 try() {
     local compiler=$1 language=$2 standard header
     shift 2
@@ -25,5 +25,9 @@ headers=(include/*.h)
 headers=("${headers[@]#include/}" platform/mesh.h platform/osal.h)
 try "$2" c c99 c11 c17
 try "$3" c++ c++11 c++17 c++20
-echo "$count compilations of ${#headers[@]} headers"
+c_headers=${#headers[@]}
+headers=(include/*.hpp)
+headers=("${headers[@]#include/}")
+try "$3" c++ c++20
+echo "$count compilations of $((c_headers + ${#headers[@]})) headers"
 exit $failed

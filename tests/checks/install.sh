@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs a build, moves the installation, and builds and runs programs that use nothing else: with CMake and
-# pkg-config, in C and C++, with their own MESH and with the stand-in. Then builds the same programs together with the
-# library's sources.
+# pkg-config, in C and C++, with their own MESH and with the stand-in; and the template project. Then builds the same
+# programs together with the library's sources.
 #
 #   install.sh BUILD_FOLDER SOURCE_FOLDER
 set -euo pipefail
@@ -50,6 +50,13 @@ with_standin=(-G Ninja -S "$consumer" -DIFIT_CODEC_FROM=find_package -DCMAKE_PRE
 quietly cmake "${with_standin[@]}" -B "$work/standin"
 quietly cmake --build "$work/standin" --target first_program
 [ "$("$work/standin/first_program")" = '28 bytes carry "hello"' ] || fail "first_program with the stand-in"
+
+# The template project, copied as a team would.
+cp -r "$sources/examples/starter" "$work/starter"
+quietly cmake -G Ninja -S "$work/starter" -B "$work/starter/build" -DCMAKE_PREFIX_PATH="$here" -DCMAKE_C_FLAGS=-Werror
+quietly cmake --build "$work/starter/build"
+quietly ctest --test-dir "$work/starter/build" --output-on-failure --no-tests=error
+
 fails_with "libifit_codec.so.*: undefined reference to \`MESH_SendMsg'" \
     cmake --build "$work/package" --target first_program
 mv "$lib/ifit-codec" "$lib"/cmake/IfitCodec/IfitCodecZervamesh* "$work"

@@ -494,10 +494,11 @@ int synthetic_long_lenient__sendbatch(uint32_t channel, const synthetic_long_len
 int synthetic_long_lenient__sendmsg(uint32_t channel, const synthetic_long_lenient *recs, uint32_t n);
 int synthetic_long_lenient__sendtomsg(uint32_t channel, const synthetic_long_lenient *recs, uint32_t n, uint32_t destination);
 
-/* synthetic_rows: Compact form of 16 bytes and more. Owns its elements. */
+/* synthetic_rows: Compact form of 18 bytes and more. Owns its elements. */
 typedef struct synthetic_rows {
     uint16_t f0;
     struct { uint32_t count; synthetic_pair *items; } f1;
+    uint8_t f2;
 } synthetic_rows;
 
 #define SYNTHETIC_ROWS_ID UINT32_C(0x51000021)
@@ -546,7 +547,7 @@ int synthetic_owner_lists__sendbatch(uint32_t channel, const synthetic_owner_lis
 int synthetic_owner_lists__sendmsg(uint32_t channel, const synthetic_owner_lists *recs, uint32_t n);
 int synthetic_owner_lists__sendtomsg(uint32_t channel, const synthetic_owner_lists *recs, uint32_t n, uint32_t destination);
 
-/* synthetic_deep: Compact form of 56 bytes and more. Owns its elements and what they own. */
+/* synthetic_deep: Compact form of 58 bytes and more. Owns its elements and what they own. */
 typedef struct synthetic_deep {
     struct { uint32_t count; synthetic_rows *items; } f0;
     synthetic_rows f1;

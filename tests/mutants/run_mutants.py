@@ -60,6 +60,10 @@ CHANGES = [
 ]
 # Lines without run-time behaviour.
 EXCLUDED = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
+# Branches and functions that no test runs here. The first group is the branch for big-endian hosts; the others are for
+# narrow registers.
+NOT_HERE = re.compile(r"\s*if (?:constexpr )?\((?:(!host_has_wire_order)|piece\.bytes >= |N >= detail::long_stretch)|"
+                      r"\S.* (?:unpack_flat|pack_owning|pack_flat|equal_here)\(|(?:\S.* )?send_single_fixed\(")
 
 
 def runs_here(lines):
@@ -71,15 +75,15 @@ def runs_here(lines):
     narrow = False          # whether that side is for narrow registers
     for number, line in enumerate(lines):
         indent = len(line) - len(line.lstrip())
-        if other is not None and line.strip() and indent <= other:
+        if other is not None and line.strip() not in ("", "{") and indent <= other:
             other = None
-        if match := re.match(r"\s*if (constexpr )?\((!host_has_wire_order|piece\.bytes >= long_piece)", line):
-            other, narrow = indent, match[2].startswith("piece")
+        if match := NOT_HERE.match(line):
+            other, narrow = indent, match[1] is None
             continue
-        if re.match(r"\s*if constexpr \(host_has_wire_order", line):
-            choice = indent
-        elif choice == indent and re.match(r"\s*else$", line):
-            other, choice, narrow = indent, None, False
+        if match := re.match(r"\s*if constexpr \((host_has_wire_order|detail::move_bytes == 16)", line):
+            choice, narrow_choice = indent, match[1].startswith("detail")
+        elif choice == indent and re.match(r"\s*(} )?else( {)?$", line):
+            other, choice, narrow = indent, None, narrow_choice
         elif other is None or narrow:
             yield number, line, other is not None or "_long(" in line
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <cstring>
 
+#include "kesto_verify.h"
 #include "model/memory.h"
 #include "model/view.h"
 #include "tests/support/mesh_double.h"
@@ -108,6 +109,29 @@ std::string fault_of_encoders(const Operations& library, const model::Record& re
     return fault.empty() ? services().difference({}) : "sent: " + fault;
 }
 
+// libkesto_verify.so about the same bytes. It does not foresee that memory is refused.
+std::string difference_of_verdict(const model::Message& message, const std::uint8_t* bytes, std::uint32_t length,
+                                  const model::Failure& failure)
+{
+    if (failure.refusal == model::Refusal::allocation)
+        return {};
+    kesto_refusal refusal;
+    const int verdict = kesto_verify(message.id, bytes, length, &refusal);
+    if (verdict != (failure ? KESTO_REFUSED : KESTO_ACCEPTED) ||
+        kesto_verify(message.id, bytes, length, nullptr) != verdict)
+        return "verdict: " + std::to_string(verdict);
+    if (verdict == KESTO_ACCEPTED)
+        return {};
+    model::Path path;
+    path.length = refusal.steps;
+    for (std::uint32_t i = 0; i < refusal.steps; ++i)
+        path.steps[i] = {refusal.path[i].slot, refusal.path[i].element};
+    const std::string found = kesto_check_name(refusal.check), at = to_text(path);
+    if (found == name_of(failure.refusal) && at == to_text(failure.path) && refusal.position == failure.position)
+        return {};
+    return "verdict: " + found + " at " + at + ", position " + std::to_string(refusal.position);
+}
+
 }   // namespace
 
 std::vector<ByteString> both_forms(const model::Record& record)
@@ -156,6 +180,8 @@ std::string DecodeCheck::check(const model::Message& message, const std::uint8_t
     std::memset(record - 8, untouched, library.record_size + 8);
     const std::uint32_t returned = library.unpack(bytes, length, record);
     std::string fault = compare(library, returned);
+    if (fault.empty())
+        fault = difference_of_verdict(message, bytes, length, outcome_.failure);
     if (!fault.empty())
         fault = message.name + ": " + fault + "\n  model: " + to_text(outcome_.failure);
     return fault;

@@ -41,7 +41,7 @@ private:
 };
 
 // Decodes byte strings with the library and the model, and compares records, logs, allocations and releases of the
-// decoder and of the subsequent free.
+// decoder and of the subsequent free. Holds the verdict of libkesto_verify.so against the model's, too.
 class DecodeCheck {
 public:
     explicit DecodeCheck(std::size_t max_bytes = 1 << 20);

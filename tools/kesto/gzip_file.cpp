@@ -1,5 +1,6 @@
 #include "tools/kesto/gzip_file.h"
 
+#include <unistd.h>
 #include <zlib.h>
 
 #include <algorithm>
@@ -28,11 +29,20 @@ ssize_t read_part(void* cookie, char* to, std::size_t room)
 
 int close_file(void* cookie) { return gzclose_r(file_of(cookie)) == Z_OK ? 0 : EOF; }
 
+// A file that may still grow: zlib remembers its end.
+bool is_plain_file(int descriptor)
+{
+    unsigned char head[2];
+    return pread(descriptor, head, sizeof head, 0) == sizeof head && (head[0] != 0x1f || head[1] != 0x8b);
+}
+
 }   // namespace
 
 std::FILE* open_gzip(int descriptor)
 {
-    gzFile file = gzdopen(descriptor, "rb");   // gives a file that is not compressed as it is
+    if (is_plain_file(descriptor))
+        return fdopen(descriptor, "rb");
+    gzFile file = gzdopen(descriptor, "rb");   // passes on what is not compressed
     if (file == nullptr)
         return nullptr;
     std::FILE* const stream = fopencookie(file, "rb", {read_part, nullptr, nullptr, close_file});
