@@ -101,7 +101,7 @@ ordered_json refusal_json(const Message& root, const model::Failure& failure)
     if (!failure)
         return nullptr;
     return {{"code", name_of(failure.refusal)},
-            {"path", command::path_text(root, failure.path)},
+            {"path", model::path_text(root, failure.path)},
             {"position", failure.position}};
 }
 
