@@ -4,6 +4,7 @@
 #   verify    libkesto_verify.so, which gives the decoder's verdict
 #   dev       headers, the CMake package IfitCodec, ifit-codec.pc
 #   tools     the program kesto and the dissector, if they are built
+#   tap       the preload library that captures a program's messages, if it is built
 #   python    the Python module kesto, if it is built
 #   zervamesh our stand-in for MESH, if it is built: IfitCodec::zervamesh, for projects that request the component
 
@@ -53,6 +54,11 @@ if(TARGET zervamesh)
   install(FILES platform/standin/mesh_standin.h DESTINATION ${headers_in}/platform/standin COMPONENT zervamesh)
   install(EXPORT IfitCodecZervamesh NAMESPACE IfitCodec:: FILE IfitCodecZervameshTargets.cmake
     DESTINATION ${package_in} COMPONENT zervamesh)
+endif()
+
+# In the same folder: it is loaded by its path.
+if(TARGET kesto_tap)
+  install(TARGETS kesto_tap LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/ifit-codec COMPONENT tap)
 endif()
 
 if(TARGET kesto)

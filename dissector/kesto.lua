@@ -1,4 +1,5 @@
--- Dissects KESTO messages in tshark and Wireshark: packets of link type USER0 (147), as described in mesh_standin.h.
+-- Dissects KESTO messages in tshark and Wireshark: packets of link type USER0 (147), as described in mesh_standin.h, and
+-- of link type USER1 (148), which begin with a call head, as described in platform/standin/capture.h.
 --
 --   tshark -X lua_script:dissector/kesto.lua -r FILE
 --
@@ -9,6 +10,7 @@
 -- u32 are exact in all versions of Lua and are reduced modulo 2^32 explicitly.
 
 local head_length = 8
+local call_head_length = 24
 local max_items = 20000 -- in the tree of a packet; a text or a block counts as one more per 64 bytes
 local two_to_32 = 4294967296
 
@@ -269,6 +271,18 @@ local of_packet = {
     length = declare(ProtoField.uint32("kesto.length", "length")),
     message = declare(ProtoField.string("kesto.message", "message")),
     fault = declare(ProtoField.string("kesto.packet_fault", "packet fault")),
+}
+
+-- The call that sent or delivered the packet.
+local directions = { [0] = "sent", [1] = "received" }
+local of_call = {
+    version = declare(ProtoField.uint8("kesto.head_version", "head version")),
+    direction = declare(ProtoField.uint8("kesto.direction", "direction", base.DEC, directions)),
+    known = declare(ProtoField.uint16("kesto.known", "known", base.HEX)),
+    channel = declare(ProtoField.uint32("kesto.channel", "channel")),
+    destination = declare(ProtoField.uint32("kesto.destination", "destination")),
+    result = declare(ProtoField.int32("kesto.result", "result")),
+    time = declare(ProtoField.absolute_time("kesto.time", "call began")),
 }
 
 local of_piece = {
@@ -869,12 +883,14 @@ local function read_byte_string(buffer, item, message)
     return info
 end
 
-local function read_packet(buffer, item)
+local function is_cut(buffer, item)
     local captured, reported = buffer:captured_len(), buffer:reported_len()
-    if captured < reported then
-        return not_a_message(item, buffer(), "cut",
-            string.format("The capture holds %d of the packet's %d bytes", captured, reported))
-    end
+    return captured < reported and not_a_message(item, buffer(), "cut",
+        string.format("The capture holds %d of the packet's %d bytes", captured, reported))
+end
+
+local function read_packet(buffer, item)
+    local captured = buffer:captured_len()
     if captured < head_length then
         return not_a_message(item, buffer(), "short_packet",
             string.format("A packet of %d bytes is too short for id and length", captured))
@@ -895,10 +911,64 @@ local function read_packet(buffer, item)
     return read_byte_string(buffer, item, message)
 end
 
-function kesto.dissector(buffer, pinfo, tree)
+-- Returns the addition to the info column, as in ", sent on channel 1 to destination 9, result 0".
+local function read_call(buffer, item)
+    local direction, known = buffer(1, 1):uint(), buffer(2, 2):le_uint()
+    local text = ", " .. directions[direction]
+    item:add_le(of_call.version, buffer(0, 1))
+    item:add_le(of_call.direction, buffer(1, 1))
+    item:add_le(of_call.known, buffer(2, 2))
+    local function is_known(bit)
+        return math.floor(known / bit) % 2 == 1
+    end
+    if is_known(1) then
+        item:add_le(of_call.channel, buffer(4, 4))
+        text = text .. string.format(" on channel %d", buffer(4, 4):le_uint())
+    end
+    if is_known(2) then
+        item:add_le(of_call.destination, buffer(8, 4))
+        text = text .. string.format(" to destination %d", buffer(8, 4):le_uint())
+    end
+    if is_known(4) then
+        item:add_le(of_call.result, buffer(12, 4))
+        text = text .. string.format(", result %d", buffer(12, 4):le_int())
+    end
+    local nanoseconds = buffer(16, 8):le_uint64()
+    item:add(of_call.time, buffer(16, 8),
+        NSTime.new((nanoseconds / 1000000000):tonumber(), (nanoseconds % 1000000000):tonumber()))
+    return text
+end
+
+local function read_packet_with_call(buffer, item)
+    local captured = buffer:captured_len()
+    if captured < call_head_length + head_length then
+        return not_a_message(item, buffer(), "short_packet",
+            string.format("A packet of %d bytes is too short for call head, id and length", captured))
+    end
+    if buffer(0, 1):uint() ~= 1 or not directions[buffer(1, 1):uint()] then
+        return not_a_message(item, buffer(0, 2), "unknown_head",
+            "The call head has an unknown version or direction")
+    end
+    local call = read_call(buffer, item)
+    return read_packet(buffer(call_head_length):tvb(), item) .. call
+end
+
+local with_call = Proto("kesto_call", "KESTO message with call head")
+
+local function dissect(read, buffer, pinfo, tree)
     pinfo.cols.protocol = "KESTO"
-    pinfo.cols.info = read_packet(buffer, tree:add(kesto, buffer()))
+    local item = tree:add(kesto, buffer())
+    pinfo.cols.info = is_cut(buffer, item) or read(buffer, item)
     return buffer:captured_len()
 end
 
+function kesto.dissector(buffer, pinfo, tree)
+    return dissect(read_packet, buffer, pinfo, tree)
+end
+
+function with_call.dissector(buffer, pinfo, tree)
+    return dissect(read_packet_with_call, buffer, pinfo, tree)
+end
+
 DissectorTable.get("wtap_encap"):add(wtap_encaps.USER0, kesto)
+DissectorTable.get("wtap_encap"):add(wtap_encaps.USER1, with_call)

@@ -1,6 +1,6 @@
 # The Debian packages libifit-codec1, libkesto-verify1, libifit-codec-dev and, if their contents are built,
-# libifit-codec-zervamesh, ifit-codec-tools and python3-kesto. `./run package` builds them. Changelog and copyright are in
-# this folder.
+# libifit-codec-zervamesh, ifit-codec-tap, ifit-codec-tools and python3-kesto. `./run package` builds them. Changelog and
+# copyright are in this folder.
 
 find_program(KESTO_GZIP gzip)
 if(NOT KESTO_GZIP)
@@ -30,9 +30,13 @@ set(CPACK_DEBIAN_VERIFY_PACKAGE_NAME libkesto-verify1)
 set(CPACK_DEBIAN_DEV_PACKAGE_NAME libifit-codec-dev)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME ifit-codec-tools)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_NAME libifit-codec-zervamesh)
+set(CPACK_DEBIAN_TAP_PACKAGE_NAME ifit-codec-tap)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-kesto)
 if(TARGET zervamesh)
   list(APPEND CPACK_COMPONENTS_ALL zervamesh)
+endif()
+if(TARGET kesto_tap)
+  list(APPEND CPACK_COMPONENTS_ALL tap)
 endif()
 if(TARGET kesto)
   list(APPEND CPACK_COMPONENTS_ALL tools)
@@ -78,6 +82,7 @@ set(CPACK_DEBIAN_VERIFY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEV_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_ZERVAMESH_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TAP_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
 set(CPACK_COMPONENT_RUNTIME_DESCRIPTION
 "message codecs for IFIT control software
@@ -102,6 +107,12 @@ ${about_the_codecs}
 .
 This package has a small messaging library to build and try programs with,
 on machines that do not have MESH: IfitCodec::zervamesh of the CMake package.")
+set(CPACK_COMPONENT_TAP_DESCRIPTION
+"captures the messages of IFIT control software
+${about_the_codecs}
+.
+This package has a library to preload that writes the messages of an unchanged
+program to a capture file, whatever messaging library MESH it has.")
 set(CPACK_COMPONENT_TOOLS_DESCRIPTION
 "tools that explain the messages of IFIT control software
 ${about_the_codecs}

@@ -60,7 +60,7 @@ protected:
 // A packet of a size that only loopback accepts is read up to the readers' limit.
 TEST_F(Captures, are_readable_while_the_stand_in_writes_them)
 {
-    const Bytes longest(262144 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
+    const Bytes longest(262144 - 24 - 8, 0x6c), longer(longest.size() + 1, 0x6c);
     const std::time_t before = std::time(nullptr);
     CaptureReader reader;
     ASSERT_EQ(mesh_standin_capture(path.c_str()), 0);
@@ -99,8 +99,8 @@ TEST_F(Captures, damaged_and_foreign_files_report_a_reason)
         {up_to(23), 0, "truncated"},
         {up_to(24), 0, ""},
         {no_magic, 0, "unknown file format"},
-        {capture_head(1), 0, "link type EN10MB (1), not USER0 (147)"},
-        {capture_head(148), 0, "link type 148, not USER0"},
+        {capture_head(1), 0, "link type EN10MB (1), not USER0 (147) or USER1 (148)"},
+        {capture_head(149), 0, "link type 149, not USER0"},
         {one, 1, ""},
         {up_to(one.size() + 1), 1, "after packet 1: truncated"},
         {up_to(one.size() + 16), 1, "after packet 1: truncated"},
@@ -142,6 +142,23 @@ TEST_F(Captures, invalid_packets_are_returned_with_their_fault)
     };
     EXPECT_TRUE(packets_of(path, error) == expected);
     EXPECT_EQ(error, "");
+}
+
+TEST_F(Captures, invalid_call_heads_are_faults_too)
+{
+    const Bytes three{1, 2, 3}, call = call_head(0, 7, 1, 2, 3, 4);
+    Bytes capture = capture_head(148), later = call;
+    later[0] = 2;
+    for (const RawPacket& packet :
+         {with_call(call, packet_of(7, three)), with_call(call, packet_of(7, three, 2)),
+          with_call(call, {{7, 0, 0, 0, 3, 0, 0}, 7}), RawPacket{{1, 0}, 2}, with_call(later, packet_of(7, three)),
+          with_call(call_head(2, 7, 1, 2, 3, 4), packet_of(7, three))})
+        add_packet(capture, packet);
+    write_file(path, capture);
+    std::string faults;
+    for (const Packet& packet : packets_of(path, error))
+        faults += name_of(packet.fault) + std::string(" ");
+    EXPECT_EQ(faults, "none length_disagrees short_packet short_packet unknown_head unknown_head ");
 }
 
 TEST_F(Captures, large_files_report_progress_and_pipes_are_readable)

@@ -25,6 +25,8 @@ namespace {
 
 using namespace model;
 
+constexpr u32 heads = 24 + 8;   // before the byte string in the stand-in's captures
+
 // ---- the model's result for a byte string, one line per field ----
 
 std::string line_of(const std::string& field, std::uint64_t position, std::uint64_t size, const std::string& value)
@@ -38,6 +40,7 @@ struct Shown {
     std::uint64_t refused_at = 0;      // where the refusal is shown
     bool is_shortened = false;
     std::string fault;   // of the packet
+    std::string call;    // direction, channel, destination, result and time, as far as they are shown
     std::string error;   // in the script
 };
 
@@ -53,7 +56,7 @@ public:
         decode(message, bytes_.data(), length, options, outcome);
         shown.refused = text_of(outcome.failure);
         if (outcome.failure)   // a number past the end is shown at the word that leads there
-            shown.refused_at = 8 + (outcome.failure.position < length ? outcome.failure.position : last_word_);
+            shown.refused_at = heads + (outcome.failure.position < length ? outcome.failure.position : last_word_);
         shown.ignored = text_of(outcome.ignored);
         std::sort(shown.fields.begin(), shown.fields.end());
     }
@@ -101,7 +104,7 @@ private:
 
     void add(const std::string& field, u32 position, u32 length, const std::string& value)
     {
-        shown.fields.push_back(line_of(field, 8 + position, length, value));
+        shown.fields.push_back(line_of(field, heads + position, length, value));
     }
 
     void add_payload(const Item& item)
@@ -153,6 +156,9 @@ bool has_bytes(const std::string& field)
     return fields.count(field) != 0;
 }
 
+const std::set<std::string> of_call{"kesto.direction", "kesto.channel", "kesto.destination", "kesto.result",
+                                    "kesto.time"};
+
 // Processes one tag of the analyser's XML.
 void process_tag(const std::string& tag, Shown& shown)
 {
@@ -172,8 +178,10 @@ void process_tag(const std::string& tag, Shown& shown)
         shown.fault += value;
     else if (name == "kesto.shortened")
         shown.is_shortened = true;
+    else if (of_call.contains(name))
+        shown.call += (shown.call.empty() ? "" : " ") + value;
     else if (name.starts_with("kesto.") && !name.ends_with(".expert") && name != "kesto.id" && name != "kesto.length" &&
-             name != "kesto.message")
+             name != "kesto.message" && name != "kesto.head_version" && name != "kesto.known")
         shown.fields.push_back(line_of(name, std::stoull(attribute(tag, "pos")), std::stoull(attribute(tag, "size")),
                                        has_bytes(name) ? attribute(tag, "value") : value));
 }
@@ -380,6 +388,23 @@ TEST_F(Dissector, reports_packets_that_are_not_messages)
         ++number;
     });
     EXPECT_EQ(number, std::size(packets));
+}
+
+TEST_F(Dissector, shows_the_call_of_a_packet)
+{
+    const RawPacket packet = packet_of(5, {1, 2});
+    Bytes later = call_head(0, 0, 0, 0, 0, 0), capture = capture_head(148);
+    later[0] = 2;
+    for (const Bytes& head : {call_head(0, 7, 1, 0xfffffffe, 0xffffffff, 1'700'000'000'250'000'001),
+                              call_head(1, 0, 1, 2, 3, 0), call_head(2, 0, 1, 2, 3, 0), later})
+        add_packet(capture, with_call(head, packet));
+    add_packet(capture, {call_head(0, 0, 0, 0, 0, 0), 24});
+    write_file(path, capture);
+    std::vector<std::string> all;
+    dissect([&](const Shown& shown) { all.push_back(shown.fault + " " + shown.call); });
+    EXPECT_EQ(all, (std::vector<std::string>{"unknown_id 0 1 4294967294 -1 Nov 14, 2023 22:13:20.250000001 UTC",
+                                             "unknown_id 1 Jan  1, 1970 00:00:00.000000000 UTC", "unknown_head ",
+                                             "unknown_head ", "short_packet "}));
 }
 
 TEST_F(Dissector, display_filters_match_fields)

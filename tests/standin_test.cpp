@@ -247,7 +247,7 @@ TEST_F(Mesh, close_wakes_waiting_threads_and_allows_rebinding)
 
 // Captures ------------------------------------------------------------------------------------------------------------
 
-const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x93\0\0\0", 24);
+const std::string head("\xd4\xc3\xb2\xa1\2\0\4\0\0\0\0\0\0\0\0\0\0\0\4\0\x94\0\0\0", 24);
 
 std::string bytes_of(const std::string& path)
 {
@@ -255,20 +255,24 @@ std::string bytes_of(const std::string& path)
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// The packets of a capture file. They must be complete and shorter than 256 bytes.
-Lines packets_in(const std::string& path)
+constexpr size_t call_head = 24;
+
+// The packets of a capture file, without or with the heads about their calls, up to the time. They must be complete and
+// shorter than 256 bytes.
+Lines packets_in(const std::string& path, bool with_calls = false)
 {
     const std::string bytes = bytes_of(path);
     EXPECT_EQ(bytes.substr(0, head.size()), head) << path;
-    Lines packets;
-    for (size_t at = head.size(); at < bytes.size(); at += 16 + packets.back().size()) {
+    Lines packets, calls;
+    for (size_t at = head.size(); at < bytes.size(); at += 16 + call_head + packets.back().size()) {
         EXPECT_EQ(bytes.at(at + 7), '\0') << "more than a second's microseconds";
         const std::string length = bytes.substr(at + 8, 1) + std::string(3, '\0');
         EXPECT_EQ(bytes.substr(at + 8, 8), length + length);
-        packets.push_back(bytes.substr(at + 16, static_cast<uint8_t>(length[0])));
-        EXPECT_EQ(packets.back().size(), static_cast<uint8_t>(length[0]));
+        packets.push_back(bytes.substr(at + 16 + call_head, static_cast<uint8_t>(length[0]) - call_head));
+        EXPECT_EQ(packets.back().size() + call_head, static_cast<uint8_t>(length[0]));
+        calls.push_back(bytes.substr(at + 16, 16));
     }
-    return packets;
+    return with_calls ? calls : packets;
 }
 
 std::string note(const std::string& text)
@@ -301,6 +305,10 @@ TEST_F(Capture, records_every_packet_once_and_immediately_even_invalid_ones)
     passed.push_back(note("back"));
     EXPECT_EQ(packets_in(path), passed);
     close(peer);
+    const Lines calls = packets_in(path, true);
+    EXPECT_EQ(calls.at(0), std::string("\1\0\1\0\3\0\0\0\0\0\0\0\0\0\0\0", 16)) << "loopback: no result yet";
+    EXPECT_EQ(calls.at(2), std::string("\1\1\1\0\1\0\0\0\0\0\0\0\0\0\0\0", 16)) << "received";
+    EXPECT_EQ(calls.at(5), std::string("\1\0\5\0\1\0\0\0\0\0\0\0\0\0\0\0", 16)) << "sent, result 0";
 
     EXPECT_EQ(mesh_standin_capture(nullptr), 0);
     EXPECT_EQ(send_text(3, 7, "after"), 0);
@@ -327,7 +335,8 @@ TEST_F(Capture, replaces_only_captures_and_is_private_to_its_owner)
         ASSERT_EQ(stat(path.c_str(), &status), 0);
         EXPECT_EQ(status.st_mode, S_IFREG | 0644u);
     }
-    for (const std::string& older : {std::string("none"), std::string(), head.substr(0, 7), head + "older"}) {
+    for (const std::string& older : {std::string("none"), std::string(), head.substr(0, 7), head + "older",
+                                     head.substr(0, 20) + "\x93" + head.substr(21) + "without heads about calls"}) {
         ASSERT_EQ(older == "none" ? unlink(path.c_str()) : write(older), 0);
         EXPECT_EQ(mesh_standin_capture(path.c_str()), MESH_STANDIN_OK) << older;
         EXPECT_EQ(bytes_of(path), head);
@@ -420,7 +429,7 @@ TEST_F(Capture, write_error_is_reported_once_and_messages_still_pass)
     ASSERT_EQ(send_text(3, 7, "fits"), 0);
     rlimit before;
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-    const rlimit small{60, before.rlim_max};
+    const rlimit small{90, before.rlim_max};
     signal(SIGXFSZ, SIG_IGN);
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     EXPECT_EQ(send_text(3, 7, "does not fit") | send_text(3, 7, "x"), 0);

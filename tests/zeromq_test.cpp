@@ -141,7 +141,7 @@ TEST_F(ZeroMq, each_receive_delivers_one_item_in_order_even_after_an_unknown_id)
     EXPECT_EQ(seen, (Lines{"6:7 a", "6:7 ", "6:7 " + longest}));
     EXPECT_EQ(mesh_counters().sent, 4u);
     ASSERT_EQ(mesh_standin_capture(nullptr), MESH_STANDIN_OK);
-    EXPECT_EQ(std::filesystem::file_size(capture), 24 + 2 * (4 * (16 + 8) + 1 + 1 + 0 + MESH_STANDIN_ITEM_BYTES))
+    EXPECT_EQ(std::filesystem::file_size(capture), 24 + 2 * (4 * (16 + 24 + 8) + 1 + 1 + 0 + MESH_STANDIN_ITEM_BYTES))
         << "each item that left, and each that came";
     expect_nothing_in_transit();
 }

@@ -9,7 +9,6 @@
 #include <time.h>
 #include <unistd.h>
 
-#include "platform/standin/capture.h"
 #include "platform/standin/mesh_transport.h"
 
 namespace {
@@ -206,8 +205,9 @@ int with_peer(uint32_t number, uint64_t binding, short event, uint64_t deadline,
     }
 }
 
-int send_bound(uint32_t channel, uint64_t binding, const MeshSendItem* items, uint32_t count)
+int send_bound(const CapturedCall& call, uint64_t binding, const MeshSendItem* items, uint32_t count)
 {
+    const uint32_t channel = call.channel;
     int result = with_peer(channel, binding, POLLOUT, 0, [](int) { return MESH_STANDIN_OK; });
     for (uint32_t i = 0; i < count && result == MESH_STANDIN_OK; ++i) {
         uint8_t head[packet_head];
@@ -220,7 +220,7 @@ int send_bound(uint32_t channel, uint64_t binding, const MeshSendItem* items, ui
             return sendmsg(peer, &message, MSG_NOSIGNAL | MSG_DONTWAIT) < 0 ? result_of_errno() : MESH_STANDIN_OK;
         });
         if (result == MESH_STANDIN_OK)
-            mesh_sent(items[i]);
+            mesh_sent(call, items[i]);
     }
     return result;
 }
@@ -312,12 +312,14 @@ int try_connect(Channel& channel, const sockaddr_un& address)
 
 // Sending -------------------------------------------------------------------------------------------------------------
 
-int send_loopback(uint32_t channel, const MeshSendItem* items, uint32_t count)
+// The items are captured before they are delivered, and so without a result.
+int send_loopback(CapturedCall call, const MeshSendItem* items, uint32_t count)
 {
     int first_failure = MESH_STANDIN_OK;
+    call.known &= static_cast<uint16_t>(~CAPTURE_RESULT);
     for (uint32_t i = 0; i < count; ++i) {
-        mesh_sent(items[i]);
-        const int result = deliver(channel, items[i].id, items[i].data, items[i].length);
+        mesh_sent(call, items[i]);
+        const int result = deliver(call.channel, items[i].id, items[i].data, items[i].length);
         if (first_failure == MESH_STANDIN_OK)
             first_failure = result;
     }
@@ -333,6 +335,21 @@ void check(const MeshSendItem& item)
         folded ^= item.data[i];
     if (folded == 0)
         ++zero_checksums;
+}
+
+// What is captured with each item that leaves. The result is 0: items that do not leave are not captured.
+CapturedCall sent_call(uint32_t channel, const uint32_t* destination)
+{
+    CapturedCall call{};
+    call.direction = CaptureDirection::sent;
+    call.known = CAPTURE_CHANNEL | CAPTURE_RESULT;
+    call.channel = channel;
+    if (destination != nullptr) {
+        call.known |= CAPTURE_DESTINATION;
+        call.destination = *destination;
+    }
+    call.began = capture_is_on() ? capture_time() : 0;
+    return call;
 }
 
 int send_items(uint32_t channel, const MeshSendItem* items, uint32_t count, const uint32_t* destination)
@@ -353,20 +370,35 @@ int send_items(uint32_t channel, const MeshSendItem* items, uint32_t count, cons
     }
     for (uint32_t i = 0; check_bytes && i < count; ++i)
         check(items[i]);
+    const CapturedCall call = sent_call(channel, destination);
     const MeshTransport* const transport = transport_of(channel);
     if (transport != nullptr && fits_packets)
-        return transport->send(channel, items, count, destination != nullptr ? *destination : 0);
+        return transport->send(call, items, count);
     const uint64_t binding = binding_of(channel);
     if (transport == nullptr && binding == 0)
-        return send_loopback(channel, items, count);
-    return fits_packets ? send_bound(channel, binding, items, count) : MESH_STANDIN_TOO_LONG;
+        return send_loopback(call, items, count);
+    return fits_packets ? send_bound(call, binding, items, count) : MESH_STANDIN_TOO_LONG;
 }
 
-[[gnu::constructor]] void start_capture()
+bool start_capture(const char* path) { return capture_to({"mesh stand-in", path, capture_without_limit, 1, false}); }
+
+void capture_received(uint32_t channel, const uint8_t* packet, uint32_t length)
+{
+    if (!capture_is_on())
+        return;
+    CapturedCall call{};
+    call.direction = CaptureDirection::received;
+    call.known = CAPTURE_CHANNEL;
+    call.channel = channel;
+    call.began = capture_time();
+    capture_packet(call, nullptr, 0, packet, length);
+}
+
+[[gnu::constructor]] void read_environment()
 {
     const char* const path = getenv("MESH_STANDIN_CAPTURE");
     if (path != nullptr && path[0] != '\0') [[maybe_unused]]
-        const bool ignored = capture_to(path);   // has printed the reason on stderr
+        const bool ignored = start_capture(path);   // has printed the reason on stderr
 }
 
 }   // namespace
@@ -374,11 +406,9 @@ int send_items(uint32_t channel, const MeshSendItem* items, uint32_t count, cons
 // A library with a transport overrides this definition.
 [[gnu::weak]] const MeshTransport* mesh_transport() { return nullptr; }
 
-void mesh_sent(const MeshSendItem& item)
+void mesh_sent(const CapturedCall& call, const MeshSendItem& item)
 {
-    uint8_t head[packet_head];
-    store_head(head, item);
-    capture_packet(head, sizeof head, item.data, item.length);
+    capture_item(call, item.id, item.data, item.length);
     const Lock lock(mutex);
     ++counters.sent;
     counters.bytes += item.length;
@@ -511,7 +541,7 @@ int mesh_standin_receive(uint32_t channel, uint32_t timeout_ms)
     const MeshTransport* const transport = transport_of(channel);
     int result = (transport != nullptr ? transport->receive : read_packet)(channel, deadline, packet, capacity, length);
     if (result == MESH_STANDIN_OK) {
-        capture_packet(packet, length, nullptr, 0);
+        capture_received(channel, packet, length);
         result = deliver_packet(channel, packet, length);
     }
     free(packet);
@@ -551,7 +581,7 @@ uint32_t mesh_standin_run_clean_hooks(void)
 
 void mesh_standin_check_initialised(int on) { check_bytes = on != 0; }
 
-int mesh_standin_capture(const char* path) { return capture_to(path) ? MESH_STANDIN_OK : MESH_STANDIN_BAD_PATH; }
+int mesh_standin_capture(const char* path) { return start_capture(path) ? MESH_STANDIN_OK : MESH_STANDIN_BAD_PATH; }
 
 void mesh_standin_counters(MeshStandinCounters* result)
 {

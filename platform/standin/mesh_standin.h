@@ -25,14 +25,14 @@
  * reads past it.
  *
  * Capture: with MESH_STANDIN_CAPTURE=file in the environment, or after mesh_standin_capture, all traffic is written to
- * a pcap file of link type USER0 (147), in the form of the packets above. Every packet is written once per process: on
- * a loopback an item before it is delivered, a packet after it was sent on a socket or over another transport, and a
- * received packet whatever its content. A packet longer than 262144 bytes, which is possible only on a loopback, is
- * truncated to that length. %p in the name stands for the process id. Only its owner can read the file (mode 0600). An
- * empty file and an older capture are replaced. Any other file is refused and left unchanged: one that is not a
- * capture, belongs to another user or is being written by another process, and a symbolic link. A child after a fork
- * needs a file of its own, hence the %p. If the file cannot be opened or written, one line on stderr says so, and
- * messages pass as without a capture.
+ * a pcap file of link type USER1 (148): a call head (see platform/standin/capture.h) and a packet as above. Every packet
+ * is written once per process: on a loopback an item before it is delivered, and so without a result; a packet after it
+ * was sent on a socket or over another transport; and a received packet whatever its content. A packet longer than
+ * 262144 bytes with its call head, which is possible only on a loopback, is truncated to that length. %p in the name
+ * stands for the process id. Only its owner can read the file (mode 0600). An empty file and an older capture are
+ * replaced. Any other file is refused and left unchanged: one that is not a capture, belongs to another user or is being
+ * written by another process, and a symbolic link. A child after a fork needs a file of its own, hence the %p. If the
+ * file cannot be opened or written, one line on stderr says so, and messages pass as without a capture.
  *
  * Threads: every function but mesh_standin_reset may be called from any thread at any time. Hooks and consumers run
  * without a lock held and may themselves send. */

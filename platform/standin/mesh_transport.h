@@ -8,13 +8,15 @@
 #include "platform/mesh.h"
 #include "platform/standin/mesh_standin.h"
 #pragma GCC visibility pop
+#include "platform/standin/capture.h"
 #include "platform/standin/essentials.h"
 
 // The functions are called from any thread, without a lock held. Results are those of mesh_standin.h.
 struct MeshTransport {
     bool (*carries)(uint32_t channel);
-    // Sends all items or none. None may exceed MESH_STANDIN_ITEM_BYTES; each is passed to mesh_sent after it was sent.
-    int (*send)(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination);
+    // Sends all items or none, to `call.destination` unless that is 0. None may exceed MESH_STANDIN_ITEM_BYTES; each is
+    // passed to mesh_sent after it was sent.
+    int (*send)(const CapturedCall& call, const MeshSendItem* items, uint32_t count);
     // Receives one packet, head and item, truncated to `capacity` bytes.
     int (*receive)(uint32_t channel, uint64_t deadline, uint8_t* packet, uint32_t capacity, uint32_t& length);
 };
@@ -23,7 +25,7 @@ struct MeshTransport {
 const MeshTransport* mesh_transport();
 
 // Counts and captures an item that was sent.
-void mesh_sent(const MeshSendItem& item);
+void mesh_sent(const CapturedCall& call, const MeshSendItem& item);
 
 // Milliseconds until a deadline, as poll expects them: 0 after it, and INT_MAX if it is further away.
 int ms_until(uint64_t deadline);

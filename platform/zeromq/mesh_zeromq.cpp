@@ -202,9 +202,9 @@ int send_parts(void* socket, Parts& parts)
     return MESH_STANDIN_OK;
 }
 
-int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t destination)
+int send(const CapturedCall& call, const MeshSendItem* items, uint32_t count)
 {
-    Place* const place = find_place(channel, false, destination);
+    Place* const place = find_place(call.channel, false, call.destination);
     if (place == nullptr)
         return MESH_STANDIN_NO_PEER;
     Parts parts(count);
@@ -220,7 +220,7 @@ int send(uint32_t channel, const MeshSendItem* items, uint32_t count, uint32_t d
         place->socket = open_socket(place->endpoint);
     }
     if (result == MESH_STANDIN_OK)
-        std::for_each(items, items + count, mesh_sent);
+        std::for_each(items, items + count, [&](const MeshSendItem& item) { mesh_sent(call, item); });
     return result;
 }
 

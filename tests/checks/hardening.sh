@@ -33,6 +33,11 @@ if [[ $library = */libifit_codec.so* ]]; then
         of_codecs+=", no string instructions"
     fi
 fi
+# Preloaded into programs that may have neither the C++ run-time library nor that of the compiler.
+if [[ $library = */libkesto_tap.so ]] && grep NEEDED <<<"$dynamic" | grep -v '\[\(libc\.so\|ld-linux\)'; then
+    echo "$library: needs more than libc"
+    missing=1
+fi
 if grep -q TEXTREL <<<"$dynamic"; then
     echo "$library: relocations in its code"
     missing=1

@@ -44,6 +44,24 @@ inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes, std::size_t sta
 
 inline RawPacket packet_of(std::uint32_t id, const Bytes& bytes) { return packet_of(id, bytes, bytes.size()); }
 
+// The call head that precedes a packet of link type USER1.
+inline Bytes call_head(std::uint32_t direction, std::uint32_t known, std::uint32_t channel, std::uint32_t destination,
+                       std::uint32_t result, std::uint64_t began)
+{
+    Bytes head{1, static_cast<std::uint8_t>(direction)};
+    model::append(head, known, 2);
+    for (const std::uint32_t word : {channel, destination, result})
+        model::append(head, word, 4);
+    model::append(head, began, 8);
+    return head;
+}
+
+inline RawPacket with_call(Bytes head, const RawPacket& packet)
+{
+    head.insert(head.end(), packet.bytes.begin(), packet.bytes.end());
+    return {head, packet.length_on_the_wire + 24};
+}
+
 inline void write_file(const std::string& path, const Bytes& bytes)
 {
     std::ofstream(path, std::ios::binary)

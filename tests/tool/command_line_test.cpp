@@ -376,7 +376,12 @@ Bytes capture_of_odd_times()
 
 TEST_F(Files, packets_are_reported_one_by_one_and_one_bad_one_fails)
 {
-    const std::string file = path("capture"), broken = path("broken"), odd = path("odd"), odder = path("odder");
+    const std::string file = path("capture"), broken = path("broken"), odd = path("odd"), odder = path("odder"),
+                      called = path("called");
+    Bytes with_calls = capture_head(148);
+    add_packet(with_calls, with_call(call_head(0, 7, 1, 9, 0xffffffff, 1'700'000'000'250'000'001), packet_of(5, {})));
+    add_packet(with_calls, with_call(call_head(1, 0, 1, 9, 2, 0xffffffffffffffff), packet_of(5, {})));
+    write_file(called, with_calls);
     Bytes capture = capture_of_six();
     write_file(file, capture);
     write_file(broken, {capture.begin(), capture.end() - 1});
@@ -410,6 +415,13 @@ TEST_F(Files, packets_are_reported_one_by_one_and_one_bad_one_fails)
         {"explain --json --pcap " + file, 1, 6, "\"fault\":\"length_disagrees\""},
         {"decode --pcap " + file + " --packet 6 2>&1 >/dev/full | cat", 0, 1,
          "kesto: " + file + ": packet 6: -: cannot be written: No space left on device\n"},
+        {"explain --pcap " + called, 1, 4,
+         "packet 1, 2023-11-14T22:13:20.250000001Z, sent on channel 1 to destination 9, result -1: no message"},
+        {"explain --pcap " + called, 1, 4, "packet 2, 2554-07-21T23:34:33.709551615Z, received: no message"},
+        {"decode --pcap " + called, 1, 2,
+         "{\"packet\":1,\"time\":\"2023-11-14T22:13:20.250000001Z\",\"direction\":\"sent\",\"channel\":1,"
+         "\"destination\":9,\"result\":-1,\"id\":"},
+        {"explain --json --pcap " + called, 1, 2, "\"direction\":\"received\",\"id\":"},
         {"decode --pcap " + odd, 0, 3, "\"time\":\"4611686018427387904 s and 0 us since 1970\""},
         {"explain --pcap " + odd, 0, 0, "packet 2, 1099511627776 s and 0 us since 1970"},
         {"explain --pcap " + odd, 0, 0, "packet 3, 1970-01-01T00:00:05.000000Z"},

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -16,7 +17,9 @@ namespace kesto::tools {
 
 namespace {
 
-constexpr std::uint32_t head_length = 8;
+constexpr std::uint32_t head_length = 8, call_head_length = 24;
+constexpr std::uint8_t call_head_version = 1, most_direction = 1;
+enum Known : std::uint16_t { channel_known = 1, destination_known = 2, result_known = 4 };
 constexpr std::uint64_t file_head = 24, record_head = 16;
 constexpr std::uint64_t report_every = 1 << 20;
 
@@ -27,13 +30,32 @@ std::string link_type_text(int type)
     return name == nullptr ? number : name + (" (" + number + ")");
 }
 
-PacketFault fault_of(const pcap_pkthdr& head, const u_char* bytes)
+bool is_call_head(const u_char* bytes) { return bytes[0] == call_head_version && bytes[1] <= most_direction; }
+
+Call call_of(const u_char* bytes)
 {
-    if (head.caplen < head.len)
+    const std::uint32_t known = model::get16(bytes + 2);
+    Call call{bytes[1] == 0, {}, {}, {}, model::get(bytes + 16, 8)};
+    if ((known & channel_known) != 0)
+        call.channel = model::get32(bytes + 4);
+    if ((known & destination_known) != 0)
+        call.destination = model::get32(bytes + 8);
+    if ((known & result_known) != 0)
+        call.result = static_cast<std::int32_t>(model::get32(bytes + 12));
+    return call;
+}
+
+// `bytes` are the packet without the call head.
+PacketFault fault_of(bool is_cut, bool knows_head, std::span<const u_char> bytes)
+{
+    if (is_cut)
         return PacketFault::cut;
-    if (head.caplen < head_length)
+    if (!knows_head)
+        return PacketFault::unknown_head;
+    if (bytes.size() < head_length)
         return PacketFault::short_packet;
-    return model::get32(bytes + 4) == head.caplen - head_length ? PacketFault::none : PacketFault::length_disagrees;
+    return model::get32(bytes.data() + 4) == bytes.size() - head_length ? PacketFault::none
+                                                                        : PacketFault::length_disagrees;
 }
 
 }   // namespace
@@ -43,6 +65,7 @@ const char* name_of(PacketFault fault)
     switch (fault) {
     case PacketFault::none: return "none";
     case PacketFault::cut: return "cut";
+    case PacketFault::unknown_head: return "unknown_head";
     case PacketFault::short_packet: return "short_packet";
     case PacketFault::length_disagrees: break;
     }
@@ -54,6 +77,7 @@ const char* text_of(PacketFault fault)
     switch (fault) {
     case PacketFault::none: return "a message";
     case PacketFault::cut: return "the capture kept only the first bytes of the packet";
+    case PacketFault::unknown_head: return "the call head has an unknown version or direction";
     case PacketFault::short_packet: return "the packet has no room for id and length";
     case PacketFault::length_disagrees: break;
     }
@@ -87,8 +111,9 @@ bool CaptureReader::open(const std::string& path, std::string& error)
         return false;
     }
     const int link_type = pcap_datalink(handle_.get());
-    if (link_type != DLT_USER0) {
-        error = name_ + ": the capture has link type " + link_type_text(link_type) + ", not USER0 (147)";
+    has_calls_ = link_type == DLT_USER1;
+    if (link_type != DLT_USER0 && !has_calls_) {
+        error = name_ + ": the capture has link type " + link_type_text(link_type) + ", not USER0 (147) or USER1 (148)";
         handle_.reset();
         return false;
     }
@@ -113,11 +138,18 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
     if (pcap_major_version(handle_.get()) != 1)
         packet.seconds = static_cast<std::uint32_t>(packet.seconds);
     packet.microseconds = static_cast<std::uint32_t>(head->ts.tv_usec);
-    packet.fault = fault_of(*head, bytes);
-    packet.id = head->caplen < 4 ? 0 : model::get32(bytes);
-    packet.bytes = {};
-    if (head->caplen > head_length)
-        packet.bytes = {bytes + head_length, head->caplen - head_length};
+    packet.call.reset();
+    std::span<const u_char> rest(bytes, head->caplen);
+    bool knows_head = true;
+    if (has_calls_) {
+        knows_head = rest.size() < call_head_length || is_call_head(bytes);
+        if (knows_head && rest.size() >= call_head_length)
+            packet.call = call_of(bytes);
+        rest = rest.subspan(std::min<std::size_t>(rest.size(), call_head_length));
+    }
+    packet.fault = fault_of(head->caplen < head->len, knows_head, rest);
+    packet.id = rest.size() < 4 ? 0 : model::get32(rest.data());
+    packet.bytes = rest.subspan(std::min<std::size_t>(rest.size(), head_length));
     read_ += record_head + head->caplen;
     report_progress();
     return true;

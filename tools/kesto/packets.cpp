@@ -28,7 +28,7 @@ struct Reading {
 // ---- classifying packets ----
 
 // Prints plain numbers if the time is not within the years 0 to 9999.
-std::string time_text(const CapturedPacket& packet)
+std::string written_text(const CapturedPacket& packet)
 {
     const std::time_t seconds = packet.seconds;
     std::tm time{};
@@ -38,9 +38,37 @@ std::string time_text(const CapturedPacket& packet)
     return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:06}Z", time, packet.microseconds);
 }
 
+// With a call head, the time at which the call began, in nanoseconds.
+std::string time_text(const CapturedPacket& packet)
+{
+    if (!packet.call)
+        return written_text(packet);
+    constexpr u64 second = 1000000000;
+    const std::time_t seconds = static_cast<std::time_t>(packet.call->began / second);
+    std::tm time{};
+    gmtime_r(&seconds, &time);   // 64 bits of nanoseconds end in the year 2554
+    return fmt::format("{:%Y-%m-%dT%H:%M:%S}.{:09}Z", time, packet.call->began % second);
+}
+
+// With a comma before it, as in ", sent on channel 1 to destination 9, result 0"; empty without a call head.
+std::string call_text(const CapturedPacket& packet)
+{
+    if (!packet.call)
+        return "";
+    const tools::Call& call = *packet.call;
+    std::string text = call.is_sent ? ", sent" : ", received";
+    if (call.channel)
+        text += fmt::format(" on channel {}", *call.channel);
+    if (call.destination)
+        text += fmt::format(" to destination {}", *call.destination);
+    if (call.result)
+        text += fmt::format(", result {}", *call.result);
+    return text;
+}
+
 std::string head_text(const CapturedPacket& packet)
 {
-    return fmt::format("packet {}, {}", packet.number, time_text(packet));
+    return fmt::format("packet {}, {}{}", packet.number, time_text(packet), call_text(packet));
 }
 
 bool is_message(const Reading& reading)
@@ -63,7 +91,17 @@ std::string id_text(const CapturedPacket& packet) { return fmt::format("{:#010x}
 ordered_json head_json(const Reading& reading)
 {
     const CapturedPacket& packet = reading.packet;
-    ordered_json json = {{"packet", packet.number}, {"time", time_text(packet)}, {"id", id_text(packet)}};
+    ordered_json json = {{"packet", packet.number}, {"time", time_text(packet)}};
+    if (packet.call) {
+        json["direction"] = packet.call->is_sent ? "sent" : "received";
+        if (packet.call->channel)
+            json["channel"] = *packet.call->channel;
+        if (packet.call->destination)
+            json["destination"] = *packet.call->destination;
+        if (packet.call->result)
+            json["result"] = *packet.call->result;
+    }
+    json["id"] = id_text(packet);
     json["message"] = reading.message == nullptr ? ordered_json() : ordered_json(reading.message->name);
     return json;
 }
