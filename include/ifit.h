@@ -56,6 +56,38 @@ extern "C" {
 typedef uint64_t kesto_u64 __attribute__((aligned(8)));
 #endif
 
+/* What the messages are for. A message X is meant together with X_key, X_update and X_delete, where there are such.
+ *
+ * Global tables. Control tables: global settings, mcp, test type and paf. A row and a key travel alone, rows in an
+ *   update and keys in a delete. Slot 0 of both lists is a number that nothing compares with the count of the list.
+ *   Messages: ifit_global_mesh, ifit_mcp_mesh, ifit_test_type_mesh, ifit_paf_mesh.
+ *
+ * Flow tables. Control tables that describe measured flows: the base flow, its SRv6 policy, tuple and VPN attributes,
+ *   the dynamic flow, loss and delay. Messages: ifit_flow_base_mesh, ifit_flow_srv6policy_mesh, ifit_dyn_flow_mesh,
+ *   ifit_flow_tuplev4_mesh, ifit_flow_tuplev6_mesh, ifit_flow_vpn_mesh, ifit_flow_loss_mesh, ifit_flow_delay_mesh.
+ *
+ * Rule and native-IP tables. Control tables for rules, and for native IP: learning, interfaces, colour clearing,
+ *   automatic detection, learned VPNs and interfaces. Messages: ifit_rule_mesh, ifit_native_ip_learn_mesh,
+ *   ifit_native_ip_intf_mesh, ifit_native_ip_intf_color_clear_mesh, ifit_native_ip_intf_auto_detect_mesh,
+ *   ifit_color_intf_mesh, ifit_lrn_vpn_mesh, ifit_lrn_intf_mesh.
+ *
+ * Dynamic flow reports. Report flows that were created dynamically, at the ingress for IPv4 and IPv6 and at middle or
+ *   egress nodes, and the removal of whitelist instances. Each record has a list, in the shape of an update. Messages:
+ *   ifit_report_ifit_add_mesh, ifit_report_app_ifit_add_mesh, ifit_ingress_ipv4_dyn_flow_mesh,
+ *   ifit_ingress_ipv4_dyn_flow_oper_mesh, ifit_ingress_ipv6_dyn_flow_mesh, ifit_ingress_ipv6_dyn_flow_oper_mesh,
+ *   ifit_dyn_flow_mid_or_egress_mesh, ifit_dyn_flow_mid_or_egress_oper_mesh, ifit_notify_whitelist_dyninst_delete_mesh,
+ *   ifit_whitelist_dyninst_delete_mesh.
+ *
+ * Smoothing and PID exchange. By their names, the messages that bracket a smoothing run, and that ask for and report
+ *   PID values. Messages: ifit_smooth_mesh, ifit_smooth_begin_mesh, ifit_smooth_end_mesh, ifit_dam_smooth_request,
+ *   ifit_request_pid_value_mesh, ifit_request_app_pid_smooth_mesh, ifit_pid_state_mesh.
+ *
+ * Statistics export. Measured statistics: of an instance to mcp, of flows and hops to mdtlm. The lists to mdtlm have
+ *   the vector first and a number after it; the list to mcp has them the other way round. Messages:
+ *   ifit_instance_statistics_to_mcp_mesh, ifit_statistics_to_mcp_mesh, ifit_flow_statistics_entry_to_mdtlm,
+ *   ifit_flow_statistics_list_to_mdtlm, ifit_flow_hop_statistics_entry_to_mdtlm, ifit_flow_hop_statistics_list_to_mdtlm.
+ */
+
 /* ifit_smooth_mesh: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
 typedef struct ifit_smooth_mesh {
     uint32_t f0;
@@ -102,7 +134,8 @@ int ifit_global_mesh__sendbatch(uint32_t channel, const ifit_global_mesh *recs, 
 int ifit_global_mesh__sendmsg(uint32_t channel, const ifit_global_mesh *recs, uint32_t n);
 int ifit_global_mesh__sendtomsg(uint32_t channel, const ifit_global_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_global_mesh_key: Fixed form of 24 bytes, compact form of 14 to 18. Owns no memory. */
+/* ifit_global_mesh_key: Key of ifit_global_mesh: its slot 0. Fixed form of 24 bytes, compact form of 14 to 18. Owns no
+ * memory. */
 typedef struct ifit_global_mesh_key {
     uint32_t f0;
 } ifit_global_mesh_key;
@@ -117,7 +150,8 @@ int ifit_global_mesh_key__sendbatch(uint32_t channel, const ifit_global_mesh_key
 int ifit_global_mesh_key__sendmsg(uint32_t channel, const ifit_global_mesh_key *recs, uint32_t n);
 int ifit_global_mesh_key__sendtomsg(uint32_t channel, const ifit_global_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_global_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_global_mesh_update: Update of ifit_global_mesh: a list of whole records. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_global_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_global_mesh *items; } f1;
@@ -133,7 +167,8 @@ int ifit_global_mesh_update__sendbatch(uint32_t channel, const ifit_global_mesh_
 int ifit_global_mesh_update__sendmsg(uint32_t channel, const ifit_global_mesh_update *recs, uint32_t n);
 int ifit_global_mesh_update__sendtomsg(uint32_t channel, const ifit_global_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_global_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_global_mesh_delete: Delete of ifit_global_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_global_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_global_mesh_key *items; } f1;
@@ -169,7 +204,8 @@ int ifit_mcp_mesh__sendbatch(uint32_t channel, const ifit_mcp_mesh *recs, uint32
 int ifit_mcp_mesh__sendmsg(uint32_t channel, const ifit_mcp_mesh *recs, uint32_t n);
 int ifit_mcp_mesh__sendtomsg(uint32_t channel, const ifit_mcp_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_mcp_mesh_key: Fixed form of 24 bytes, compact form of 14 to 18. Owns no memory. */
+/* ifit_mcp_mesh_key: Key of ifit_mcp_mesh: its slot 0. Fixed form of 24 bytes, compact form of 14 to 18. Owns no
+ * memory. */
 typedef struct ifit_mcp_mesh_key {
     uint32_t f0;
 } ifit_mcp_mesh_key;
@@ -184,7 +220,8 @@ int ifit_mcp_mesh_key__sendbatch(uint32_t channel, const ifit_mcp_mesh_key *recs
 int ifit_mcp_mesh_key__sendmsg(uint32_t channel, const ifit_mcp_mesh_key *recs, uint32_t n);
 int ifit_mcp_mesh_key__sendtomsg(uint32_t channel, const ifit_mcp_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_mcp_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_mcp_mesh_update: Update of ifit_mcp_mesh: a list of whole records. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_mcp_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_mcp_mesh *items; } f1;
@@ -200,7 +237,8 @@ int ifit_mcp_mesh_update__sendbatch(uint32_t channel, const ifit_mcp_mesh_update
 int ifit_mcp_mesh_update__sendmsg(uint32_t channel, const ifit_mcp_mesh_update *recs, uint32_t n);
 int ifit_mcp_mesh_update__sendtomsg(uint32_t channel, const ifit_mcp_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_mcp_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_mcp_mesh_delete: Delete of ifit_mcp_mesh: a list of keys. Compact form of 16 bytes and more. Owns its elements.
+ * */
 typedef struct ifit_mcp_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_mcp_mesh_key *items; } f1;
@@ -242,7 +280,8 @@ int ifit_flow_base_mesh__sendbatch(uint32_t channel, const ifit_flow_base_mesh *
 int ifit_flow_base_mesh__sendmsg(uint32_t channel, const ifit_flow_base_mesh *recs, uint32_t n);
 int ifit_flow_base_mesh__sendtomsg(uint32_t channel, const ifit_flow_base_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_base_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_flow_base_mesh_key: Key of ifit_flow_base_mesh: its slots 0 to 2. Fixed form of 40 bytes, compact form of 18 to
+ * 34. Owns no memory. */
 typedef struct ifit_flow_base_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -259,7 +298,8 @@ int ifit_flow_base_mesh_key__sendbatch(uint32_t channel, const ifit_flow_base_me
 int ifit_flow_base_mesh_key__sendmsg(uint32_t channel, const ifit_flow_base_mesh_key *recs, uint32_t n);
 int ifit_flow_base_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_base_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_base_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_base_mesh_update: Update of ifit_flow_base_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_flow_base_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_base_mesh *items; } f1;
@@ -275,7 +315,8 @@ int ifit_flow_base_mesh_update__sendbatch(uint32_t channel, const ifit_flow_base
 int ifit_flow_base_mesh_update__sendmsg(uint32_t channel, const ifit_flow_base_mesh_update *recs, uint32_t n);
 int ifit_flow_base_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_base_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_base_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_base_mesh_delete: Delete of ifit_flow_base_mesh: a list of keys. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_flow_base_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_base_mesh_key *items; } f1;
@@ -320,7 +361,8 @@ int ifit_flow_srv6policy_mesh__sendbatch(uint32_t channel, const ifit_flow_srv6p
 int ifit_flow_srv6policy_mesh__sendmsg(uint32_t channel, const ifit_flow_srv6policy_mesh *recs, uint32_t n);
 int ifit_flow_srv6policy_mesh__sendtomsg(uint32_t channel, const ifit_flow_srv6policy_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_srv6policy_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_flow_srv6policy_mesh_key: Key of ifit_flow_srv6policy_mesh, but cannot be cut from it: slot 2 is u64 here and
+ * u32 there. Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
 typedef struct ifit_flow_srv6policy_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -337,7 +379,8 @@ int ifit_flow_srv6policy_mesh_key__sendbatch(uint32_t channel, const ifit_flow_s
 int ifit_flow_srv6policy_mesh_key__sendmsg(uint32_t channel, const ifit_flow_srv6policy_mesh_key *recs, uint32_t n);
 int ifit_flow_srv6policy_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_srv6policy_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_srv6policy_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_srv6policy_mesh_update: Update of ifit_flow_srv6policy_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_flow_srv6policy_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_srv6policy_mesh *items; } f1;
@@ -353,7 +396,8 @@ int ifit_flow_srv6policy_mesh_update__sendbatch(uint32_t channel, const ifit_flo
 int ifit_flow_srv6policy_mesh_update__sendmsg(uint32_t channel, const ifit_flow_srv6policy_mesh_update *recs, uint32_t n);
 int ifit_flow_srv6policy_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_srv6policy_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_srv6policy_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_srv6policy_mesh_delete: Delete of ifit_flow_srv6policy_mesh: a list of keys. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_flow_srv6policy_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_srv6policy_mesh_key *items; } f1;
@@ -402,7 +446,8 @@ int ifit_dyn_flow_mesh__sendbatch(uint32_t channel, const ifit_dyn_flow_mesh *re
 int ifit_dyn_flow_mesh__sendmsg(uint32_t channel, const ifit_dyn_flow_mesh *recs, uint32_t n);
 int ifit_dyn_flow_mesh__sendtomsg(uint32_t channel, const ifit_dyn_flow_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_dyn_flow_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_dyn_flow_mesh_key: Key of ifit_dyn_flow_mesh: its slots 0 to 2. Fixed form of 40 bytes, compact form of 18 to
+ * 34. Owns no memory. */
 typedef struct ifit_dyn_flow_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -419,7 +464,8 @@ int ifit_dyn_flow_mesh_key__sendbatch(uint32_t channel, const ifit_dyn_flow_mesh
 int ifit_dyn_flow_mesh_key__sendmsg(uint32_t channel, const ifit_dyn_flow_mesh_key *recs, uint32_t n);
 int ifit_dyn_flow_mesh_key__sendtomsg(uint32_t channel, const ifit_dyn_flow_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_dyn_flow_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_dyn_flow_mesh_update: Update of ifit_dyn_flow_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_dyn_flow_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_dyn_flow_mesh *items; } f1;
@@ -435,7 +481,8 @@ int ifit_dyn_flow_mesh_update__sendbatch(uint32_t channel, const ifit_dyn_flow_m
 int ifit_dyn_flow_mesh_update__sendmsg(uint32_t channel, const ifit_dyn_flow_mesh_update *recs, uint32_t n);
 int ifit_dyn_flow_mesh_update__sendtomsg(uint32_t channel, const ifit_dyn_flow_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_dyn_flow_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_dyn_flow_mesh_delete: Delete of ifit_dyn_flow_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_dyn_flow_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_dyn_flow_mesh_key *items; } f1;
@@ -470,7 +517,8 @@ int ifit_flow_loss_mesh__sendbatch(uint32_t channel, const ifit_flow_loss_mesh *
 int ifit_flow_loss_mesh__sendmsg(uint32_t channel, const ifit_flow_loss_mesh *recs, uint32_t n);
 int ifit_flow_loss_mesh__sendtomsg(uint32_t channel, const ifit_flow_loss_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_loss_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_flow_loss_mesh_key: Key of ifit_flow_loss_mesh: its slots 0 to 1. Fixed form of 24 bytes, compact form of 16 to
+ * 24. Owns no memory. */
 typedef struct ifit_flow_loss_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -486,7 +534,8 @@ int ifit_flow_loss_mesh_key__sendbatch(uint32_t channel, const ifit_flow_loss_me
 int ifit_flow_loss_mesh_key__sendmsg(uint32_t channel, const ifit_flow_loss_mesh_key *recs, uint32_t n);
 int ifit_flow_loss_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_loss_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_loss_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_loss_mesh_update: Update of ifit_flow_loss_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_flow_loss_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_loss_mesh *items; } f1;
@@ -502,7 +551,8 @@ int ifit_flow_loss_mesh_update__sendbatch(uint32_t channel, const ifit_flow_loss
 int ifit_flow_loss_mesh_update__sendmsg(uint32_t channel, const ifit_flow_loss_mesh_update *recs, uint32_t n);
 int ifit_flow_loss_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_loss_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_loss_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_loss_mesh_delete: Delete of ifit_flow_loss_mesh: a list of keys. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_flow_loss_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_loss_mesh_key *items; } f1;
@@ -537,7 +587,8 @@ int ifit_flow_delay_mesh__sendbatch(uint32_t channel, const ifit_flow_delay_mesh
 int ifit_flow_delay_mesh__sendmsg(uint32_t channel, const ifit_flow_delay_mesh *recs, uint32_t n);
 int ifit_flow_delay_mesh__sendtomsg(uint32_t channel, const ifit_flow_delay_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_delay_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_flow_delay_mesh_key: Key of ifit_flow_delay_mesh: its slots 0 to 1. Fixed form of 24 bytes, compact form of 16
+ * to 24. Owns no memory. */
 typedef struct ifit_flow_delay_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -553,7 +604,8 @@ int ifit_flow_delay_mesh_key__sendbatch(uint32_t channel, const ifit_flow_delay_
 int ifit_flow_delay_mesh_key__sendmsg(uint32_t channel, const ifit_flow_delay_mesh_key *recs, uint32_t n);
 int ifit_flow_delay_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_delay_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_delay_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_delay_mesh_update: Update of ifit_flow_delay_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_flow_delay_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_delay_mesh *items; } f1;
@@ -569,7 +621,8 @@ int ifit_flow_delay_mesh_update__sendbatch(uint32_t channel, const ifit_flow_del
 int ifit_flow_delay_mesh_update__sendmsg(uint32_t channel, const ifit_flow_delay_mesh_update *recs, uint32_t n);
 int ifit_flow_delay_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_delay_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_delay_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_delay_mesh_delete: Delete of ifit_flow_delay_mesh: a list of keys. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_flow_delay_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_delay_mesh_key *items; } f1;
@@ -606,7 +659,8 @@ int ifit_test_type_mesh__sendbatch(uint32_t channel, const ifit_test_type_mesh *
 int ifit_test_type_mesh__sendmsg(uint32_t channel, const ifit_test_type_mesh *recs, uint32_t n);
 int ifit_test_type_mesh__sendtomsg(uint32_t channel, const ifit_test_type_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_test_type_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_test_type_mesh_key: Key of ifit_test_type_mesh: its slots 0 to 1. Fixed form of 24 bytes, compact form of 16 to
+ * 24. Owns no memory. */
 typedef struct ifit_test_type_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -622,7 +676,8 @@ int ifit_test_type_mesh_key__sendbatch(uint32_t channel, const ifit_test_type_me
 int ifit_test_type_mesh_key__sendmsg(uint32_t channel, const ifit_test_type_mesh_key *recs, uint32_t n);
 int ifit_test_type_mesh_key__sendtomsg(uint32_t channel, const ifit_test_type_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_test_type_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_test_type_mesh_update: Update of ifit_test_type_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_test_type_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_test_type_mesh *items; } f1;
@@ -638,7 +693,8 @@ int ifit_test_type_mesh_update__sendbatch(uint32_t channel, const ifit_test_type
 int ifit_test_type_mesh_update__sendmsg(uint32_t channel, const ifit_test_type_mesh_update *recs, uint32_t n);
 int ifit_test_type_mesh_update__sendtomsg(uint32_t channel, const ifit_test_type_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_test_type_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_test_type_mesh_delete: Delete of ifit_test_type_mesh: a list of keys. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_test_type_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_test_type_mesh_key *items; } f1;
@@ -689,7 +745,8 @@ int ifit_rule_mesh__sendbatch(uint32_t channel, const ifit_rule_mesh *recs, uint
 int ifit_rule_mesh__sendmsg(uint32_t channel, const ifit_rule_mesh *recs, uint32_t n);
 int ifit_rule_mesh__sendtomsg(uint32_t channel, const ifit_rule_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_rule_mesh_key: Fixed form of 32 bytes, compact form of 18 to 30. Owns no memory. */
+/* ifit_rule_mesh_key: Key of ifit_rule_mesh: its slots 0 to 2. Fixed form of 32 bytes, compact form of 18 to 30. Owns
+ * no memory. */
 typedef struct ifit_rule_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -706,7 +763,8 @@ int ifit_rule_mesh_key__sendbatch(uint32_t channel, const ifit_rule_mesh_key *re
 int ifit_rule_mesh_key__sendmsg(uint32_t channel, const ifit_rule_mesh_key *recs, uint32_t n);
 int ifit_rule_mesh_key__sendtomsg(uint32_t channel, const ifit_rule_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_rule_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_rule_mesh_update: Update of ifit_rule_mesh: a list of whole records. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_rule_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_rule_mesh *items; } f1;
@@ -722,7 +780,8 @@ int ifit_rule_mesh_update__sendbatch(uint32_t channel, const ifit_rule_mesh_upda
 int ifit_rule_mesh_update__sendmsg(uint32_t channel, const ifit_rule_mesh_update *recs, uint32_t n);
 int ifit_rule_mesh_update__sendtomsg(uint32_t channel, const ifit_rule_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_rule_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_rule_mesh_delete: Delete of ifit_rule_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_rule_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_rule_mesh_key *items; } f1;
@@ -760,7 +819,8 @@ int ifit_native_ip_learn_mesh__sendbatch(uint32_t channel, const ifit_native_ip_
 int ifit_native_ip_learn_mesh__sendmsg(uint32_t channel, const ifit_native_ip_learn_mesh *recs, uint32_t n);
 int ifit_native_ip_learn_mesh__sendtomsg(uint32_t channel, const ifit_native_ip_learn_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_learn_mesh_key: Fixed form of 24 bytes, compact form of 14 to 18. Owns no memory. */
+/* ifit_native_ip_learn_mesh_key: Key of ifit_native_ip_learn_mesh: its slot 0. Fixed form of 24 bytes, compact form of
+ * 14 to 18. Owns no memory. */
 typedef struct ifit_native_ip_learn_mesh_key {
     uint32_t f0;
 } ifit_native_ip_learn_mesh_key;
@@ -775,7 +835,8 @@ int ifit_native_ip_learn_mesh_key__sendbatch(uint32_t channel, const ifit_native
 int ifit_native_ip_learn_mesh_key__sendmsg(uint32_t channel, const ifit_native_ip_learn_mesh_key *recs, uint32_t n);
 int ifit_native_ip_learn_mesh_key__sendtomsg(uint32_t channel, const ifit_native_ip_learn_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_learn_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_learn_mesh_update: Update of ifit_native_ip_learn_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_learn_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_learn_mesh *items; } f1;
@@ -791,7 +852,8 @@ int ifit_native_ip_learn_mesh_update__sendbatch(uint32_t channel, const ifit_nat
 int ifit_native_ip_learn_mesh_update__sendmsg(uint32_t channel, const ifit_native_ip_learn_mesh_update *recs, uint32_t n);
 int ifit_native_ip_learn_mesh_update__sendtomsg(uint32_t channel, const ifit_native_ip_learn_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_learn_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_learn_mesh_delete: Delete of ifit_native_ip_learn_mesh: a list of keys. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_native_ip_learn_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_learn_mesh_key *items; } f1;
@@ -828,7 +890,8 @@ int ifit_native_ip_intf_mesh__sendbatch(uint32_t channel, const ifit_native_ip_i
 int ifit_native_ip_intf_mesh__sendmsg(uint32_t channel, const ifit_native_ip_intf_mesh *recs, uint32_t n);
 int ifit_native_ip_intf_mesh__sendtomsg(uint32_t channel, const ifit_native_ip_intf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_mesh_key: Fixed form of 32 bytes, compact form of 18 to 30. Owns no memory. */
+/* ifit_native_ip_intf_mesh_key: Key of ifit_native_ip_intf_mesh: its slots 0 to 2. Fixed form of 32 bytes, compact form
+ * of 18 to 30. Owns no memory. */
 typedef struct ifit_native_ip_intf_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -845,7 +908,8 @@ int ifit_native_ip_intf_mesh_key__sendbatch(uint32_t channel, const ifit_native_
 int ifit_native_ip_intf_mesh_key__sendmsg(uint32_t channel, const ifit_native_ip_intf_mesh_key *recs, uint32_t n);
 int ifit_native_ip_intf_mesh_key__sendtomsg(uint32_t channel, const ifit_native_ip_intf_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_mesh_update: Update of ifit_native_ip_intf_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_intf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_mesh *items; } f1;
@@ -861,7 +925,8 @@ int ifit_native_ip_intf_mesh_update__sendbatch(uint32_t channel, const ifit_nati
 int ifit_native_ip_intf_mesh_update__sendmsg(uint32_t channel, const ifit_native_ip_intf_mesh_update *recs, uint32_t n);
 int ifit_native_ip_intf_mesh_update__sendtomsg(uint32_t channel, const ifit_native_ip_intf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_mesh_delete: Delete of ifit_native_ip_intf_mesh: a list of keys. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_native_ip_intf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_mesh_key *items; } f1;
@@ -896,7 +961,8 @@ int ifit_native_ip_intf_color_clear_mesh__sendbatch(uint32_t channel, const ifit
 int ifit_native_ip_intf_color_clear_mesh__sendmsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh *recs, uint32_t n);
 int ifit_native_ip_intf_color_clear_mesh__sendtomsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_color_clear_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_native_ip_intf_color_clear_mesh_key: Key of ifit_native_ip_intf_color_clear_mesh: its slots 0 to 1. Fixed form
+ * of 24 bytes, compact form of 16 to 24. Owns no memory. */
 typedef struct ifit_native_ip_intf_color_clear_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -912,7 +978,8 @@ int ifit_native_ip_intf_color_clear_mesh_key__sendbatch(uint32_t channel, const 
 int ifit_native_ip_intf_color_clear_mesh_key__sendmsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh_key *recs, uint32_t n);
 int ifit_native_ip_intf_color_clear_mesh_key__sendtomsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_color_clear_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_color_clear_mesh_update: Update of ifit_native_ip_intf_color_clear_mesh: a list of whole records.
+ * Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_intf_color_clear_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_color_clear_mesh *items; } f1;
@@ -928,7 +995,8 @@ int ifit_native_ip_intf_color_clear_mesh_update__sendbatch(uint32_t channel, con
 int ifit_native_ip_intf_color_clear_mesh_update__sendmsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh_update *recs, uint32_t n);
 int ifit_native_ip_intf_color_clear_mesh_update__sendtomsg(uint32_t channel, const ifit_native_ip_intf_color_clear_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_color_clear_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_color_clear_mesh_delete: Delete of ifit_native_ip_intf_color_clear_mesh: a list of keys. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_intf_color_clear_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_color_clear_mesh_key *items; } f1;
@@ -975,7 +1043,8 @@ int ifit_flow_tuplev4_mesh__sendbatch(uint32_t channel, const ifit_flow_tuplev4_
 int ifit_flow_tuplev4_mesh__sendmsg(uint32_t channel, const ifit_flow_tuplev4_mesh *recs, uint32_t n);
 int ifit_flow_tuplev4_mesh__sendtomsg(uint32_t channel, const ifit_flow_tuplev4_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev4_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_flow_tuplev4_mesh_key: Key of ifit_flow_tuplev4_mesh: its slots 0 to 2. Fixed form of 40 bytes, compact form of
+ * 18 to 34. Owns no memory. */
 typedef struct ifit_flow_tuplev4_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -992,7 +1061,8 @@ int ifit_flow_tuplev4_mesh_key__sendbatch(uint32_t channel, const ifit_flow_tupl
 int ifit_flow_tuplev4_mesh_key__sendmsg(uint32_t channel, const ifit_flow_tuplev4_mesh_key *recs, uint32_t n);
 int ifit_flow_tuplev4_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_tuplev4_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev4_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_tuplev4_mesh_update: Update of ifit_flow_tuplev4_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_flow_tuplev4_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_tuplev4_mesh *items; } f1;
@@ -1008,7 +1078,8 @@ int ifit_flow_tuplev4_mesh_update__sendbatch(uint32_t channel, const ifit_flow_t
 int ifit_flow_tuplev4_mesh_update__sendmsg(uint32_t channel, const ifit_flow_tuplev4_mesh_update *recs, uint32_t n);
 int ifit_flow_tuplev4_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_tuplev4_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev4_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_tuplev4_mesh_delete: Delete of ifit_flow_tuplev4_mesh: a list of keys. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_flow_tuplev4_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_tuplev4_mesh_key *items; } f1;
@@ -1053,7 +1124,8 @@ int ifit_flow_tuplev6_mesh__sendbatch(uint32_t channel, const ifit_flow_tuplev6_
 int ifit_flow_tuplev6_mesh__sendmsg(uint32_t channel, const ifit_flow_tuplev6_mesh *recs, uint32_t n);
 int ifit_flow_tuplev6_mesh__sendtomsg(uint32_t channel, const ifit_flow_tuplev6_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev6_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_flow_tuplev6_mesh_key: Key of ifit_flow_tuplev6_mesh: its slots 0 to 2. Fixed form of 40 bytes, compact form of
+ * 18 to 34. Owns no memory. */
 typedef struct ifit_flow_tuplev6_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1070,7 +1142,8 @@ int ifit_flow_tuplev6_mesh_key__sendbatch(uint32_t channel, const ifit_flow_tupl
 int ifit_flow_tuplev6_mesh_key__sendmsg(uint32_t channel, const ifit_flow_tuplev6_mesh_key *recs, uint32_t n);
 int ifit_flow_tuplev6_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_tuplev6_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev6_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_tuplev6_mesh_update: Update of ifit_flow_tuplev6_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_flow_tuplev6_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_tuplev6_mesh *items; } f1;
@@ -1086,7 +1159,8 @@ int ifit_flow_tuplev6_mesh_update__sendbatch(uint32_t channel, const ifit_flow_t
 int ifit_flow_tuplev6_mesh_update__sendmsg(uint32_t channel, const ifit_flow_tuplev6_mesh_update *recs, uint32_t n);
 int ifit_flow_tuplev6_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_tuplev6_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_tuplev6_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_tuplev6_mesh_delete: Delete of ifit_flow_tuplev6_mesh: a list of keys. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_flow_tuplev6_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_tuplev6_mesh_key *items; } f1;
@@ -1126,7 +1200,8 @@ int ifit_flow_vpn_mesh__sendbatch(uint32_t channel, const ifit_flow_vpn_mesh *re
 int ifit_flow_vpn_mesh__sendmsg(uint32_t channel, const ifit_flow_vpn_mesh *recs, uint32_t n);
 int ifit_flow_vpn_mesh__sendtomsg(uint32_t channel, const ifit_flow_vpn_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_vpn_mesh_key: Fixed form of 40 bytes, compact form of 18 to 34. Owns no memory. */
+/* ifit_flow_vpn_mesh_key: Key of ifit_flow_vpn_mesh: its slots 0 to 2. Fixed form of 40 bytes, compact form of 18 to
+ * 34. Owns no memory. */
 typedef struct ifit_flow_vpn_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1143,7 +1218,8 @@ int ifit_flow_vpn_mesh_key__sendbatch(uint32_t channel, const ifit_flow_vpn_mesh
 int ifit_flow_vpn_mesh_key__sendmsg(uint32_t channel, const ifit_flow_vpn_mesh_key *recs, uint32_t n);
 int ifit_flow_vpn_mesh_key__sendtomsg(uint32_t channel, const ifit_flow_vpn_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_vpn_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_vpn_mesh_update: Update of ifit_flow_vpn_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_flow_vpn_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_vpn_mesh *items; } f1;
@@ -1159,7 +1235,8 @@ int ifit_flow_vpn_mesh_update__sendbatch(uint32_t channel, const ifit_flow_vpn_m
 int ifit_flow_vpn_mesh_update__sendmsg(uint32_t channel, const ifit_flow_vpn_mesh_update *recs, uint32_t n);
 int ifit_flow_vpn_mesh_update__sendtomsg(uint32_t channel, const ifit_flow_vpn_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_flow_vpn_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_flow_vpn_mesh_delete: Delete of ifit_flow_vpn_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_flow_vpn_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_flow_vpn_mesh_key *items; } f1;
@@ -1201,7 +1278,8 @@ int ifit_lrn_vpn_mesh__sendbatch(uint32_t channel, const ifit_lrn_vpn_mesh *recs
 int ifit_lrn_vpn_mesh__sendmsg(uint32_t channel, const ifit_lrn_vpn_mesh *recs, uint32_t n);
 int ifit_lrn_vpn_mesh__sendtomsg(uint32_t channel, const ifit_lrn_vpn_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_vpn_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_lrn_vpn_mesh_key: Key of ifit_lrn_vpn_mesh: its slots 0 to 1. Fixed form of 24 bytes, compact form of 16 to 24.
+ * Owns no memory. */
 typedef struct ifit_lrn_vpn_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1217,7 +1295,8 @@ int ifit_lrn_vpn_mesh_key__sendbatch(uint32_t channel, const ifit_lrn_vpn_mesh_k
 int ifit_lrn_vpn_mesh_key__sendmsg(uint32_t channel, const ifit_lrn_vpn_mesh_key *recs, uint32_t n);
 int ifit_lrn_vpn_mesh_key__sendtomsg(uint32_t channel, const ifit_lrn_vpn_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_vpn_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_lrn_vpn_mesh_update: Update of ifit_lrn_vpn_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_lrn_vpn_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_lrn_vpn_mesh *items; } f1;
@@ -1233,7 +1312,8 @@ int ifit_lrn_vpn_mesh_update__sendbatch(uint32_t channel, const ifit_lrn_vpn_mes
 int ifit_lrn_vpn_mesh_update__sendmsg(uint32_t channel, const ifit_lrn_vpn_mesh_update *recs, uint32_t n);
 int ifit_lrn_vpn_mesh_update__sendtomsg(uint32_t channel, const ifit_lrn_vpn_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_vpn_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_lrn_vpn_mesh_delete: Delete of ifit_lrn_vpn_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_lrn_vpn_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_lrn_vpn_mesh_key *items; } f1;
@@ -1269,7 +1349,8 @@ int ifit_lrn_intf_mesh__sendbatch(uint32_t channel, const ifit_lrn_intf_mesh *re
 int ifit_lrn_intf_mesh__sendmsg(uint32_t channel, const ifit_lrn_intf_mesh *recs, uint32_t n);
 int ifit_lrn_intf_mesh__sendtomsg(uint32_t channel, const ifit_lrn_intf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_intf_mesh_key: Fixed form of 32 bytes, compact form of 18 to 30. Owns no memory. */
+/* ifit_lrn_intf_mesh_key: Key of ifit_lrn_intf_mesh: its slots 0 to 2. Fixed form of 32 bytes, compact form of 18 to
+ * 30. Owns no memory. */
 typedef struct ifit_lrn_intf_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1286,7 +1367,8 @@ int ifit_lrn_intf_mesh_key__sendbatch(uint32_t channel, const ifit_lrn_intf_mesh
 int ifit_lrn_intf_mesh_key__sendmsg(uint32_t channel, const ifit_lrn_intf_mesh_key *recs, uint32_t n);
 int ifit_lrn_intf_mesh_key__sendtomsg(uint32_t channel, const ifit_lrn_intf_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_intf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_lrn_intf_mesh_update: Update of ifit_lrn_intf_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_lrn_intf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_lrn_intf_mesh *items; } f1;
@@ -1302,7 +1384,8 @@ int ifit_lrn_intf_mesh_update__sendbatch(uint32_t channel, const ifit_lrn_intf_m
 int ifit_lrn_intf_mesh_update__sendmsg(uint32_t channel, const ifit_lrn_intf_mesh_update *recs, uint32_t n);
 int ifit_lrn_intf_mesh_update__sendtomsg(uint32_t channel, const ifit_lrn_intf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_lrn_intf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_lrn_intf_mesh_delete: Delete of ifit_lrn_intf_mesh: a list of keys. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_lrn_intf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_lrn_intf_mesh_key *items; } f1;
@@ -1337,7 +1420,8 @@ int ifit_color_intf_mesh__sendbatch(uint32_t channel, const ifit_color_intf_mesh
 int ifit_color_intf_mesh__sendmsg(uint32_t channel, const ifit_color_intf_mesh *recs, uint32_t n);
 int ifit_color_intf_mesh__sendtomsg(uint32_t channel, const ifit_color_intf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_color_intf_mesh_key: Fixed form of 24 bytes, compact form of 16 to 24. Owns no memory. */
+/* ifit_color_intf_mesh_key: Key of ifit_color_intf_mesh: its slots 0 to 1. Fixed form of 24 bytes, compact form of 16
+ * to 24. Owns no memory. */
 typedef struct ifit_color_intf_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1353,7 +1437,8 @@ int ifit_color_intf_mesh_key__sendbatch(uint32_t channel, const ifit_color_intf_
 int ifit_color_intf_mesh_key__sendmsg(uint32_t channel, const ifit_color_intf_mesh_key *recs, uint32_t n);
 int ifit_color_intf_mesh_key__sendtomsg(uint32_t channel, const ifit_color_intf_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_color_intf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_color_intf_mesh_update: Update of ifit_color_intf_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_color_intf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_color_intf_mesh *items; } f1;
@@ -1369,7 +1454,8 @@ int ifit_color_intf_mesh_update__sendbatch(uint32_t channel, const ifit_color_in
 int ifit_color_intf_mesh_update__sendmsg(uint32_t channel, const ifit_color_intf_mesh_update *recs, uint32_t n);
 int ifit_color_intf_mesh_update__sendtomsg(uint32_t channel, const ifit_color_intf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_color_intf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_color_intf_mesh_delete: Delete of ifit_color_intf_mesh: a list of keys. Compact form of 16 bytes and more. Owns
+ * its elements. */
 typedef struct ifit_color_intf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_color_intf_mesh_key *items; } f1;
@@ -1405,7 +1491,8 @@ int ifit_native_ip_intf_auto_detect_mesh__sendbatch(uint32_t channel, const ifit
 int ifit_native_ip_intf_auto_detect_mesh__sendmsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh *recs, uint32_t n);
 int ifit_native_ip_intf_auto_detect_mesh__sendtomsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_auto_detect_mesh_key: Fixed form of 32 bytes, compact form of 20 to 30. Owns no memory. */
+/* ifit_native_ip_intf_auto_detect_mesh_key: Key of ifit_native_ip_intf_auto_detect_mesh: its slots 0 to 3. Fixed form
+ * of 32 bytes, compact form of 20 to 30. Owns no memory. */
 typedef struct ifit_native_ip_intf_auto_detect_mesh_key {
     uint32_t f0;
     uint32_t f1;
@@ -1423,7 +1510,8 @@ int ifit_native_ip_intf_auto_detect_mesh_key__sendbatch(uint32_t channel, const 
 int ifit_native_ip_intf_auto_detect_mesh_key__sendmsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh_key *recs, uint32_t n);
 int ifit_native_ip_intf_auto_detect_mesh_key__sendtomsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_auto_detect_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_auto_detect_mesh_update: Update of ifit_native_ip_intf_auto_detect_mesh: a list of whole records.
+ * Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_intf_auto_detect_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_auto_detect_mesh *items; } f1;
@@ -1439,7 +1527,8 @@ int ifit_native_ip_intf_auto_detect_mesh_update__sendbatch(uint32_t channel, con
 int ifit_native_ip_intf_auto_detect_mesh_update__sendmsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh_update *recs, uint32_t n);
 int ifit_native_ip_intf_auto_detect_mesh_update__sendtomsg(uint32_t channel, const ifit_native_ip_intf_auto_detect_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_native_ip_intf_auto_detect_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_native_ip_intf_auto_detect_mesh_delete: Delete of ifit_native_ip_intf_auto_detect_mesh: a list of keys. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_native_ip_intf_auto_detect_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_native_ip_intf_auto_detect_mesh_key *items; } f1;
@@ -1471,7 +1560,8 @@ int ifit_paf_mesh__sendbatch(uint32_t channel, const ifit_paf_mesh *recs, uint32
 int ifit_paf_mesh__sendmsg(uint32_t channel, const ifit_paf_mesh *recs, uint32_t n);
 int ifit_paf_mesh__sendtomsg(uint32_t channel, const ifit_paf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_paf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_paf_mesh_update: Update of ifit_paf_mesh: a list of whole records. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_paf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_paf_mesh *items; } f1;
@@ -1487,7 +1577,8 @@ int ifit_paf_mesh_update__sendbatch(uint32_t channel, const ifit_paf_mesh_update
 int ifit_paf_mesh_update__sendmsg(uint32_t channel, const ifit_paf_mesh_update *recs, uint32_t n);
 int ifit_paf_mesh_update__sendtomsg(uint32_t channel, const ifit_paf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_paf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_paf_mesh_delete: Delete of ifit_paf_mesh: a list of whole records. Compact form of 16 bytes and more. Owns its
+ * elements. */
 typedef struct ifit_paf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_paf_mesh *items; } f1;

@@ -56,6 +56,28 @@ extern "C" {
 typedef uint64_t kesto_u64 __attribute__((aligned(8)));
 #endif
 
+/* What the messages are for. A message X is meant together with X_key, X_update and X_delete, where there are such.
+ *
+ * Query frames. Every query begins with one of these: a question with ifit_dfx_query_comm_param_mesh, an answer with
+ *   ifit_dfx_query_comm_rec_mesh. The answer's frame has the two numbers and the block of the question's, a number
+ *   between them and one after them. The library carries the frames and acts on none of their fields. Messages:
+ *   ifit_dfx_query_comm_param_mesh, ifit_dfx_query_comm_rec_mesh, ifit_dfx_datetime_mesh.
+ *
+ * Statistics query. The question is a frame and a condition, the answer a frame and any number of items, each with a
+ *   date and time. Messages: ifit_dfx_query_stat_mesh_key, ifit_dfx_query_stat_cond_mesh, ifit_dfx_query_stat_rec_mesh,
+ *   ifit_dfx_query_stat_item_mesh.
+ *
+ * Global data query. The question is a frame and a condition, the answer a frame and one item, which is a text.
+ *   Messages: ifit_dfx_query_glbdata_mesh_key, ifit_dfx_query_glbdata_cond_mesh, ifit_dfx_query_glbdata_rec_mesh,
+ *   ifit_dfx_query_glbdata_item_mesh.
+ *
+ * Hash query. The question is a frame and the widest condition of the module, the answer a frame and one item, the
+ *   module's largest record. Messages: ifit_dfx_query_queryhash_mesh_key, ifit_dfx_query_queryhash_cond_mesh,
+ *   ifit_dfx_query_queryhash_rec_mesh, ifit_dfx_query_queryhash_item_mesh.
+ *
+ * Reset of statistics. Stands outside the queries. Messages: ifit_dfx_reset_statis_mesh.
+ */
+
 /* ifit_dfx_query_stat_cond_mesh: Fixed form of 32 bytes, compact form of 18 to 30. Owns no memory. */
 typedef struct ifit_dfx_query_stat_cond_mesh {
     uint32_t f0;

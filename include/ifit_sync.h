@@ -56,7 +56,39 @@ extern "C" {
 typedef uint64_t kesto_u64 __attribute__((aligned(8)));
 #endif
 
-/* ifit_sync_ifit_rule: Fixed form of 176 bytes, compact form of 116 to 176. Owns no memory. */
+/* What the messages are for. A message X is meant together with X_key, X_update and X_delete, where there are such.
+ *
+ * Mirrored tables. The synchronised copy of control tables: the row, and then the sync tail u8, u8, u16, u32, u32. They
+ *   have no key: update and delete both carry lists of whole records. Messages: ifit_sync_global_mesh,
+ *   ifit_sync_mcp_mesh, ifit_sync_test_type_mesh, ifit_sync_flow_base_mesh, ifit_sync_flow_srv6policy_mesh,
+ *   ifit_sync_dyn_flow_mesh, ifit_sync_flow_tuplev4_mesh, ifit_sync_flow_tuplev6_mesh, ifit_sync_flow_vpn_mesh,
+ *   ifit_sync_flow_loss_mesh, ifit_sync_flow_delay_mesh, ifit_sync_lrn_vpn_mesh, ifit_sync_lrn_intf_mesh,
+ *   ifit_sync_color_intf_mesh, ifit_sync_color_intf_entry_mesh.
+ *
+ * Rule, native-IP and global entries. The synchronised copy of rule, native-IP and global tables, with more numbers
+ *   before the sync tail. Except for ifit_sync_mcp_global_entry, update and delete carry one whole record, in fixed form.
+ *   Messages: ifit_sync_ifit_rule, ifit_sync_ifit_native_ip_learn, ifit_sync_ifit_native_ip_intf,
+ *   ifit_sync_ifit_native_ip_intf_color_clear, ifit_sync_ifit_native_ip_intf_auto_detect, ifit_sync_ifit_global_entry,
+ *   ifit_sync_mcp_global_entry.
+ *
+ * Flow state entries. The state of single flows, which has no control table: flow information, ageing, sessions, and
+ *   the extended flow information for IPv4 and IPv6. All begin with the slots of their key and end with the sync tail.
+ *   Messages: ifit_sync_ifit_flowinfo_entry, ifit_sync_ifit_flowage_entry, ifit_sync_ifit_session_entry,
+ *   ifit_sync_ifit_tuplev4ext_flowinfo_entry, ifit_sync_ifit_tuplev6ext_flowinfo_entry.
+ *
+ * Native entries. Entries for native telemetry. They repeat no message of the module ntvifit. Update and delete carry
+ *   one whole record, in fixed form. Messages: ifit_sync_ntvifit_glb_entry, ifit_sync_ntvifit_intf_entry,
+ *   ifit_sync_ntvifit_intf_color_clear_entry, ifit_sync_ntvifit_intf_auto_detect_entry.
+ *
+ * Whitelist entries. Whitelists by VPN and by rule, each for interfaces. Messages:
+ *   ifit_sync_ifit_whitelist_vpn_intf_entry, ifit_sync_ifit_whitelist_rule_intf_entry.
+ *
+ * Smoothing. By their names, the version of the database and the request of a smoothing run. Messages:
+ *   ifit_sync_db_smooth_ver, ifit_sync_dam_smooth_request.
+ */
+
+/* ifit_sync_ifit_rule: The row of ifit_rule_mesh, then 7 more slots, the last five of them the sync tail. Fixed form of
+ * 176 bytes, compact form of 116 to 176. Owns no memory. */
 typedef struct ifit_sync_ifit_rule {
     uint32_t f0;
     uint32_t f1;
@@ -98,7 +130,8 @@ int ifit_sync_ifit_rule__sendbatch(uint32_t channel, const ifit_sync_ifit_rule *
 int ifit_sync_ifit_rule__sendmsg(uint32_t channel, const ifit_sync_ifit_rule *recs, uint32_t n);
 int ifit_sync_ifit_rule__sendtomsg(uint32_t channel, const ifit_sync_ifit_rule *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_learn: Fixed form of 80 bytes, compact form of 42 to 74. Owns no memory. */
+/* ifit_sync_ifit_native_ip_learn: The row of ifit_native_ip_learn_mesh, then 7 more slots, the last five of them the
+ * sync tail. Fixed form of 80 bytes, compact form of 42 to 74. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_learn {
     uint32_t f0;
     uint8_t f1;
@@ -127,7 +160,8 @@ int ifit_sync_ifit_native_ip_learn__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_ifit_native_ip_learn__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_learn__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf: Fixed form of 80 bytes, compact form of 40 to 76. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf: The row of ifit_native_ip_intf_mesh, then 7 more slots, the last five of them the sync
+ * tail. Fixed form of 80 bytes, compact form of 40 to 76. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf {
     uint32_t f0;
     uint32_t f1;
@@ -155,7 +189,8 @@ int ifit_sync_ifit_native_ip_intf__sendbatch(uint32_t channel, const ifit_sync_i
 int ifit_sync_ifit_native_ip_intf__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_color_clear: Fixed form of 72 bytes, compact form of 36 to 67. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_color_clear: The row of ifit_native_ip_intf_color_clear_mesh, then 7 more slots, which
+ * are not the sync tail. Fixed form of 72 bytes, compact form of 36 to 67. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_color_clear {
     uint32_t f0;
     uint32_t f1;
@@ -181,7 +216,8 @@ int ifit_sync_ifit_native_ip_intf_color_clear__sendbatch(uint32_t channel, const
 int ifit_sync_ifit_native_ip_intf_color_clear__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_color_clear__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_auto_detect: Fixed form of 72 bytes, compact form of 38 to 70. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_auto_detect: The row of ifit_native_ip_intf_auto_detect_mesh, then 7 more slots, the
+ * last five of them the sync tail. Fixed form of 72 bytes, compact form of 38 to 70. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_auto_detect {
     uint32_t f0;
     uint32_t f1;
@@ -239,7 +275,8 @@ int ifit_sync_ntvifit_glb_entry__sendbatch(uint32_t channel, const ifit_sync_ntv
 int ifit_sync_ntvifit_glb_entry__sendmsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry *recs, uint32_t n);
 int ifit_sync_ntvifit_glb_entry__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_global_entry: Fixed form of 144 bytes, compact form of 68 to 140. Owns no memory. */
+/* ifit_sync_ifit_global_entry: Repeats ifit_global_mesh only in slots 0 to 12; slot 13 is u32 here and u8 there. Fixed
+ * form of 144 bytes, compact form of 68 to 140. Owns no memory. */
 typedef struct ifit_sync_ifit_global_entry {
     uint32_t f0;
     uint8_t f1;
@@ -379,7 +416,8 @@ int ifit_sync_ntvifit_intf_auto_detect_entry__sendbatch(uint32_t channel, const 
 int ifit_sync_ntvifit_intf_auto_detect_entry__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_auto_detect_entry__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_global_mesh: Fixed form of 96 bytes, compact form of 50 to 94. Owns no memory. */
+/* ifit_sync_global_mesh: Repeats ifit_global_mesh only in slots 0 to 14; slot 15 is u8 here and u16 there. Fixed form
+ * of 96 bytes, compact form of 50 to 94. Owns no memory. */
 typedef struct ifit_sync_global_mesh {
     uint32_t f0;
     uint8_t f1;
@@ -412,7 +450,8 @@ int ifit_sync_global_mesh__sendbatch(uint32_t channel, const ifit_sync_global_me
 int ifit_sync_global_mesh__sendmsg(uint32_t channel, const ifit_sync_global_mesh *recs, uint32_t n);
 int ifit_sync_global_mesh__sendtomsg(uint32_t channel, const ifit_sync_global_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_global_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_global_mesh_update: Update of ifit_sync_global_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_sync_global_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_global_mesh *items; } f1;
@@ -428,7 +467,8 @@ int ifit_sync_global_mesh_update__sendbatch(uint32_t channel, const ifit_sync_gl
 int ifit_sync_global_mesh_update__sendmsg(uint32_t channel, const ifit_sync_global_mesh_update *recs, uint32_t n);
 int ifit_sync_global_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_global_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_global_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_global_mesh_delete: Delete of ifit_sync_global_mesh: a list of whole records. Compact form of 16 bytes and
+ * more. Owns its elements. */
 typedef struct ifit_sync_global_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_global_mesh *items; } f1;
@@ -444,7 +484,8 @@ int ifit_sync_global_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_gl
 int ifit_sync_global_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_global_mesh_delete *recs, uint32_t n);
 int ifit_sync_global_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_global_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_mcp_mesh: Fixed form of 64 bytes, compact form of 34 to 62. Owns no memory. */
+/* ifit_sync_mcp_mesh: The row of ifit_mcp_mesh, then 5 more slots, the sync tail. Fixed form of 64 bytes, compact form
+ * of 34 to 62. Owns no memory. */
 typedef struct ifit_sync_mcp_mesh {
     uint32_t f0;
     uint8_t f1;
@@ -469,7 +510,8 @@ int ifit_sync_mcp_mesh__sendbatch(uint32_t channel, const ifit_sync_mcp_mesh *re
 int ifit_sync_mcp_mesh__sendmsg(uint32_t channel, const ifit_sync_mcp_mesh *recs, uint32_t n);
 int ifit_sync_mcp_mesh__sendtomsg(uint32_t channel, const ifit_sync_mcp_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_mcp_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_mcp_mesh_update: Update of ifit_sync_mcp_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_sync_mcp_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_mcp_mesh *items; } f1;
@@ -485,7 +527,8 @@ int ifit_sync_mcp_mesh_update__sendbatch(uint32_t channel, const ifit_sync_mcp_m
 int ifit_sync_mcp_mesh_update__sendmsg(uint32_t channel, const ifit_sync_mcp_mesh_update *recs, uint32_t n);
 int ifit_sync_mcp_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_mcp_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_mcp_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_mcp_mesh_delete: Delete of ifit_sync_mcp_mesh: a list of whole records. Compact form of 16 bytes and more.
+ * Owns its elements. */
 typedef struct ifit_sync_mcp_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_mcp_mesh *items; } f1;
@@ -501,7 +544,8 @@ int ifit_sync_mcp_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_mcp_m
 int ifit_sync_mcp_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_mcp_mesh_delete *recs, uint32_t n);
 int ifit_sync_mcp_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_mcp_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_base_mesh: Fixed form of 112 bytes, compact form of 46 to 106. Owns no memory. */
+/* ifit_sync_flow_base_mesh: The row of ifit_flow_base_mesh, then 5 more slots, the sync tail. Fixed form of 112 bytes,
+ * compact form of 46 to 106. Owns no memory. */
 typedef struct ifit_sync_flow_base_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -532,7 +576,8 @@ int ifit_sync_flow_base_mesh__sendbatch(uint32_t channel, const ifit_sync_flow_b
 int ifit_sync_flow_base_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_base_mesh *recs, uint32_t n);
 int ifit_sync_flow_base_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_base_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_base_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_base_mesh_update: Update of ifit_sync_flow_base_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_base_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_base_mesh *items; } f1;
@@ -548,7 +593,8 @@ int ifit_sync_flow_base_mesh_update__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_flow_base_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_base_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_base_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_base_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_base_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_base_mesh_delete: Delete of ifit_sync_flow_base_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_base_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_base_mesh *items; } f1;
@@ -564,7 +610,8 @@ int ifit_sync_flow_base_mesh_delete__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_flow_base_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_base_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_base_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_base_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_srv6policy_mesh: Fixed form of 184 bytes, compact form of 124 to 180. Owns no memory. */
+/* ifit_sync_flow_srv6policy_mesh: The row of ifit_flow_srv6policy_mesh, then 5 more slots, the sync tail. Fixed form of
+ * 184 bytes, compact form of 124 to 180. Owns no memory. */
 typedef struct ifit_sync_flow_srv6policy_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -598,7 +645,8 @@ int ifit_sync_flow_srv6policy_mesh__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_flow_srv6policy_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh *recs, uint32_t n);
 int ifit_sync_flow_srv6policy_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_srv6policy_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_srv6policy_mesh_update: Update of ifit_sync_flow_srv6policy_mesh: a list of whole records. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_srv6policy_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_srv6policy_mesh *items; } f1;
@@ -614,7 +662,8 @@ int ifit_sync_flow_srv6policy_mesh_update__sendbatch(uint32_t channel, const ifi
 int ifit_sync_flow_srv6policy_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_srv6policy_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_srv6policy_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_srv6policy_mesh_delete: Delete of ifit_sync_flow_srv6policy_mesh: a list of whole records. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_srv6policy_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_srv6policy_mesh *items; } f1;
@@ -630,7 +679,8 @@ int ifit_sync_flow_srv6policy_mesh_delete__sendbatch(uint32_t channel, const ifi
 int ifit_sync_flow_srv6policy_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_srv6policy_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_srv6policy_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_dyn_flow_mesh: Fixed form of 152 bytes, compact form of 84 to 152. Owns no memory. */
+/* ifit_sync_dyn_flow_mesh: The row of ifit_dyn_flow_mesh, then 5 more slots, the sync tail. Fixed form of 152 bytes,
+ * compact form of 84 to 152. Owns no memory. */
 typedef struct ifit_sync_dyn_flow_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -668,7 +718,8 @@ int ifit_sync_dyn_flow_mesh__sendbatch(uint32_t channel, const ifit_sync_dyn_flo
 int ifit_sync_dyn_flow_mesh__sendmsg(uint32_t channel, const ifit_sync_dyn_flow_mesh *recs, uint32_t n);
 int ifit_sync_dyn_flow_mesh__sendtomsg(uint32_t channel, const ifit_sync_dyn_flow_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_dyn_flow_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_dyn_flow_mesh_update: Update of ifit_sync_dyn_flow_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_dyn_flow_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_dyn_flow_mesh *items; } f1;
@@ -684,7 +735,8 @@ int ifit_sync_dyn_flow_mesh_update__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_dyn_flow_mesh_update__sendmsg(uint32_t channel, const ifit_sync_dyn_flow_mesh_update *recs, uint32_t n);
 int ifit_sync_dyn_flow_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_dyn_flow_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_dyn_flow_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_dyn_flow_mesh_delete: Delete of ifit_sync_dyn_flow_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_dyn_flow_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_dyn_flow_mesh *items; } f1;
@@ -700,7 +752,8 @@ int ifit_sync_dyn_flow_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_dyn_flow_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_dyn_flow_mesh_delete *recs, uint32_t n);
 int ifit_sync_dyn_flow_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_dyn_flow_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_loss_mesh: Fixed form of 64 bytes, compact form of 32 to 64. Owns no memory. */
+/* ifit_sync_flow_loss_mesh: The row of ifit_flow_loss_mesh, then 5 more slots, the sync tail. Fixed form of 64 bytes,
+ * compact form of 32 to 64. Owns no memory. */
 typedef struct ifit_sync_flow_loss_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -724,7 +777,8 @@ int ifit_sync_flow_loss_mesh__sendbatch(uint32_t channel, const ifit_sync_flow_l
 int ifit_sync_flow_loss_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_loss_mesh *recs, uint32_t n);
 int ifit_sync_flow_loss_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_loss_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_loss_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_loss_mesh_update: Update of ifit_sync_flow_loss_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_loss_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_loss_mesh *items; } f1;
@@ -740,7 +794,8 @@ int ifit_sync_flow_loss_mesh_update__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_flow_loss_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_loss_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_loss_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_loss_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_loss_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_loss_mesh_delete: Delete of ifit_sync_flow_loss_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_loss_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_loss_mesh *items; } f1;
@@ -756,7 +811,8 @@ int ifit_sync_flow_loss_mesh_delete__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_flow_loss_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_loss_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_loss_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_loss_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_delay_mesh: Fixed form of 64 bytes, compact form of 32 to 64. Owns no memory. */
+/* ifit_sync_flow_delay_mesh: The row of ifit_flow_delay_mesh, then 5 more slots, the sync tail. Fixed form of 64 bytes,
+ * compact form of 32 to 64. Owns no memory. */
 typedef struct ifit_sync_flow_delay_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -780,7 +836,8 @@ int ifit_sync_flow_delay_mesh__sendbatch(uint32_t channel, const ifit_sync_flow_
 int ifit_sync_flow_delay_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_delay_mesh *recs, uint32_t n);
 int ifit_sync_flow_delay_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_delay_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_delay_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_delay_mesh_update: Update of ifit_sync_flow_delay_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_delay_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_delay_mesh *items; } f1;
@@ -796,7 +853,8 @@ int ifit_sync_flow_delay_mesh_update__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_flow_delay_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_delay_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_delay_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_delay_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_delay_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_delay_mesh_delete: Delete of ifit_sync_flow_delay_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_delay_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_delay_mesh *items; } f1;
@@ -812,7 +870,8 @@ int ifit_sync_flow_delay_mesh_delete__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_flow_delay_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_delay_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_delay_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_delay_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_test_type_mesh: Fixed form of 72 bytes, compact form of 36 to 68. Owns no memory. */
+/* ifit_sync_test_type_mesh: The row of ifit_test_type_mesh, then 5 more slots, the sync tail. Fixed form of 72 bytes,
+ * compact form of 36 to 68. Owns no memory. */
 typedef struct ifit_sync_test_type_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -838,7 +897,8 @@ int ifit_sync_test_type_mesh__sendbatch(uint32_t channel, const ifit_sync_test_t
 int ifit_sync_test_type_mesh__sendmsg(uint32_t channel, const ifit_sync_test_type_mesh *recs, uint32_t n);
 int ifit_sync_test_type_mesh__sendtomsg(uint32_t channel, const ifit_sync_test_type_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_test_type_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_test_type_mesh_update: Update of ifit_sync_test_type_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_test_type_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_test_type_mesh *items; } f1;
@@ -854,7 +914,8 @@ int ifit_sync_test_type_mesh_update__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_test_type_mesh_update__sendmsg(uint32_t channel, const ifit_sync_test_type_mesh_update *recs, uint32_t n);
 int ifit_sync_test_type_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_test_type_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_test_type_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_test_type_mesh_delete: Delete of ifit_sync_test_type_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_test_type_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_test_type_mesh *items; } f1;
@@ -870,7 +931,8 @@ int ifit_sync_test_type_mesh_delete__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_test_type_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_test_type_mesh_delete *recs, uint32_t n);
 int ifit_sync_test_type_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_test_type_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev4_mesh: Fixed form of 120 bytes, compact form of 56 to 120. Owns no memory. */
+/* ifit_sync_flow_tuplev4_mesh: The row of ifit_flow_tuplev4_mesh, then 5 more slots, the sync tail. Fixed form of 120
+ * bytes, compact form of 56 to 120. Owns no memory. */
 typedef struct ifit_sync_flow_tuplev4_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -906,7 +968,8 @@ int ifit_sync_flow_tuplev4_mesh__sendbatch(uint32_t channel, const ifit_sync_flo
 int ifit_sync_flow_tuplev4_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh *recs, uint32_t n);
 int ifit_sync_flow_tuplev4_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev4_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_tuplev4_mesh_update: Update of ifit_sync_flow_tuplev4_mesh: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_tuplev4_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_tuplev4_mesh *items; } f1;
@@ -922,7 +985,8 @@ int ifit_sync_flow_tuplev4_mesh_update__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_flow_tuplev4_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_tuplev4_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev4_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_tuplev4_mesh_delete: Delete of ifit_sync_flow_tuplev4_mesh: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_tuplev4_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_tuplev4_mesh *items; } f1;
@@ -938,7 +1002,8 @@ int ifit_sync_flow_tuplev4_mesh_delete__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_flow_tuplev4_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_tuplev4_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev4_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev6_mesh: Fixed form of 152 bytes, compact form of 100 to 148. Owns no memory. */
+/* ifit_sync_flow_tuplev6_mesh: The row of ifit_flow_tuplev6_mesh, then 5 more slots, the sync tail. Fixed form of 152
+ * bytes, compact form of 100 to 148. Owns no memory. */
 typedef struct ifit_sync_flow_tuplev6_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -972,7 +1037,8 @@ int ifit_sync_flow_tuplev6_mesh__sendbatch(uint32_t channel, const ifit_sync_flo
 int ifit_sync_flow_tuplev6_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh *recs, uint32_t n);
 int ifit_sync_flow_tuplev6_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev6_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_tuplev6_mesh_update: Update of ifit_sync_flow_tuplev6_mesh: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_tuplev6_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_tuplev6_mesh *items; } f1;
@@ -988,7 +1054,8 @@ int ifit_sync_flow_tuplev6_mesh_update__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_flow_tuplev6_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_tuplev6_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_tuplev6_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_tuplev6_mesh_delete: Delete of ifit_sync_flow_tuplev6_mesh: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_flow_tuplev6_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_tuplev6_mesh *items; } f1;
@@ -1004,7 +1071,8 @@ int ifit_sync_flow_tuplev6_mesh_delete__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_flow_tuplev6_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_tuplev6_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_tuplev6_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_vpn_mesh: Fixed form of 96 bytes, compact form of 42 to 90. Owns no memory. */
+/* ifit_sync_flow_vpn_mesh: The row of ifit_flow_vpn_mesh, then 5 more slots, the sync tail. Fixed form of 96 bytes,
+ * compact form of 42 to 90. Owns no memory. */
 typedef struct ifit_sync_flow_vpn_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -1033,7 +1101,8 @@ int ifit_sync_flow_vpn_mesh__sendbatch(uint32_t channel, const ifit_sync_flow_vp
 int ifit_sync_flow_vpn_mesh__sendmsg(uint32_t channel, const ifit_sync_flow_vpn_mesh *recs, uint32_t n);
 int ifit_sync_flow_vpn_mesh__sendtomsg(uint32_t channel, const ifit_sync_flow_vpn_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_vpn_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_vpn_mesh_update: Update of ifit_sync_flow_vpn_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_flow_vpn_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_vpn_mesh *items; } f1;
@@ -1049,7 +1118,8 @@ int ifit_sync_flow_vpn_mesh_update__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_flow_vpn_mesh_update__sendmsg(uint32_t channel, const ifit_sync_flow_vpn_mesh_update *recs, uint32_t n);
 int ifit_sync_flow_vpn_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_flow_vpn_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_flow_vpn_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_flow_vpn_mesh_delete: Delete of ifit_sync_flow_vpn_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_flow_vpn_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_flow_vpn_mesh *items; } f1;
@@ -1065,7 +1135,8 @@ int ifit_sync_flow_vpn_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_flow_vpn_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_flow_vpn_mesh_delete *recs, uint32_t n);
 int ifit_sync_flow_vpn_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_flow_vpn_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_vpn_mesh: Fixed form of 88 bytes, compact form of 46 to 86. Owns no memory. */
+/* ifit_sync_lrn_vpn_mesh: The row of ifit_lrn_vpn_mesh, then 5 more slots, the sync tail. Fixed form of 88 bytes,
+ * compact form of 46 to 86. Owns no memory. */
 typedef struct ifit_sync_lrn_vpn_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -1096,7 +1167,8 @@ int ifit_sync_lrn_vpn_mesh__sendbatch(uint32_t channel, const ifit_sync_lrn_vpn_
 int ifit_sync_lrn_vpn_mesh__sendmsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh *recs, uint32_t n);
 int ifit_sync_lrn_vpn_mesh__sendtomsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_vpn_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_lrn_vpn_mesh_update: Update of ifit_sync_lrn_vpn_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_lrn_vpn_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_lrn_vpn_mesh *items; } f1;
@@ -1112,7 +1184,8 @@ int ifit_sync_lrn_vpn_mesh_update__sendbatch(uint32_t channel, const ifit_sync_l
 int ifit_sync_lrn_vpn_mesh_update__sendmsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh_update *recs, uint32_t n);
 int ifit_sync_lrn_vpn_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_vpn_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_lrn_vpn_mesh_delete: Delete of ifit_sync_lrn_vpn_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_lrn_vpn_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_lrn_vpn_mesh *items; } f1;
@@ -1128,7 +1201,8 @@ int ifit_sync_lrn_vpn_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_l
 int ifit_sync_lrn_vpn_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh_delete *recs, uint32_t n);
 int ifit_sync_lrn_vpn_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_lrn_vpn_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_intf_mesh: Fixed form of 72 bytes, compact form of 34 to 70. Owns no memory. */
+/* ifit_sync_lrn_intf_mesh: The row of ifit_lrn_intf_mesh, then 5 more slots, the sync tail. Fixed form of 72 bytes,
+ * compact form of 34 to 70. Owns no memory. */
 typedef struct ifit_sync_lrn_intf_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -1153,7 +1227,8 @@ int ifit_sync_lrn_intf_mesh__sendbatch(uint32_t channel, const ifit_sync_lrn_int
 int ifit_sync_lrn_intf_mesh__sendmsg(uint32_t channel, const ifit_sync_lrn_intf_mesh *recs, uint32_t n);
 int ifit_sync_lrn_intf_mesh__sendtomsg(uint32_t channel, const ifit_sync_lrn_intf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_intf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_lrn_intf_mesh_update: Update of ifit_sync_lrn_intf_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_lrn_intf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_lrn_intf_mesh *items; } f1;
@@ -1169,7 +1244,8 @@ int ifit_sync_lrn_intf_mesh_update__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_lrn_intf_mesh_update__sendmsg(uint32_t channel, const ifit_sync_lrn_intf_mesh_update *recs, uint32_t n);
 int ifit_sync_lrn_intf_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_lrn_intf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_lrn_intf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_lrn_intf_mesh_delete: Delete of ifit_sync_lrn_intf_mesh: a list of whole records. Compact form of 16 bytes
+ * and more. Owns its elements. */
 typedef struct ifit_sync_lrn_intf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_lrn_intf_mesh *items; } f1;
@@ -1185,7 +1261,8 @@ int ifit_sync_lrn_intf_mesh_delete__sendbatch(uint32_t channel, const ifit_sync_
 int ifit_sync_lrn_intf_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_lrn_intf_mesh_delete *recs, uint32_t n);
 int ifit_sync_lrn_intf_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_lrn_intf_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_color_intf_mesh: Fixed form of 56 bytes, compact form of 32 to 56. Owns no memory. */
+/* ifit_sync_color_intf_mesh: The row of ifit_color_intf_mesh, then 5 more slots, the sync tail. Fixed form of 56 bytes,
+ * compact form of 32 to 56. Owns no memory. */
 typedef struct ifit_sync_color_intf_mesh {
     uint32_t f0;
     uint32_t f1;
@@ -1209,7 +1286,8 @@ int ifit_sync_color_intf_mesh__sendbatch(uint32_t channel, const ifit_sync_color
 int ifit_sync_color_intf_mesh__sendmsg(uint32_t channel, const ifit_sync_color_intf_mesh *recs, uint32_t n);
 int ifit_sync_color_intf_mesh__sendtomsg(uint32_t channel, const ifit_sync_color_intf_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_color_intf_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_color_intf_mesh_update: Update of ifit_sync_color_intf_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_color_intf_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_color_intf_mesh *items; } f1;
@@ -1225,7 +1303,8 @@ int ifit_sync_color_intf_mesh_update__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_color_intf_mesh_update__sendmsg(uint32_t channel, const ifit_sync_color_intf_mesh_update *recs, uint32_t n);
 int ifit_sync_color_intf_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_color_intf_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_color_intf_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_color_intf_mesh_delete: Delete of ifit_sync_color_intf_mesh: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_color_intf_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_color_intf_mesh *items; } f1;
@@ -1241,7 +1320,8 @@ int ifit_sync_color_intf_mesh_delete__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_color_intf_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_color_intf_mesh_delete *recs, uint32_t n);
 int ifit_sync_color_intf_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_color_intf_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_rule_update: Fixed form of 200 bytes, compact form of 132 to 194. Owns no memory. */
+/* ifit_sync_ifit_rule_update: Update of ifit_sync_ifit_rule: one whole record. Fixed form of 200 bytes, compact form of
+ * 132 to 194. Owns no memory. */
 typedef struct ifit_sync_ifit_rule_update {
     uint16_t f0;
     ifit_sync_ifit_rule f1;
@@ -1257,7 +1337,8 @@ int ifit_sync_ifit_rule_update__sendbatch(uint32_t channel, const ifit_sync_ifit
 int ifit_sync_ifit_rule_update__sendmsg(uint32_t channel, const ifit_sync_ifit_rule_update *recs, uint32_t n);
 int ifit_sync_ifit_rule_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_rule_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_rule_delete: Fixed form of 200 bytes, compact form of 132 to 194. Owns no memory. */
+/* ifit_sync_ifit_rule_delete: Delete of ifit_sync_ifit_rule: one whole record. Fixed form of 200 bytes, compact form of
+ * 132 to 194. Owns no memory. */
 typedef struct ifit_sync_ifit_rule_delete {
     uint16_t f0;
     ifit_sync_ifit_rule f1;
@@ -1273,7 +1354,8 @@ int ifit_sync_ifit_rule_delete__sendbatch(uint32_t channel, const ifit_sync_ifit
 int ifit_sync_ifit_rule_delete__sendmsg(uint32_t channel, const ifit_sync_ifit_rule_delete *recs, uint32_t n);
 int ifit_sync_ifit_rule_delete__sendtomsg(uint32_t channel, const ifit_sync_ifit_rule_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_learn_update: Fixed form of 104 bytes, compact form of 58 to 92. Owns no memory. */
+/* ifit_sync_ifit_native_ip_learn_update: Update of ifit_sync_ifit_native_ip_learn: one whole record. Fixed form of 104
+ * bytes, compact form of 58 to 92. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_learn_update {
     uint16_t f0;
     ifit_sync_ifit_native_ip_learn f1;
@@ -1289,7 +1371,8 @@ int ifit_sync_ifit_native_ip_learn_update__sendbatch(uint32_t channel, const ifi
 int ifit_sync_ifit_native_ip_learn_update__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn_update *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_learn_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_learn_delete: Fixed form of 104 bytes, compact form of 58 to 92. Owns no memory. */
+/* ifit_sync_ifit_native_ip_learn_delete: Delete of ifit_sync_ifit_native_ip_learn: one whole record. Fixed form of 104
+ * bytes, compact form of 58 to 92. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_learn_delete {
     uint16_t f0;
     ifit_sync_ifit_native_ip_learn f1;
@@ -1305,7 +1388,8 @@ int ifit_sync_ifit_native_ip_learn_delete__sendbatch(uint32_t channel, const ifi
 int ifit_sync_ifit_native_ip_learn_delete__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn_delete *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_learn_delete__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_learn_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_update: Fixed form of 104 bytes, compact form of 56 to 94. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_update: Update of ifit_sync_ifit_native_ip_intf: one whole record. Fixed form of 104
+ * bytes, compact form of 56 to 94. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_update {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf f1;
@@ -1321,7 +1405,8 @@ int ifit_sync_ifit_native_ip_intf_update__sendbatch(uint32_t channel, const ifit
 int ifit_sync_ifit_native_ip_intf_update__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_update *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_delete: Fixed form of 104 bytes, compact form of 56 to 94. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_delete: Delete of ifit_sync_ifit_native_ip_intf: one whole record. Fixed form of 104
+ * bytes, compact form of 56 to 94. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_delete {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf f1;
@@ -1337,7 +1422,8 @@ int ifit_sync_ifit_native_ip_intf_delete__sendbatch(uint32_t channel, const ifit
 int ifit_sync_ifit_native_ip_intf_delete__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_delete *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_delete__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_color_clear_update: Fixed form of 96 bytes, compact form of 52 to 85. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_color_clear_update: Update of ifit_sync_ifit_native_ip_intf_color_clear: one whole
+ * record. Fixed form of 96 bytes, compact form of 52 to 85. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_color_clear_update {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf_color_clear f1;
@@ -1353,7 +1439,8 @@ int ifit_sync_ifit_native_ip_intf_color_clear_update__sendbatch(uint32_t channel
 int ifit_sync_ifit_native_ip_intf_color_clear_update__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear_update *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_color_clear_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_color_clear_delete: Fixed form of 96 bytes, compact form of 52 to 85. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_color_clear_delete: Delete of ifit_sync_ifit_native_ip_intf_color_clear: one whole
+ * record. Fixed form of 96 bytes, compact form of 52 to 85. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_color_clear_delete {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf_color_clear f1;
@@ -1369,7 +1456,8 @@ int ifit_sync_ifit_native_ip_intf_color_clear_delete__sendbatch(uint32_t channel
 int ifit_sync_ifit_native_ip_intf_color_clear_delete__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear_delete *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_color_clear_delete__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_color_clear_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_auto_detect_update: Fixed form of 96 bytes, compact form of 54 to 88. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_auto_detect_update: Update of ifit_sync_ifit_native_ip_intf_auto_detect: one whole
+ * record. Fixed form of 96 bytes, compact form of 54 to 88. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_auto_detect_update {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf_auto_detect f1;
@@ -1385,7 +1473,8 @@ int ifit_sync_ifit_native_ip_intf_auto_detect_update__sendbatch(uint32_t channel
 int ifit_sync_ifit_native_ip_intf_auto_detect_update__sendmsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_auto_detect_update *recs, uint32_t n);
 int ifit_sync_ifit_native_ip_intf_auto_detect_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_native_ip_intf_auto_detect_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_native_ip_intf_auto_detect_delete: Fixed form of 96 bytes, compact form of 54 to 88. Owns no memory. */
+/* ifit_sync_ifit_native_ip_intf_auto_detect_delete: Delete of ifit_sync_ifit_native_ip_intf_auto_detect: one whole
+ * record. Fixed form of 96 bytes, compact form of 54 to 88. Owns no memory. */
 typedef struct ifit_sync_ifit_native_ip_intf_auto_detect_delete {
     uint16_t f0;
     ifit_sync_ifit_native_ip_intf_auto_detect f1;
@@ -1448,7 +1537,8 @@ int ifit_sync_ifit_flowinfo_entry__sendbatch(uint32_t channel, const ifit_sync_i
 int ifit_sync_ifit_flowinfo_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry *recs, uint32_t n);
 int ifit_sync_ifit_flowinfo_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowinfo_entry_key: Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
+/* ifit_sync_ifit_flowinfo_entry_key: Key of ifit_sync_ifit_flowinfo_entry: its slots 0 to 3. Fixed form of 40 bytes,
+ * compact form of 20 to 37. Owns no memory. */
 typedef struct ifit_sync_ifit_flowinfo_entry_key {
     uint32_t f0;
     kesto_u64 f1;
@@ -1466,7 +1556,8 @@ int ifit_sync_ifit_flowinfo_entry_key__sendbatch(uint32_t channel, const ifit_sy
 int ifit_sync_ifit_flowinfo_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_flowinfo_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowinfo_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_flowinfo_entry_update: Update of ifit_sync_ifit_flowinfo_entry: a list of whole records. Compact form
+ * of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_flowinfo_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_flowinfo_entry *items; } f1;
@@ -1482,7 +1573,8 @@ int ifit_sync_ifit_flowinfo_entry_update__sendbatch(uint32_t channel, const ifit
 int ifit_sync_ifit_flowinfo_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_flowinfo_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowinfo_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowinfo_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_flowinfo_entry_delete: Delete of ifit_sync_ifit_flowinfo_entry: a list of whole records. Compact form
+ * of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_flowinfo_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_flowinfo_entry *items; } f1;
@@ -1557,7 +1649,8 @@ int ifit_sync_ifit_session_entry__sendbatch(uint32_t channel, const ifit_sync_if
 int ifit_sync_ifit_session_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_session_entry *recs, uint32_t n);
 int ifit_sync_ifit_session_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_session_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_session_entry_key: Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
+/* ifit_sync_ifit_session_entry_key: Key of ifit_sync_ifit_session_entry: its slots 0 to 3. Fixed form of 40 bytes,
+ * compact form of 20 to 37. Owns no memory. */
 typedef struct ifit_sync_ifit_session_entry_key {
     uint32_t f0;
     kesto_u64 f1;
@@ -1575,7 +1668,8 @@ int ifit_sync_ifit_session_entry_key__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_ifit_session_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_session_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_session_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_session_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_session_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_session_entry_update: Update of ifit_sync_ifit_session_entry: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_session_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_session_entry *items; } f1;
@@ -1591,7 +1685,8 @@ int ifit_sync_ifit_session_entry_update__sendbatch(uint32_t channel, const ifit_
 int ifit_sync_ifit_session_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_session_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_session_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_session_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_session_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_session_entry_delete: Delete of ifit_sync_ifit_session_entry: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_session_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_session_entry *items; } f1;
@@ -1636,7 +1731,8 @@ int ifit_sync_ifit_flowage_entry__sendbatch(uint32_t channel, const ifit_sync_if
 int ifit_sync_ifit_flowage_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_flowage_entry *recs, uint32_t n);
 int ifit_sync_ifit_flowage_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowage_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowage_entry_key: Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
+/* ifit_sync_ifit_flowage_entry_key: Key of ifit_sync_ifit_flowage_entry: its slots 0 to 3. Fixed form of 40 bytes,
+ * compact form of 20 to 37. Owns no memory. */
 typedef struct ifit_sync_ifit_flowage_entry_key {
     uint32_t f0;
     kesto_u64 f1;
@@ -1654,7 +1750,8 @@ int ifit_sync_ifit_flowage_entry_key__sendbatch(uint32_t channel, const ifit_syn
 int ifit_sync_ifit_flowage_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_flowage_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowage_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_flowage_entry_update: Update of ifit_sync_ifit_flowage_entry: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_flowage_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_flowage_entry *items; } f1;
@@ -1670,7 +1767,8 @@ int ifit_sync_ifit_flowage_entry_update__sendbatch(uint32_t channel, const ifit_
 int ifit_sync_ifit_flowage_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_flowage_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_flowage_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_flowage_entry_delete: Delete of ifit_sync_ifit_flowage_entry: a list of whole records. Compact form of
+ * 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_flowage_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_flowage_entry *items; } f1;
@@ -1686,7 +1784,8 @@ int ifit_sync_ifit_flowage_entry_delete__sendbatch(uint32_t channel, const ifit_
 int ifit_sync_ifit_flowage_entry_delete__sendmsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_delete *recs, uint32_t n);
 int ifit_sync_ifit_flowage_entry_delete__sendtomsg(uint32_t channel, const ifit_sync_ifit_flowage_entry_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_glb_entry_update: Fixed form of 112 bytes, compact form of 62 to 104. Owns no memory. */
+/* ifit_sync_ntvifit_glb_entry_update: Update of ifit_sync_ntvifit_glb_entry: one whole record. Fixed form of 112 bytes,
+ * compact form of 62 to 104. Owns no memory. */
 typedef struct ifit_sync_ntvifit_glb_entry_update {
     uint16_t f0;
     ifit_sync_ntvifit_glb_entry f1;
@@ -1702,7 +1801,8 @@ int ifit_sync_ntvifit_glb_entry_update__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_ntvifit_glb_entry_update__sendmsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry_update *recs, uint32_t n);
 int ifit_sync_ntvifit_glb_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_glb_entry_delete: Fixed form of 112 bytes, compact form of 62 to 104. Owns no memory. */
+/* ifit_sync_ntvifit_glb_entry_delete: Delete of ifit_sync_ntvifit_glb_entry: one whole record. Fixed form of 112 bytes,
+ * compact form of 62 to 104. Owns no memory. */
 typedef struct ifit_sync_ntvifit_glb_entry_delete {
     uint16_t f0;
     ifit_sync_ntvifit_glb_entry f1;
@@ -1718,7 +1818,8 @@ int ifit_sync_ntvifit_glb_entry_delete__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_ntvifit_glb_entry_delete__sendmsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry_delete *recs, uint32_t n);
 int ifit_sync_ntvifit_glb_entry_delete__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_glb_entry_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_global_entry_update: Fixed form of 168 bytes, compact form of 84 to 158. Owns no memory. */
+/* ifit_sync_ifit_global_entry_update: Update of ifit_sync_ifit_global_entry: one whole record. Fixed form of 168 bytes,
+ * compact form of 84 to 158. Owns no memory. */
 typedef struct ifit_sync_ifit_global_entry_update {
     uint16_t f0;
     ifit_sync_ifit_global_entry f1;
@@ -1734,7 +1835,8 @@ int ifit_sync_ifit_global_entry_update__sendbatch(uint32_t channel, const ifit_s
 int ifit_sync_ifit_global_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_global_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_global_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_global_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_global_entry_delete: Fixed form of 168 bytes, compact form of 84 to 158. Owns no memory. */
+/* ifit_sync_ifit_global_entry_delete: Delete of ifit_sync_ifit_global_entry: one whole record. Fixed form of 168 bytes,
+ * compact form of 84 to 158. Owns no memory. */
 typedef struct ifit_sync_ifit_global_entry_delete {
     uint16_t f0;
     ifit_sync_ifit_global_entry f1;
@@ -1775,7 +1877,8 @@ int ifit_sync_mcp_global_entry__sendbatch(uint32_t channel, const ifit_sync_mcp_
 int ifit_sync_mcp_global_entry__sendmsg(uint32_t channel, const ifit_sync_mcp_global_entry *recs, uint32_t n);
 int ifit_sync_mcp_global_entry__sendtomsg(uint32_t channel, const ifit_sync_mcp_global_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_mcp_global_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_mcp_global_entry_update: Update of ifit_sync_mcp_global_entry: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_mcp_global_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_mcp_global_entry *items; } f1;
@@ -1791,7 +1894,8 @@ int ifit_sync_mcp_global_entry_update__sendbatch(uint32_t channel, const ifit_sy
 int ifit_sync_mcp_global_entry_update__sendmsg(uint32_t channel, const ifit_sync_mcp_global_entry_update *recs, uint32_t n);
 int ifit_sync_mcp_global_entry_update__sendtomsg(uint32_t channel, const ifit_sync_mcp_global_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_mcp_global_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_mcp_global_entry_delete: Delete of ifit_sync_mcp_global_entry: a list of whole records. Compact form of 16
+ * bytes and more. Owns its elements. */
 typedef struct ifit_sync_mcp_global_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_mcp_global_entry *items; } f1;
@@ -1807,7 +1911,8 @@ int ifit_sync_mcp_global_entry_delete__sendbatch(uint32_t channel, const ifit_sy
 int ifit_sync_mcp_global_entry_delete__sendmsg(uint32_t channel, const ifit_sync_mcp_global_entry_delete *recs, uint32_t n);
 int ifit_sync_mcp_global_entry_delete__sendtomsg(uint32_t channel, const ifit_sync_mcp_global_entry_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_entry_update: Fixed form of 168 bytes, compact form of 90 to 155. Owns no memory. */
+/* ifit_sync_ntvifit_intf_entry_update: Update of ifit_sync_ntvifit_intf_entry: one whole record. Fixed form of 168
+ * bytes, compact form of 90 to 155. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_entry_update {
     uint16_t f0;
     ifit_sync_ntvifit_intf_entry f1;
@@ -1823,7 +1928,8 @@ int ifit_sync_ntvifit_intf_entry_update__sendbatch(uint32_t channel, const ifit_
 int ifit_sync_ntvifit_intf_entry_update__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_entry_update *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_entry_delete: Fixed form of 168 bytes, compact form of 90 to 155. Owns no memory. */
+/* ifit_sync_ntvifit_intf_entry_delete: Delete of ifit_sync_ntvifit_intf_entry: one whole record. Fixed form of 168
+ * bytes, compact form of 90 to 155. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_entry_delete {
     uint16_t f0;
     ifit_sync_ntvifit_intf_entry f1;
@@ -1899,7 +2005,8 @@ int ifit_sync_ifit_tuplev4ext_flowinfo_entry__sendbatch(uint32_t channel, const 
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry *recs, uint32_t n);
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_key: Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
+/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_key: Key of ifit_sync_ifit_tuplev4ext_flowinfo_entry: its slots 0 to 3.
+ * Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
 typedef struct ifit_sync_ifit_tuplev4ext_flowinfo_entry_key {
     uint32_t f0;
     kesto_u64 f1;
@@ -1917,7 +2024,8 @@ int ifit_sync_ifit_tuplev4ext_flowinfo_entry_key__sendbatch(uint32_t channel, co
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_update: Update of ifit_sync_ifit_tuplev4ext_flowinfo_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_tuplev4ext_flowinfo_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_tuplev4ext_flowinfo_entry *items; } f1;
@@ -1933,7 +2041,8 @@ int ifit_sync_ifit_tuplev4ext_flowinfo_entry_update__sendbatch(uint32_t channel,
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_tuplev4ext_flowinfo_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev4ext_flowinfo_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_tuplev4ext_flowinfo_entry_delete: Delete of ifit_sync_ifit_tuplev4ext_flowinfo_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_tuplev4ext_flowinfo_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_tuplev4ext_flowinfo_entry *items; } f1;
@@ -1994,7 +2103,8 @@ int ifit_sync_ifit_tuplev6ext_flowinfo_entry__sendbatch(uint32_t channel, const 
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry *recs, uint32_t n);
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_key: Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
+/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_key: Key of ifit_sync_ifit_tuplev6ext_flowinfo_entry: its slots 0 to 3.
+ * Fixed form of 40 bytes, compact form of 20 to 37. Owns no memory. */
 typedef struct ifit_sync_ifit_tuplev6ext_flowinfo_entry_key {
     uint32_t f0;
     kesto_u64 f1;
@@ -2012,7 +2122,8 @@ int ifit_sync_ifit_tuplev6ext_flowinfo_entry_key__sendbatch(uint32_t channel, co
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_update: Update of ifit_sync_ifit_tuplev6ext_flowinfo_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_tuplev6ext_flowinfo_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_tuplev6ext_flowinfo_entry *items; } f1;
@@ -2028,7 +2139,8 @@ int ifit_sync_ifit_tuplev6ext_flowinfo_entry_update__sendbatch(uint32_t channel,
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_tuplev6ext_flowinfo_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_tuplev6ext_flowinfo_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_tuplev6ext_flowinfo_entry_delete: Delete of ifit_sync_ifit_tuplev6ext_flowinfo_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_tuplev6ext_flowinfo_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_tuplev6ext_flowinfo_entry *items; } f1;
@@ -2076,7 +2188,8 @@ int ifit_sync_ifit_whitelist_vpn_intf_entry__sendbatch(uint32_t channel, const i
 int ifit_sync_ifit_whitelist_vpn_intf_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_vpn_intf_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_vpn_intf_entry_key: Fixed form of 32 bytes, compact form of 18 to 30. Owns no memory. */
+/* ifit_sync_ifit_whitelist_vpn_intf_entry_key: Key of ifit_sync_ifit_whitelist_vpn_intf_entry: its slots 0 to 2. Fixed
+ * form of 32 bytes, compact form of 18 to 30. Owns no memory. */
 typedef struct ifit_sync_ifit_whitelist_vpn_intf_entry_key {
     uint32_t f0;
     uint32_t f1;
@@ -2093,7 +2206,8 @@ int ifit_sync_ifit_whitelist_vpn_intf_entry_key__sendbatch(uint32_t channel, con
 int ifit_sync_ifit_whitelist_vpn_intf_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_vpn_intf_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_vpn_intf_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_whitelist_vpn_intf_entry_update: Update of ifit_sync_ifit_whitelist_vpn_intf_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_whitelist_vpn_intf_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_whitelist_vpn_intf_entry *items; } f1;
@@ -2109,7 +2223,8 @@ int ifit_sync_ifit_whitelist_vpn_intf_entry_update__sendbatch(uint32_t channel, 
 int ifit_sync_ifit_whitelist_vpn_intf_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_vpn_intf_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_vpn_intf_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_vpn_intf_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_whitelist_vpn_intf_entry_delete: Delete of ifit_sync_ifit_whitelist_vpn_intf_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_whitelist_vpn_intf_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_whitelist_vpn_intf_entry *items; } f1;
@@ -2172,7 +2287,8 @@ int ifit_sync_ifit_whitelist_rule_intf_entry__sendbatch(uint32_t channel, const 
 int ifit_sync_ifit_whitelist_rule_intf_entry__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_rule_intf_entry__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_rule_intf_entry_key: Fixed form of 48 bytes, compact form of 22 to 42. Owns no memory. */
+/* ifit_sync_ifit_whitelist_rule_intf_entry_key: Key of ifit_sync_ifit_whitelist_rule_intf_entry: its slots 0 to 4.
+ * Fixed form of 48 bytes, compact form of 22 to 42. Owns no memory. */
 typedef struct ifit_sync_ifit_whitelist_rule_intf_entry_key {
     uint32_t f0;
     uint32_t f1;
@@ -2191,7 +2307,8 @@ int ifit_sync_ifit_whitelist_rule_intf_entry_key__sendbatch(uint32_t channel, co
 int ifit_sync_ifit_whitelist_rule_intf_entry_key__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry_key *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_rule_intf_entry_key__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry_key *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_rule_intf_entry_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_whitelist_rule_intf_entry_update: Update of ifit_sync_ifit_whitelist_rule_intf_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_whitelist_rule_intf_entry_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_whitelist_rule_intf_entry *items; } f1;
@@ -2207,7 +2324,8 @@ int ifit_sync_ifit_whitelist_rule_intf_entry_update__sendbatch(uint32_t channel,
 int ifit_sync_ifit_whitelist_rule_intf_entry_update__sendmsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry_update *recs, uint32_t n);
 int ifit_sync_ifit_whitelist_rule_intf_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ifit_whitelist_rule_intf_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ifit_whitelist_rule_intf_entry_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_ifit_whitelist_rule_intf_entry_delete: Delete of ifit_sync_ifit_whitelist_rule_intf_entry: a list of whole
+ * records. Compact form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_ifit_whitelist_rule_intf_entry_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_ifit_whitelist_rule_intf_entry *items; } f1;
@@ -2247,7 +2365,8 @@ int ifit_sync_color_intf_entry_mesh__sendbatch(uint32_t channel, const ifit_sync
 int ifit_sync_color_intf_entry_mesh__sendmsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh *recs, uint32_t n);
 int ifit_sync_color_intf_entry_mesh__sendtomsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_color_intf_entry_mesh_update: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_color_intf_entry_mesh_update: Update of ifit_sync_color_intf_entry_mesh: a list of whole records. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_color_intf_entry_mesh_update {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_color_intf_entry_mesh *items; } f1;
@@ -2263,7 +2382,8 @@ int ifit_sync_color_intf_entry_mesh_update__sendbatch(uint32_t channel, const if
 int ifit_sync_color_intf_entry_mesh_update__sendmsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh_update *recs, uint32_t n);
 int ifit_sync_color_intf_entry_mesh_update__sendtomsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_color_intf_entry_mesh_delete: Compact form of 16 bytes and more. Owns its elements. */
+/* ifit_sync_color_intf_entry_mesh_delete: Delete of ifit_sync_color_intf_entry_mesh: a list of whole records. Compact
+ * form of 16 bytes and more. Owns its elements. */
 typedef struct ifit_sync_color_intf_entry_mesh_delete {
     uint16_t f0;
     struct { uint32_t count; ifit_sync_color_intf_entry_mesh *items; } f1;
@@ -2279,7 +2399,8 @@ int ifit_sync_color_intf_entry_mesh_delete__sendbatch(uint32_t channel, const if
 int ifit_sync_color_intf_entry_mesh_delete__sendmsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh_delete *recs, uint32_t n);
 int ifit_sync_color_intf_entry_mesh_delete__sendtomsg(uint32_t channel, const ifit_sync_color_intf_entry_mesh_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_color_clear_entry_update: Fixed form of 72 bytes, compact form of 42 to 64. Owns no memory. */
+/* ifit_sync_ntvifit_intf_color_clear_entry_update: Update of ifit_sync_ntvifit_intf_color_clear_entry: one whole
+ * record. Fixed form of 72 bytes, compact form of 42 to 64. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_color_clear_entry_update {
     uint16_t f0;
     ifit_sync_ntvifit_intf_color_clear_entry f1;
@@ -2295,7 +2416,8 @@ int ifit_sync_ntvifit_intf_color_clear_entry_update__sendbatch(uint32_t channel,
 int ifit_sync_ntvifit_intf_color_clear_entry_update__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_color_clear_entry_update *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_color_clear_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_color_clear_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_color_clear_entry_delete: Fixed form of 72 bytes, compact form of 42 to 64. Owns no memory. */
+/* ifit_sync_ntvifit_intf_color_clear_entry_delete: Delete of ifit_sync_ntvifit_intf_color_clear_entry: one whole
+ * record. Fixed form of 72 bytes, compact form of 42 to 64. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_color_clear_entry_delete {
     uint16_t f0;
     ifit_sync_ntvifit_intf_color_clear_entry f1;
@@ -2311,7 +2433,8 @@ int ifit_sync_ntvifit_intf_color_clear_entry_delete__sendbatch(uint32_t channel,
 int ifit_sync_ntvifit_intf_color_clear_entry_delete__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_color_clear_entry_delete *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_color_clear_entry_delete__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_color_clear_entry_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_auto_detect_entry_update: Fixed form of 120 bytes, compact form of 64 to 110. Owns no memory. */
+/* ifit_sync_ntvifit_intf_auto_detect_entry_update: Update of ifit_sync_ntvifit_intf_auto_detect_entry: one whole
+ * record. Fixed form of 120 bytes, compact form of 64 to 110. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_auto_detect_entry_update {
     uint16_t f0;
     ifit_sync_ntvifit_intf_auto_detect_entry f1;
@@ -2327,7 +2450,8 @@ int ifit_sync_ntvifit_intf_auto_detect_entry_update__sendbatch(uint32_t channel,
 int ifit_sync_ntvifit_intf_auto_detect_entry_update__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry_update *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_auto_detect_entry_update__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry_update *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_ntvifit_intf_auto_detect_entry_delete: Fixed form of 120 bytes, compact form of 64 to 110. Owns no memory. */
+/* ifit_sync_ntvifit_intf_auto_detect_entry_delete: Delete of ifit_sync_ntvifit_intf_auto_detect_entry: one whole
+ * record. Fixed form of 120 bytes, compact form of 64 to 110. Owns no memory. */
 typedef struct ifit_sync_ntvifit_intf_auto_detect_entry_delete {
     uint16_t f0;
     ifit_sync_ntvifit_intf_auto_detect_entry f1;
@@ -2343,7 +2467,8 @@ int ifit_sync_ntvifit_intf_auto_detect_entry_delete__sendbatch(uint32_t channel,
 int ifit_sync_ntvifit_intf_auto_detect_entry_delete__sendmsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry_delete *recs, uint32_t n);
 int ifit_sync_ntvifit_intf_auto_detect_entry_delete__sendtomsg(uint32_t channel, const ifit_sync_ntvifit_intf_auto_detect_entry_delete *recs, uint32_t n, uint32_t destination);
 
-/* ifit_sync_dam_smooth_request: Fixed form of 24 bytes, compact form of 14 to 18. Owns no memory. */
+/* ifit_sync_dam_smooth_request: The slots of ifit_dam_smooth_request in another module; only the id tells them apart.
+ * Fixed form of 24 bytes, compact form of 14 to 18. Owns no memory. */
 typedef struct ifit_sync_dam_smooth_request {
     uint32_t f0;
 } ifit_sync_dam_smooth_request;

@@ -56,6 +56,16 @@ extern "C" {
 typedef uint64_t kesto_u64 __attribute__((aligned(8)));
 #endif
 
+/* What the messages are for. A message X is meant together with X_key, X_update and X_delete, where there are such.
+ *
+ * Flow records. The parts of a native flow's statistics: key, configuration, tuples, counters and application data.
+ *   Each is a message, and a table of ntvifit_stats_info. The library reads no field of them. Messages:
+ *   ntvifit_stats_key, ntvifit_flow_config, ntvifit_flow_tuples, ntvifit_stats_data, ntvifit_app_data.
+ *
+ * Statistics export. Gather and export: the five flow records in one, a list of these, and a flat entry with its list,
+ *   to mdtlm. Messages: ntvifit_stats_info, ntvifit_stats_info_list, ntvifit_entry_to_mdtlm, ntvifit_entry_list_mdtlm.
+ */
+
 /* ntvifit_app_data: Compact form of 16 bytes and more. Owns its bytes. */
 typedef struct ntvifit_app_data {
     uint32_t f0;

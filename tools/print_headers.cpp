@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "tools/families.h"
 #include "tools/print_files.h"
 
 using namespace kesto::model;
@@ -151,7 +152,14 @@ std::string lengths(const Message& message)
 void print_message(std::FILE* file, const Message& message)
 {
     const char* const name = message.name.c_str();
-    std::fprintf(file, "\n/* %s: %s %s */\n", name, lengths(message).c_str(), ownership(message).c_str());
+    const std::string role = role_text(message, [](const Message& other) { return other.name; });
+    const std::string about =
+        message.name + ": " + (role.empty() ? "" : role + " ") + lengths(message) + " " + ownership(message) + " */";
+    const char* before = "\n/* ";
+    for (const std::string& line : wrapped(about, 117)) {
+        std::fprintf(file, "%s%s\n", before, line.c_str());
+        before = " * ";
+    }
     std::fprintf(file, "typedef struct %s {\n", name);
     for (const Slot& slot : message.slots)
         std::fprintf(file, "    %s;\n", field_declaration(slot).c_str());
@@ -169,9 +177,32 @@ void print_message(std::FILE* file, const Message& message)
                  name);
 }
 
+// The families of the module, as one comment.
+void print_families(std::FILE* file, const Module& module)
+{
+    const char* before = "\n/* What the messages are for. A message X is meant together with X_key, X_update and "
+                         "X_delete, where there are such.\n";
+    for (const Family& family : families()) {
+        if (module.name != family.module)
+            continue;
+        std::fprintf(file, "%s *\n * %s. ", before, family.title);
+        before = "";
+        std::string members = family.purpose;
+        for (const char* root : family.roots)
+            members += std::string(root == family.roots.front() ? " Messages: " : ", ") + root;
+        const std::vector<std::string> lines = wrapped(std::string(family.title) + ". " + members + ".", 117);
+        std::fprintf(file, "%s\n", lines[0].substr(std::string(family.title).size() + 2).c_str());
+        for (std::size_t i = 1; i < lines.size(); ++i)
+            std::fprintf(file, " *   %s\n", lines[i].c_str());
+    }
+    if (*before == '\0')
+        std::fputs(" */\n", file);
+}
+
 void print_module(std::FILE* file, const Module& module)
 {
     print_head(file, module.name);
+    print_families(file, module);
     for (const Message* message : module.messages)
         print_message(file, *message);
     const char* const name = module.name.c_str();

@@ -1,7 +1,7 @@
 // Prints the message reference, docs/messages/<module>.md, from the catalogue. It is readable as plain text, and code
 // hosts render its tables and links.
 //
-//   print_messages FOLDER    writes FOLDER/<module>.md for every module
+//   print_messages FOLDER    writes FOLDER/<module>.md for every module, FOLDER/README.md and FOLDER/overview.svg
 
 #include <algorithm>
 #include <cinttypes>
@@ -9,7 +9,10 @@
 #include <map>
 #include <set>
 #include <string>
+#include <utility>
 
+#include "tools/families.h"
+#include "tools/overview.h"
 #include "tools/print_files.h"
 
 using namespace kesto::model;
@@ -187,6 +190,12 @@ void print_message(std::FILE* file, const Message& message)
         std::fprintf(file, "Record of %u bytes.\n", on_32);
     else
         std::fprintf(file, "Record of %u bytes, %u with 64-bit pointers.\n", on_32, on_64);
+    std::string mark = "- ";
+    for (const std::string& line : wrapped(role_text(message, link), page_width - 2)) {
+        if (!line.empty())
+            std::fprintf(file, "%s%s\n", mark.c_str(), line.c_str());
+        mark = "  ";
+    }
     for (const Slot& slot : message.slots)
         if (slot.lenient)
             std::fprintf(file, "- When the table %s is refused, the message is not: the read goes on after it.\n",
@@ -196,6 +205,36 @@ void print_message(std::FILE* file, const Message& message)
         print_links(file, "Nested in:", users->second, message);
     std::fputs("\n", file);
     print_fields(file, message);
+}
+
+// ---- families ----
+
+void print_paragraph(std::FILE* file, const std::string& text)
+{
+    for (const std::string& line : wrapped(text, page_width))
+        std::fprintf(file, "%s\n", line.c_str());
+}
+
+std::string member_text(const Message* message) { return message == nullptr ? "" : link(*message); }
+
+// The purpose, and a line for each root, in columns if there are keys or lists.
+void print_family(std::FILE* file, const Family& family)
+{
+    std::fprintf(file, "\n### %s\n\n", family.title);
+    print_paragraph(file, family.purpose);
+    std::vector<Row> rows;
+    bool alone = true;
+    for (const char* root : family.roots) {
+        const Members members = members_of(root);
+        rows.push_back({member_text(members.row), member_text(members.key), member_text(members.update),
+                        member_text(members.remove)});
+        alone = alone && members.key == nullptr && members.update == nullptr && members.remove == nullptr;
+    }
+    std::fputs("\n", file);
+    if (!alone)
+        print_table(file, {{"Row"}, {"Key"}, {"Update"}, {"Delete"}}, rows);
+    for (std::size_t i = 0; alone && i < rows.size(); ++i)
+        std::fprintf(file, "- %s\n", rows[i][0].c_str());
 }
 
 // ---- the page ----
@@ -213,10 +252,9 @@ The format of the bytes: [wire-format.md](../wire-format.md).
 - **Same layout**: messages whose records and byte strings look alike all the way down. Only the id tells them apart.
 - **Nested in**: messages that have this one as a table or as the elements of a vector.
 
-## Contents
+## What they are for
 
-In the order of registration. Zero: length of an all-zero record's compact form. Rec/32, Rec/64: size of the record.
-
+A row, its key, its update and its delete are the messages X, X_key, X_update and X_delete.
 )";
 
 void print_page(std::FILE* file, const Module& module)
@@ -227,6 +265,13 @@ void print_page(std::FILE* file, const Module& module)
         else
             std::fputc(*at, file);
     }
+    for (const Family& family : families())
+        if (module.name == family.module)
+            print_family(file, family);
+    std::fputs(
+        "\n## Contents\n\nIn the order of registration. Zero: length of an all-zero record's compact form. Rec/32, "
+        "Rec/64: size of the record.\n\n",
+        file);
     std::vector<Row> contents;
     std::set<const Message*> elsewhere;
     for (const Message* message : module.messages) {
@@ -236,6 +281,8 @@ void print_page(std::FILE* file, const Module& module)
         for (const Message* other : relations().by_shape.at(shape(*message)))
             if (other->module != module.name)
                 elsewhere.insert(other);
+        if (const Message* const table = mirrored(*message))
+            elsewhere.insert(table);
     }
     print_table(file,
                 {{"Message"}, {"Id"}, {"Form"}, {"Zero", true}, {"Slots", true}, {"Rec/32", true}, {"Rec/64", true}},
@@ -253,6 +300,37 @@ void print_page(std::FILE* file, const Module& module)
                 std::fprintf(file, "%s: %s.md#%s\n", link(*message).c_str(), other.name.c_str(), message->name.c_str());
 }
 
+// ---- the overview ----
+
+constexpr const char overview_head[] = R"(# The messages
+
+Printed by `./run headers`; do not edit. The modules, and in each the families of messages. Opened on its own,
+[the picture](overview.svg) leads from every name to its place in the reference. K, U and D are a message's key, update
+and delete.
+
+)";
+
+bool print_overview(const std::string& folder)
+{
+    std::string page = overview_head;
+    for (const Module& module : catalogue().modules) {
+        std::string text = "[" + module.name + "](" + module.name + ".md): ";
+        bool first = true;
+        for (const Family& family : families())
+            if (module.name == family.module)
+                text += std::string(std::exchange(first, false) ? "" : ", ") + family.title;
+        const char* before = "- ";
+        for (const std::string& line : wrapped(text + ".", page_width - 2))
+            page += std::exchange(before, "  ") + line + "\n";
+    }
+    page += "\n[![Modules and families](overview.svg)](overview.svg)\n";
+    return write_changed(folder + "/README.md", page) && write_changed(folder + "/overview.svg", overview_svg());
+}
+
 }   // namespace
 
-int main(int argc, char** argv) { return print_files(argc, argv, ".md", print_page); }
+int main(int argc, char** argv)
+{
+    const int result = print_files(argc, argv, ".md", print_page);
+    return result != 0 ? result : print_overview(argv[1]) ? 0 : 1;
+}

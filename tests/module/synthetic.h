@@ -529,7 +529,8 @@ int synthetic_row_lists__sendbatch(uint32_t channel, const synthetic_row_lists *
 int synthetic_row_lists__sendmsg(uint32_t channel, const synthetic_row_lists *recs, uint32_t n);
 int synthetic_row_lists__sendtomsg(uint32_t channel, const synthetic_row_lists *recs, uint32_t n, uint32_t destination);
 
-/* synthetic_owner_lists: Compact form of 20 bytes and more. Owns its elements and what they own and what they own and what they own. */
+/* synthetic_owner_lists: Compact form of 20 bytes and more. Owns its elements and what they own and what they own and
+ * what they own. */
 typedef struct synthetic_owner_lists {
     struct { uint32_t count; synthetic_owner *items; } f0;
     uint8_t f1;
