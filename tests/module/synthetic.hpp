@@ -359,7 +359,7 @@ struct message_traits<::synthetic_rows> {
     static constexpr std::string_view name = "synthetic_rows";
     static constexpr bool owns_blocks = true;
     static constexpr std::uint32_t fixed_length = 0;
-    static constexpr std::uint32_t compact_least = 16;
+    static constexpr std::uint32_t compact_least = 18;
     static constexpr std::uint32_t compact_most = 0;
     static constexpr auto unpack = ::synthetic_rows__unpack;
     static constexpr auto pack = ::synthetic_rows__pack;
@@ -423,7 +423,7 @@ struct message_traits<::synthetic_deep> {
     static constexpr std::string_view name = "synthetic_deep";
     static constexpr bool owns_blocks = true;
     static constexpr std::uint32_t fixed_length = 0;
-    static constexpr std::uint32_t compact_least = 56;
+    static constexpr std::uint32_t compact_least = 58;
     static constexpr std::uint32_t compact_most = 0;
     static constexpr auto unpack = ::synthetic_deep__unpack;
     static constexpr auto pack = ::synthetic_deep__pack;
