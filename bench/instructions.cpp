@@ -1,10 +1,13 @@
-// Runs each operation of the library once on each record of a set while its instructions are counted: by callgrind,
-// which is told when to start and stop, or by the emulator's plugin (count_plugin.c), which watches for writes to file
-// -1. instructions.py runs both and reads the list of counted cases from this program's output.
+// Runs each operation of the library, and a straight copy of the record, once on each record of a set while the
+// instructions are counted: by callgrind, which is told when to start and stop, or by the emulator's plugin
+// (count_plugin.c), which watches for writes to file -1. instructions.py runs both and reads the list of counted cases
+// from this program's output.
 
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdio>
+#include <string_view>
 #if defined(__x86_64__) || defined(__i386__)
 #include <valgrind/callgrind.h>
 #endif
@@ -48,13 +51,38 @@ void count(const std::string& name, std::size_t records, Operation&& operation)
     end_count();
 }
 
-void count_decodes(const std::string& name, const Operations& library, const ByteStrings& strings)
+template <class Encode>
+void count_encodes(const std::string& name, const RecordSet& set, Encode* encode)
+{
+    count(name, set.memory.size(), [&](std::size_t i) {
+        u32 length = sizeof buffer;
+        encode(set.memory[i]->data(), buffer, &length);
+    });
+}
+
+template <class Decode, class Release>
+void count_decodes(const std::string& name, const ByteStrings& strings, Decode* decode, Release* release)
 {
     alignas(8) u8 record[record_bytes] = {};
     count(name, strings.size(), [&](std::size_t i) {
-        library.unpack(strings[i].data(), static_cast<u32>(strings[i].size()), record);
-        library.free_unpacked(record);
+        decode(strings[i].data(), static_cast<u32>(strings[i].size()), record);
+        release(record);
     });
+}
+
+// A straight copy of the record, and back.
+void count_copies(const RecordSet& set, const char* contender, std::span<const Codec> codecs)
+{
+    const Codec& copy = *std::ranges::find(codecs, std::string_view(set.shape.message), &Codec::message);
+    ByteStrings strings;
+    for (const auto& memory : set.memory) {
+        u32 length = sizeof buffer;
+        copy.encode(memory->data(), buffer, &length);
+        strings.emplace_back(buffer, buffer + length);
+    }
+    const std::string name = set.name() + "/" + contender;
+    count_encodes("pack/" + name, set, copy.encode);
+    count_decodes("unpack/" + name, strings, copy.decode, copy.release);
 }
 
 void count_all(const RecordSet& set)
@@ -64,13 +92,14 @@ void count_all(const RecordSet& set)
     const ByteStrings sent = send_all(library, set);
     count("send/" + set.name(), set.memory.size(),
           [&](std::size_t i) { library.sendsingle(0, set.memory[i]->data(), 0, 0); });
-    count("pack/" + set.name(), set.memory.size(), [&](std::size_t i) {
-        u32 length = sizeof buffer;
-        library.pack(set.memory[i]->data(), buffer, &length);
-    });
-    count_decodes("unpack/" + set.name(), library, packed);
+    count_encodes("pack/" + set.name(), set, library.pack);
+    count_decodes("unpack/" + set.name(), packed, library.unpack, library.free_unpacked);
     if (sent != packed)
-        count_decodes("unpack_sent/" + set.name(), library, sent);
+        count_decodes("unpack_sent/" + set.name(), sent, library.unpack, library.free_unpacked);
+    if (set.fill == Fill::full) {   // a copy takes as many for the other records
+        count_copies(set, "limit_memcpy", limit_memcpy);
+        count_copies(set, "limit_moves", limit_moves);
+    }
 }
 
 }   // namespace

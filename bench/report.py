@@ -17,45 +17,10 @@ import statistics
 import subprocess
 import sys
 
+import sizes
+from goals import COLOUR, EVEN, FLOW, HASH, INSTRUCTIONS, LIST, ROOM, SESSION, SINGLE, STATISTICS, TIMES, UPDATE
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-
-SINGLE = ["ifit_color_intf_mesh", "ifit_flow_base_mesh", "ifit_flow_statistics_entry_to_mdtlm",
-          "ifit_sync_ifit_session_entry"]
-COLOUR, FLOW, STATISTICS, SESSION = SINGLE
-UPDATE = "ifit_flow_base_mesh_update"
-HASH = "ifit_dfx_query_queryhash_rec_mesh"
-LIST = "ntvifit_stats_info_list:32"
-
-# Performance goals: the maximum ratios to the limit, to the faster of protobuf and Cap'n Proto, and to protobuf.
-GOALS = []
-
-
-def goal(operations, messages, fills, limit, peers, protobuf=None):
-    for operation in operations:
-        for message in messages:
-            for fill in fills:
-                GOALS.append((operation, f"{message}/{fill}", limit, peers, protobuf))
-
-
-BOTH = ["unpack", "unpack_sent"]
-goal(["send"], [STATISTICS, SESSION], ["full"], 3.0, 0.16)
-goal(["send"], [COLOUR, FLOW], ["full"], 4.0, 0.38)
-goal(["pack"], SINGLE, ["full"], 4.0, 0.32)
-goal(["pack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["full"], 6.5, 0.9)
-goal(["pack"], [HASH], ["full"], 3.0, 0.28)
-goal(["pack"], [LIST], ["full"], 3.2, 0.28)
-goal(["pack"], SINGLE, ["sparse"], 7, 0.45)
-goal(["pack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["sparse"], 16, 2.2, 0.45)
-goal(["pack"], [f"{UPDATE}:256"], ["uniform"], 10, 1.6)
-goal(BOTH, [COLOUR], ["full"], 2.8, 0.28)
-goal(BOTH, [FLOW, STATISTICS, SESSION], ["full"], 2.8, 0.16)
-goal(["unpack"], [f"{UPDATE}:16", f"{UPDATE}:256"], ["full"], 2.8, 0.32)
-goal(["unpack"], [f"{UPDATE}:1", LIST], ["full"], 1.5, 0.30)
-goal(["unpack"], [HASH], ["full"], 2.0, 0.30)
-goal(["unpack"], [COLOUR], ["sparse"], 5, 0.5)
-goal(["unpack"], [FLOW, STATISTICS, SESSION], ["sparse"], 5, 0.30)
-goal(["unpack"], [f"{UPDATE}:256"], ["sparse", "uniform"], 10, 1.0)
-EVEN = 1.05   # maximum ratio of sending a sparse record in fixed form to sending a full one, and vice versa
 
 OPERATIONS = ["send", "pack", "unpack", "unpack_sent"]
 COUNTERPART = {"send": "pack", "unpack_sent": "unpack"}   # the matching operation of the peers and the limit
@@ -63,6 +28,7 @@ CONTENDERS = ["ours", "limit", "protobuf", "capnp", "nanopb"]
 PEERS = ["protobuf", "capnp"]   # `best` is the faster one
 FILLS = ["full", "sparse", "varied", "uniform"]
 ROWS = [1, 4, 16, 64, 256, 1024, 4096]
+SUMMARY = [*SINGLE, f"{UPDATE}:1", f"{UPDATE}:256", HASH, LIST]
 SHOWN = [*SINGLE, *(f"{UPDATE}:{rows}" for rows in ROWS), HASH, LIST]
 
 
@@ -133,10 +99,10 @@ def table(results, operation):
     return head, rows
 
 
-def goals(results):
-    head = ["goal", "/ limit", "at most", "/ best", "at most", "/ protobuf", "at most", ""]
+def goals_of_times(results):
+    head = ["time", "/ limit", "at most", "/ best", "at most", "/ protobuf", "at most", ""]
     rows = []
-    for operation, records, *bounds in GOALS:
+    for operation, records, *bounds in TIMES:
         row, held = [f"{operation}/{records}"], []
         for bound, others in zip(bounds, (["limit"], PEERS, ["protobuf"])):
             ratio = results.ratio(operation, records, others) if bound else None
@@ -160,6 +126,75 @@ def goals(results):
             rows.append([f"verify/{records} / {beside}: {ratio:.2f}, at most {most}", *[""] * 6,
                          "met" if ratio <= most else "NOT MET"])
     return head, [row for row in rows if any(row[1:-1]) or ", at most" in row[0] or "/ full" in row[0]]   # without cases that were not measured
+
+
+class Counts:
+    """The instructions per operation on a target, from bench/instructions-TARGET.txt."""
+
+    def __init__(self, target):
+        lines = (ROOT / f"bench/instructions-{target}.txt").read_text(encoding="utf-8").splitlines()
+        self.counts = {line.split()[0]: float(line.split()[1]) for line in lines if line and line[0] != "#"}
+
+    def of(self, operation, records, contender="ours"):
+        """Per row of rows or per element of a list."""
+        if contender != "ours":
+            operation, records = COUNTERPART.get(operation, operation), f"{records}/{contender}"
+        rows = re.search(r":(\d+)/", records)
+        return self.counts[f"{operation}/{records}"] / (int(rows[1]) if rows else 1)
+
+
+TARGETS = [("x86-64", "x86_64", None), ("i686", "i686", "SSE2"), ("ARM", "arm", "NEON")]
+
+
+def goals_of_instructions():
+    head = ["instructions", "i686", "at most", "ARM", "at most", ""]
+    targets = Counts("i686"), Counts("arm")
+    rows = []
+    for case, *bounds in INSTRUCTIONS:
+        counts = [target.of(*case.split("/", 1)) for target in targets]
+        met = [count <= bound * ROOM for count, bound in zip(counts, bounds)]
+        missed = " and ".join(name for name, good in zip(("i686", "ARM"), met) if not good)
+        row = [cell for count, bound in zip(counts, bounds) for cell in (number(count), str(bound))]
+        rows.append([case, *row, f"NOT MET on {missed}" if missed else "met"])
+    return head, rows
+
+
+def summary_of_times(results):
+    head = ["x86-64, nanoseconds", "copy", "pack", "/ copy", "best peer", "send", "/ copy", "copy back", "unpack",
+            "/ copy", "best peer"]
+    rows = []
+    for message in SUMMARY:
+        records = f"{message}/full"
+        row = [message]
+        for operation in ("pack", "send", "unpack"):
+            ours = results.time(operation, records, "ours")
+            peers = [results.time(operation, records, peer) for peer in PEERS]
+            if operation != "send":
+                row.append(number(results.time(operation, records, "limit")))
+            row += [number(ours), number(results.ratio(operation, records, ["limit"]))]
+            if operation != "send":
+                row.append(number(min((peer for peer in peers if peer), default=None)))
+        rows.append(row)
+    return head, rows
+
+
+def summary_of_instructions(name, target, variant):
+    head = [f"{name}, instructions", "copy", "pack", "/ copy", "send", "/ copy", "copy back", "unpack", "/ copy"]
+    counts = Counts(target)
+    other = Counts(f"{target}-{variant.lower()}") if variant else None
+    if other:
+        head += [f"with {variant}: pack", "send", "unpack"]
+    rows = []
+    for message in SUMMARY:
+        records = f"{message}/full"
+        row = [message]
+        for operation in ("pack", "send", "unpack"):
+            ours, copy = counts.of(operation, records), counts.of(operation, records, "limit")
+            row += [number(copy)] * (operation != "send") + [number(ours), number(ours / copy)]
+        if other:
+            row += [number(other.of(operation, records)) for operation in ("pack", "send", "unpack")]
+        rows.append(row)
+    return head, rows
 
 
 def as_text(head, rows):
@@ -186,14 +221,20 @@ def parts(results, minima):
     for operation in OPERATIONS:
         if results.sets(operation):
             yield f"{operation}: nanoseconds, and the ratio of ours to the others", table(results, operation)
-    head, rows = goals(results)
+    head, rows = goals_of_times(results)
     met, missed = (sum(row[-1] == word for row in rows) for word in ("met", "NOT MET"))
-    by_minimum = goals(minima)[1]
+    by_minimum = goals_of_times(minima)[1]
     met_by_minimum = sum(row[-1] == "met" for row in by_minimum)
     for row, other in zip(rows, by_minimum):
         if row[-1] != other[-1]:
             row[-1] += f" ({other[-1]} by the minima)"
-    yield f"Goals: {met} of {met + missed} met; {met_by_minimum} by the minima instead of the medians", (head, rows)
+    yield (f"Goals of time: {met} of {met + missed} met; {met_by_minimum} by the minima instead of the medians",
+           (head, rows))
+    head, rows = goals_of_instructions()
+    met = sum(row[-1] == "met" for row in rows)
+    yield f"Goals of instructions, with {ROOM - 1:.0%} of room: {met} of {len(rows)} met on both targets", (head, rows)
+    lines, within = sizes.rows()
+    yield f"Size in bytes: {'within' if within else 'NOT within'} the goals", (sizes.HEAD, lines)
     if results.rates:
         yield "Threads", threads(results)
 
@@ -227,6 +268,14 @@ def as_markdown(head, rows):
     return "\n".join(lines + ["| " + " | ".join(row) + " |" for row in rows])
 
 
+def replace(part, text):
+    """Writes a part of docs/performance.md, between two comments."""
+    path = ROOT / "docs/performance.md"
+    before, rest = path.read_text(encoding="utf-8").split(f"<!-- {part} -->\n")
+    after = rest.split(f"<!-- end of {part} -->\n")[1]
+    path.write_text(f"{before}<!-- {part} -->\n{text}\n<!-- end of {part} -->\n{after}", encoding="utf-8")
+
+
 def write_document(results, tables, allocations):
     text = [
         f"- machine: {machine()}",
@@ -241,11 +290,9 @@ def write_document(results, tables, allocations):
             text += ["", f"![{operation}](performance/{operation}.svg)"]
     text += ["", "### Cost per row", "", "![cost per row](performance/rows.svg)"]
     text += ["", "### Allocations in one operation", "", "```", allocations.strip(), "```"]
-    path = ROOT / "docs/performance.md"
-    before, rest = path.read_text(encoding="utf-8").split("<!-- measured -->\n")
-    after = rest.split("<!-- end of measured -->\n")[1]
-    path.write_text(f"{before}<!-- measured -->\n" + "\n".join(text) + f"\n<!-- end of measured -->\n{after}",
-                    encoding="utf-8")
+    replace("measured", "\n".join(text))
+    replace("summary", "\n\n".join(as_markdown(*table) for table in (
+        summary_of_times(results), *(summary_of_instructions(*target) for target in TARGETS))))
 
 
 # ---- plots ----
