@@ -16,6 +16,7 @@
 //                                  even in the loop over elements, as a call would cost more than it saves
 //   has_vectors       all          such a message is decoded inline in its unpack: it is nested in no other table
 //   pointer_bytes     32 bits      scalars are tested and read one by one: registers are too few for lanes.h
+//   slots             64 bits      from 8 on, scalars are tested eight at a time (lanes.h)
 #pragma once
 
 #include "core/decode.h"
@@ -62,13 +63,10 @@ template <class L>
 // ---- tables whose scalars all lie inside the input ----
 
 template <class L>
-constexpr Widths<L::slots> scalar_widths = [] {
-    Widths<L::slots> widths{};
+constexpr std::array<u16, L::slots> scalar_widths = [] {
+    std::array<u16, L::slots> widths{};
     L::each_slot([&]<class Slot>(u32 k) {
-        if constexpr (Slot::kind == Kind::scalar) {
-            widths.of[k] = Slot::record_size;
-            widths.widest = std::max(widths.widest, widths.of[k]);
-        }
+        widths[k] = Slot::kind == Kind::scalar ? Slot::record_size : 0;
         return true;
     });
     return widths;
@@ -88,10 +86,12 @@ template <class L>
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_scalars(const Input& in, const TableView<Input>& view, u8* record)
 {
-    constexpr bool in_lanes = pointer_bytes == 8;
-    if constexpr (in_lanes)
-        if (!scalars_fit(in, view, scalar_widths<L>))
+    constexpr bool in_lanes = pointer_bytes == 8 && L::slots >= lanes;
+    if constexpr (in_lanes) {
+        constexpr u32 widest = std::ranges::max(scalar_widths<L>);
+        if (!fields_fit(in, view, L::slots, scalar_widths<L>.data(), widest))
             return false;
+    }
     return L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         if constexpr (Slot::kind == Kind::scalar) {
             const u32 offset = slot_unchecked(in, view, K);

@@ -96,21 +96,11 @@ bool accepts_table(const Bytes& in, u32 table, const Message& message, T& trail)
 // Whether all fields lie inside, several at a time. False also where that cannot be told so.
 [[gnu::always_inline]] inline bool fields_fit(const Bytes& in, const View& view, const Message& message)
 {
-    if (!holds_slots(view, message.slot_count) || view.bytes_after_table < message.widest)
+    if (!holds_slots(view, message.slot_count))
         return false;
 #ifdef __SSE2__
-    if (message.slot_count >= wide_lanes) {
-        const u32 most = most_told_apart(message.slot_count);
-        const u32 room = view.bytes_after_table < most ? view.bytes_after_table : most;
-        const WideLanes rooms = _mm_set1_epi16(static_cast<short>(room));
-        WideLanes beyond = _mm_setzero_si128();
-        each_group<wide_lanes>(message.slot_count, [&](u32 first) {
-            const auto* const widths = reinterpret_cast<const __m128i*>(message.widths + first);
-            const WideLanes offsets = in.load_wide_unchecked(view.vtable, vtable_head_bytes + slot_bytes * first);
-            beyond = _mm_or_si128(beyond, lanes_beyond(rooms, _mm_loadu_si128(widths), offsets));   // holds_slots
-        });
-        return _mm_movemask_epi8(_mm_cmpeq_epi8(beyond, _mm_setzero_si128())) == 0xFFFF;
-    }
+    if (message.slot_count >= lanes)
+        return kesto::fields_fit(in, view, message.slot_count, message.widths, message.widest);
 #endif
     bool all = true;
     for (u32 k = 0; k < message.slot_count; ++k)
