@@ -26,13 +26,12 @@ struct SlotInfo {
 
 // The fast paths of a flat layout as data; see InlinePaths in decode_fast.h.
 struct FlatPaths {
-    bool(KESTO_IN_REGISTERS* try_fixed)(const u8* bytes, u8* record);
-    bool(KESTO_IN_REGISTERS* try_dense)(const u8* bytes, u8* record);
+    u32(KESTO_IN_REGISTERS* try_fixed)(const u8* bytes, u8* record);   // this and the next: the record's size, or 0
+    u32(KESTO_IN_REGISTERS* try_dense)(const u8* bytes, u8* record);
     bool(KESTO_IN_REGISTERS* try_table)(Input in, u32 table, u8* record);
     u32 fixed_length;
     u32 dense_root;
     u32 dense_length;
-    u32 record_size;
 };
 
 struct Decoder;

@@ -37,17 +37,18 @@ template <class Form>
     return true;
 }
 
+// Returns the record's size, or 0.
 template <class Form>
-[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_long_image(const u8* bytes, u8* record)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS u32 try_long_image(const u8* bytes, u8* record)
 {
-    return try_image_here<Form>(bytes, record);
+    return try_image_here<Form>(bytes, record) ? Form::record_size : 0;
 }
 
 // The bytes must hold the image's length. Returns false and writes nothing if they are not the image.
 template <class Form, bool is_short>
 [[nodiscard, gnu::always_inline]] inline bool try_image(const u8* bytes, u8* record)
 {
-    return is_short ? try_image_here<Form>(bytes, record) : try_long_image<Form>(bytes, record);
+    return is_short ? try_image_here<Form>(bytes, record) : try_long_image<Form>(bytes, record) != 0;
 }
 
 // A table in compact form, with all tables beneath it.
@@ -385,25 +386,20 @@ constexpr DecodeElements elements_decoder()
 
 // ---- messages ----
 
-// The fast paths of a flat layout, to be inlined; flat_paths has the same as data. The lengths are those of messages.
+// The images of a flat layout, to be inlined; flat_paths has the same as data. The lengths are those of messages.
 template <class L>
 struct InlinePaths {
     static constexpr u32 fixed_length = L::fixed_length;
     static constexpr u32 dense_root = root_bytes + L::vtable_bytes;   // position of the root table
     static constexpr u32 dense_length = root_bytes + DenseImage<L>::length;
-    static constexpr u32 record_size = L::record_size;
 
-    [[gnu::always_inline]] static bool try_fixed(const u8* bytes, u8* record)
+    [[gnu::always_inline]] static u32 try_fixed(const u8* bytes, u8* record)
     {
-        return try_image<FixedImage<L>, !shares_entries>(bytes, record);
+        return try_image<FixedImage<L>, !shares_entries>(bytes, record) ? L::record_size : 0;
     }
-    [[gnu::always_inline]] static bool try_dense(const u8* bytes, u8* record)
+    [[gnu::always_inline]] static u32 try_dense(const u8* bytes, u8* record)
     {
-        return try_image<DenseImage<L>, L::is_short>(bytes, record);
-    }
-    [[gnu::always_inline]] static bool try_table(Input in, u32 table, u8* record)
-    {
-        return try_short_table<L>(in, table, record);
+        return try_image<DenseImage<L>, L::is_short>(bytes, record) ? L::record_size : 0;
     }
 };
 
@@ -415,7 +411,6 @@ constexpr FlatPaths flat_paths{
     .fixed_length = L::fixed_length,
     .dense_root = InlinePaths<L>::dense_root,
     .dense_length = InlinePaths<L>::dense_length,
-    .record_size = L::record_size,
 };
 
 template <class L>
@@ -427,62 +422,59 @@ constexpr const FlatPaths* paths_as_data()
         return nullptr;
 }
 
-// A dense image is only looked for where our own writers put it, right after the root word.
+// Reads a message that is an image. Returns the record's size, or 0. A dense image is only looked for where our own
+// writers put it, right after the root word.
 template <class Paths>
-[[nodiscard, gnu::always_inline]] inline bool try_flat_message(const Paths& paths, Input in, u8* record)
+[[nodiscard, gnu::always_inline]] inline u32 try_images(const Paths& paths, Input in, u8* record)
 {
     const u32 table = root_table(in);
     if (table == root_bytes) {
-        if (holds_bytes(in, paths.fixed_length) &&
-            paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record))   // holds_bytes
-            return true;
+        if (holds_bytes(in, paths.fixed_length))
+            return paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record);   // holds_bytes
     } else if (table == paths.dense_root) {
-        if (holds_bytes(in, paths.dense_length) &&
-            paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes), record))   // the same
-            return true;
+        if (holds_bytes(in, paths.dense_length))
+            return paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes),   // the same
+                                   record);
     }
-    return paths.try_table(in, table, record);
+    return 0;
 }
 
 // The body of X__unpack. required: returns the record's size on every path, but no caller can then detect a failure.
 //
 // The first decoding takes the general path, which looks the services up after the root's tests and before the first
 // store. Fast paths allocate through the unit's hooks without looking them up.
-template <class Try>
-[[gnu::always_inline]] inline u32 unpack_by(const Decoder& decoder, const u8* bytes, u32 length, u8* record,
-                                            const u32& record_size, const Try& try_message)
-{
-    if (may_decode(bytes, length, record) && has_memory_services(*decoder.unit) && try_message()) [[likely]]
-        return record_size;
-    return decode_message(KESTO_WITH(decoder, bytes, length, record));
-}
-
 template <class L>
 [[gnu::noinline]] KESTO_ENTRY u32 unpack(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length, u8* record))
 {
-    return unpack_by(
-        decoder, bytes, length, record, L::record_size, [&]() __attribute__((always_inline)) {
-            const Input in{bytes, length};
-            if constexpr (!L::has_owned_blocks)
-                return try_flat_message(InlinePaths<L>{}, in, record);
-            else if constexpr (L::has_vectors)   // and so is nested in no other table
-                return try_owning_table_here<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
-                       Reading::none;
-            else
-                return try_owning_table<L>(in, root_table(in), record, decoder, decoder.unpack_routine) !=
-                       Reading::none;
-        });
+    if (may_decode(bytes, length, record) && has_memory_services(*decoder.unit)) [[likely]] {
+        const Input in{bytes, length};
+        bool done;
+        if constexpr (!L::has_owned_blocks)
+            done = try_images(InlinePaths<L>{}, in, record) != 0 || try_short_table<L>(in, root_table(in), record);
+        else if constexpr (L::has_vectors)   // and so is nested in no other table
+            done =
+                try_owning_table_here<L>(in, root_table(in), record, decoder, decoder.unpack_routine) != Reading::none;
+        else
+            done = try_owning_table<L>(in, root_table(in), record, decoder, decoder.unpack_routine) != Reading::none;
+        if (done) [[likely]]
+            return L::record_size;
+    }
+    return decode_message(KESTO_WITH(decoder, bytes, length, record));
 }
 
 // The same for all flat layouts.
 [[gnu::noinline]] KESTO_ENTRY inline u32 unpack_flat(KESTO_WITH(const Decoder& decoder, const u8* bytes, u32 length,
                                                                 u8* record))
 {
-    const FlatPaths& paths = *decoder.paths;
-    return unpack_by(
-        decoder, bytes, length, record, paths.record_size, [&]() __attribute__((always_inline)) {
-            return try_flat_message(paths, {bytes, length}, record);
-        });
+    if (may_decode(bytes, length, record) && has_memory_services(*decoder.unit)) [[likely]] {
+        const Input in{bytes, length};
+        const FlatPaths& paths = *decoder.paths;
+        if (const u32 size = try_images(paths, in, record); size != 0) [[likely]]
+            return size;
+        if (paths.try_table(in, root_table(in), record)) [[likely]]
+            return decoder.record_size;
+    }
+    return decode_message(KESTO_WITH(decoder, bytes, length, record));
 }
 
 template <class L>

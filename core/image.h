@@ -299,6 +299,7 @@ private:
 
 public:
     static constexpr u32 length = counted.length;
+    static constexpr u32 record_size = L::record_size;
     static_assert(length <= 0xFFFF);   // image_fits relies on it
 
     // Writes `length` bytes.

@@ -305,34 +305,28 @@ KESTO_IN_REGISTERS u8* write_any_table(u8* vtable, const u8* record, const Neste
 }
 
 template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_write_dense_table_here(u8* vtable, const u8* record)
+[[gnu::always_inline]] inline u8* write_table_here(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if (!is_dense<L>(record))
-        return false;
-    DenseImage<L>::write_here(vtable, record);
-    return true;
-}
-
-template <class L>
-[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_write_long_dense_table(u8* vtable, const u8* record)
-{
-    return try_write_dense_table_here<L>(vtable, record);
-}
-
-// The fast path of a flat layout, for a record without a zero scalar. Returns false and writes nothing if there is one.
-template <class L>
-[[nodiscard, gnu::always_inline]] inline bool try_write_dense_table(u8* vtable, const u8* record)
-{
-    return L::is_short ? try_write_dense_table_here<L>(vtable, record) : try_write_long_dense_table<L>(vtable, record);
+    if constexpr (!L::has_owned_blocks) {
+        if (is_dense<L>(record)) {
+            DenseImage<L>::write_here(vtable, record);
+            return vtable + DenseImage<L>::length;
+        }
+    }
+    return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
 template <class L>
 KESTO_IN_REGISTERS u8* write_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (!L::has_owned_blocks)
-        if (try_write_dense_table<L>(vtable, record))
-            return vtable + DenseImage<L>::length;
-    return write_any_table<L, own_tail<L>>(vtable, record, nested);
+    return write_table_here<L>(vtable, record, nested);
+}
+
+// The same for callers whose speed justifies a copy of the code, provided that the code is short.
+template <class L>
+[[gnu::always_inline]] inline u8* write_short_table(u8* vtable, const u8* record, const NestedEncoder* nested)
+{
+    return L::is_short ? write_table_here<L>(vtable, record, nested) : write_table<L>(vtable, record, nested);
 }
 
 // Writes elements as dense images until one is not dense, and then the rest slot by slot. Branching per scalar is fast
@@ -345,10 +339,18 @@ KESTO_IN_REGISTERS u8* write_elements(u8* cells, u32 count, u8* at, const u8* re
     u8* cell = cells;
     const u8* const end = records + std::size_t{count} * L::record_size;
     const auto link_cell = [&] { store(cell, static_cast<u32>(at + L::vtable_bytes - cell)); };
-    if constexpr (!L::has_owned_blocks) {
-        for (; record != end && try_write_dense_table<L>(at, record); record += L::record_size, cell += cell_bytes) {
+    if constexpr (L::is_short && !L::has_owned_blocks) {
+        for (; record != end && is_dense<L>(record); record += L::record_size, cell += cell_bytes) {
             link_cell();
+            DenseImage<L>::write_here(at, record);
             at += DenseImage<L>::length;
+        }
+    } else if constexpr (!L::has_owned_blocks) {
+        for (bool dense = true; dense && record != end; record += L::record_size, cell += cell_bytes) {
+            link_cell();
+            u8* const table_end = write_table<L>(at, record, nested);
+            dense = table_end - at == DenseImage<L>::length;   // any other table is shorter
+            at = table_end;
         }
     }
     std::ptrdiff_t size = 0;

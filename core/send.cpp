@@ -19,19 +19,11 @@ u32 measure_message(const u8* record, const Encoder& encoder)
     return size <= largest_size ? static_cast<u32>(size) : 0;
 }
 
-u8* write_table(u8* vtable, const u8* record, const Encoder& encoder)
-{
-    const LayoutEncoder& layout = *encoder.layout;
-    if (layout.try_dense != nullptr && layout.try_dense(vtable, record))
-        return vtable + layout.dense_bytes;
-    return layout.write_any(vtable, record, encoder.nested);
-}
-
 // Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
 u8* write_message(u8* buffer, const u8* record, const Encoder& encoder)
 {
     store(buffer, root_bytes + encoder.layout->vtable_bytes);
-    return write_table(buffer + root_bytes, record, encoder);
+    return encoder.layout->write(buffer + root_bytes, record, encoder.nested);
 }
 
 // Packs one record for sending. For a block with a pointer and length 0 the packer writes fewer bytes than `size`. The

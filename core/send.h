@@ -14,8 +14,7 @@ struct Encoder;
 struct LayoutEncoder {
     u64(KESTO_IN_REGISTERS* measure)(const u8* record, const NestedEncoder* nested);
     u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_bytes
-    bool(KESTO_IN_REGISTERS* try_dense)(u8* vtable, const u8* record);               // null if there is no dense image
-    u8*(KESTO_IN_REGISTERS* write_any)(u8* vtable, const u8* record, const NestedEncoder* nested);
+    u8*(KESTO_IN_REGISTERS* write)(u8* vtable, const u8* record, const NestedEncoder* nested);
     void(KESTO_IN_REGISTERS* write_fixed)(u8* buffer,
                                           const u8* record);   // a whole message; null if it has no such form
     int(KESTO_ENTRY* send_single)(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
@@ -88,7 +87,8 @@ template <class L>
             else
                 return DenseImage<L>::length;
         },
-        [&](u8 * vtable) __attribute__((always_inline)) { return write_table<L>(vtable, record, encoder.nested); });
+        [&](u8 * vtable)
+            __attribute__((always_inline)) { return write_short_table<L>(vtable, record, encoder.nested); });
 }
 
 template <class L>
@@ -113,7 +113,7 @@ template <class L>
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
         encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.bound(record, encoder.nested); },
-        [&](u8* vtable) { return layout.write_any(vtable, record, encoder.nested); });
+        [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
 [[gnu::noinline]] KESTO_ENTRY inline int pack_flat(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer,
@@ -122,10 +122,7 @@ template <class L>
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
         encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.dense_bytes; },
-        [&](u8* vtable) {
-            return layout.try_dense(vtable, record) ? vtable + layout.dense_bytes
-                                                    : layout.write_any(vtable, record, encoder.nested);
-        });
+        [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
 [[gnu::noinline]] KESTO_ENTRY inline int
@@ -162,14 +159,13 @@ template <class L>
 constexpr LayoutEncoder layout_encoder = [] {
     LayoutEncoder made{};
     made.measure = measure_table<L, Measure::exactly>;
-    made.write_any = write_any_table<L, own_tail<L>>;
+    made.write = write_table<L>;
     made.send_single = send_single_entry<L>();
     made.record_size = L::record_size;
     made.vtable_bytes = L::vtable_bytes;
     if constexpr (L::has_owned_blocks) {
         made.bound = measure_table<L, Measure::bound>;
     } else {
-        made.try_dense = try_write_long_dense_table<L>;
         made.dense_bytes = DenseImage<L>::length;
         made.write_fixed = FixedImage<L>::write;
         made.fixed_length = L::fixed_length;

@@ -8,7 +8,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 place="$work/another/place, deeper"
 mkdir -p "$place"
-cp -R "$1"/{CMakeLists.txt,cmake,core,include,messages,packaging,platform} "$place"
+cp -R "$1"/{CMakeLists.txt,cmake,core,include,messages,packaging,platform,verify} "$place"
 { cmake -G Ninja -S "$place" -B "$place/made" -DKESTO_DEBUG_INFO=ON && cmake --build "$place/made"; } >"$work/log" 2>&1 ||
     { cat "$work/log"; exit 1; }
 strip -o "$work/one.so" "$2"
