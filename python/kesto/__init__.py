@@ -173,9 +173,13 @@ def _refusal(found: Mapping[str, Any] | None) -> Refusal | None:
     return Refusal(**{name: found[name] for name in Refusal.__dataclass_fields__})
 
 
+def _octets(data: bytes) -> bytes:
+    return memoryview(data).tobytes()   # bytes(5) would be five zeros
+
+
 def refusal(message_like: MessageLike, data: bytes) -> Refusal | None:
     """Why the decoder refuses `data`, or None if it accepts it."""
-    found = _kesto.refusal(message(message_like).name, bytes(data))
+    found = _kesto.refusal(message(message_like).name, _octets(data))
     return _refusal(json.loads(found)) if found else None
 
 
@@ -184,7 +188,7 @@ def decode(message_like: MessageLike, data: bytes, *, most_memory: int = 256 << 
     `most_memory` bytes here: short byte strings can ask for large records."""
     which = message(message_like)
     try:
-        record = _kesto.decode(which.name, bytes(data), most_memory)
+        record = _kesto.decode(which.name, _octets(data), most_memory)
     except ValueError:   # the extension's std::length_error
         raise DecodeError(f"{which.name}: decoding takes more than {most_memory} bytes of memory") from None
     if record is None:
@@ -209,7 +213,7 @@ def encode(message_like: MessageLike, record: Mapping[str, Any], form: Form = "a
 
 def explain(message_like: MessageLike, data: bytes) -> Explanation:
     """What every byte means, and the verdict. Never raises for any `data`."""
-    found = json.loads(_kesto.explain(message(message_like).name, bytes(data)))
+    found = json.loads(_kesto.explain(message(message_like).name, _octets(data)))
     return Explanation(
         message=found["message"], accepted=found["accepted"], refusal=_refusal(found["refused"]),
         ignored=_refusal(found["ignored"]), ranges=tuple(Range(**each) for each in found["ranges"]),

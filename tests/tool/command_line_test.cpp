@@ -157,6 +157,7 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
     EXPECT_EQ(completions("compare --all x /dev/nul"), "/dev/null\n");
     EXPECT_EQ(completions("decode --names x ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
+    EXPECT_EQ(completions("--names x decode --line ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
 }
 
 // Texts that would control a terminal or reverse a line, with their first character as shown.
