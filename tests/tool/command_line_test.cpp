@@ -517,6 +517,16 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     EXPECT_EQ(numbers_of("changed"), "3 2 ");
     EXPECT_EQ(numbers_of("missing"), "1 - ");
 
+    // Both processes send and receive. An answer that was lost is no packet that arrived without having been sent.
+    const RawPacket answer = with_call(call_head(0, 0, 0, 0, 0, 0), packet_of(id, changed));
+    Bytes asker = capture_head(148), answerer = capture_head(148);
+    add_packet(asker, with_call(call_head(0, 0, 0, 0, 0, 0), hello_packet));
+    add_packet(answerer, with_call(call_head(1, 0, 0, 0, 0, 0), hello_packet));
+    add_packet(answerer, answer);
+    write_file(path("asker"), asker);
+    write_file(path("answerer"), answerer);
+    EXPECT_EQ(kesto("compare " + path("asker") + " " + path("answerer")).exit_code, 0);
+
     write_file(path("text"), changed);
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 " + path("text")).output, ".f0: \"hello\"  \"jello\"\n");
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 --pcap " + received + " --packet 5").output,

@@ -162,21 +162,38 @@ struct CapturedSide {
     std::string file;
     std::vector<PacketCopy> packets;
     u64 bytes = 0;
+    u64 left_out = 0;
 };
 
 CapturedSide side_of(const std::string& file)
 {
-    CapturedSide side{file, {}, 0};
+    CapturedSide side{file, {}, 0, 0};
     for_every_packet(file, 0, [&](const PacketView& packet) {
         side.packets.push_back({packet.number,
                                 packet.time,
                                 packet.id,
                                 packet.message,
                                 packet.fault,
-                                {packet.bytes.begin(), packet.bytes.end()}});
+                                {packet.bytes.begin(), packet.bytes.end()},
+                                packet.is_sent});
         side.bytes += packet.bytes.size();
     });
     return side;
+}
+
+bool has_any(const CapturedSide& side, bool is_sent)
+{
+    return std::ranges::any_of(side.packets, [&](const PacketCopy& packet) { return packet.is_sent == is_sent; });
+}
+
+void leave_out(CapturedSide& side, bool is_sent)
+{
+    side.left_out = std::erase_if(side.packets, [&](const PacketCopy& packet) {
+        if (packet.is_sent != is_sent)
+            return false;
+        side.bytes -= packet.bytes.size();
+        return true;
+    });
 }
 
 // Id and bytes.
@@ -326,8 +343,11 @@ public:
     std::string of(const CapturedSide& sent, const CapturedSide& received, const Comparison& comparison)
     {
         for (const CapturedSide* side : {&sent, &received})
-            line("{} {}: {}, {}\n", side == &sent ? "sent    " : "received", visible(side->file),
-                 counted(side->packets.size(), "packet"), counted(side->bytes, "byte"));
+            line("{} {}: {}, {}{}\n", side == &sent ? "sent    " : "received", visible(side->file),
+                 counted(side->packets.size(), "packet"), counted(side->bytes, "byte"),
+                 side->left_out == 0
+                     ? ""
+                     : fmt::format("; {} {} left out", side->left_out, side == &sent ? "received" : "sent"));
         line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
         add_section("did not arrive", comparison.missing);
         add_section("arrived more often than sent", comparison.twice);
@@ -394,19 +414,30 @@ int summarise_capture(const std::string& file, const GlanceChoices& choices)
 
 int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices)
 {
-    const CapturedSide left = side_of(sent), right = side_of(received);
+    CapturedSide left = side_of(sent), right = side_of(received);
+    if (has_any(left, true) && has_any(right, false)) {   // two processes that both send and receive
+        leave_out(left, false);
+        leave_out(right, true);
+    }
     const Comparison comparison = comparison_of(left, right);
     if (choices.json)
-        print(
-            json_text({{"sent", {{"capture", sent}, {"packets", left.packets.size()}, {"bytes", left.bytes}}},
-                       {"received", {{"capture", received}, {"packets", right.packets.size()}, {"bytes", right.bytes}}},
-                       {"as_sent", comparison.as_sent},
-                       {"missing", pairs_json(comparison.missing, false)},
-                       {"twice", pairs_json(comparison.twice, false)},
-                       {"changed", pairs_json(comparison.changed, true)},
-                       {"unexpected", pairs_json(comparison.unexpected, false)}},
-                      2) +
-            "\n");
+        print(json_text({{"sent",
+                          {{"capture", sent},
+                           {"packets", left.packets.size()},
+                           {"bytes", left.bytes},
+                           {"left_out", left.left_out}}},
+                         {"received",
+                          {{"capture", received},
+                           {"packets", right.packets.size()},
+                           {"bytes", right.bytes},
+                           {"left_out", right.left_out}}},
+                         {"as_sent", comparison.as_sent},
+                         {"missing", pairs_json(comparison.missing, false)},
+                         {"twice", pairs_json(comparison.twice, false)},
+                         {"changed", pairs_json(comparison.changed, true)},
+                         {"unexpected", pairs_json(comparison.unexpected, false)}},
+                        2) +
+              "\n");
     else
         print(ComparisonText(choices).of(left, right, comparison));
     return comparison.is_same() ? accepted : refused;
@@ -417,7 +448,8 @@ PacketCopy message_packet(const std::string& file, u64 number)
     PacketCopy found;
     for_every_packet(file, number, [&](const PacketView& packet) {
         found = {packet.number,  packet.time,  packet.id,
-                 packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()}};
+                 packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()},
+                 packet.is_sent};
     });
     if (found.number == 0)
         throw Fault(fmt::format("{} has no packet {}", file, number));
