@@ -30,9 +30,9 @@ from typing import Any, Literal, Union
 from kesto import _kesto
 from kesto._errors import CaptureError, DecodeError, EncodeError, Error, UnknownMessage
 
-__all__ = ["CaptureError", "DecodeError", "EncodeError", "Error", "Explanation", "Field", "Message", "Note", "Packet",
-           "Range", "Refusal", "UnknownMessage", "decode", "encode", "explain", "message", "messages", "read_capture",
-           "refusal"]
+__all__ = ["Call", "CaptureError", "DecodeError", "EncodeError", "Error", "Explanation", "Field", "Message", "Note",
+           "Packet", "Range", "Refusal", "UnknownMessage", "decode", "encode", "explain", "message", "messages",
+           "read_capture", "refusal"]
 
 Kind = Literal["scalar", "string", "bytes", "array", "table", "vector"]
 Form = Literal["as_sent", "compact", "fixed"]
@@ -127,9 +127,21 @@ class Explanation:
 
 
 @dataclass(frozen=True)
+class Call:
+    """The call that sent or received a packet. What is not known of it is None; `result` is that of the send operation,
+    and `began` is in nanoseconds since 1970."""
+
+    direction: Literal["sent", "received"]
+    channel: int | None
+    destination: int | None
+    result: int | None
+    began: int
+
+
+@dataclass(frozen=True)
 class Packet:
     """A packet of a capture. `message` is None for an unknown id. `fault` says why the packet is not a whole message,
-    and is None if it is one. `time` is in seconds since 1970."""
+    and is None if it is one. `time` is in seconds since 1970. `call` is None in a capture of link type USER0."""
 
     number: int
     time: float
@@ -137,6 +149,7 @@ class Packet:
     message: Message | None
     data: bytes
     fault: str | None
+    call: Call | None
 
 
 MessageLike = Union[str, int, Message]
@@ -227,7 +240,8 @@ def read_capture(path: str | os.PathLike[str]) -> Iterator[Packet]:
     try:
         capture = _kesto.Capture(os.fspath(path))
         while (packet := capture.next()) is not None:
-            number, seconds, microseconds, id, data, fault = packet
-            yield Packet(number, seconds + microseconds / 1e6, id, _index().get(id), data, fault)
+            number, seconds, microseconds, id, data, fault, call = packet
+            yield Packet(number, seconds + microseconds / 1e6, id, _index().get(id), data, fault,
+                         Call(*call) if call else None)
     except RuntimeError as error:
         raise CaptureError(str(error)) from None
