@@ -77,6 +77,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"decode" + named + " --memory 5 --hex " + hello, 2, "more than 5 bytes of memory"},
         {"explain" + named + " --hex 0a0", 2, "'0a0' is not hex"},
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
+        {"explain" + named + " " + hello, 2, "no such file; hex text stands after --hex"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
         {"explain glbdata_item --hex 00", 2, item},
         {"explain 'glbdata rec' --hex 00", 2, "did you mean ifit_dfx_query_glbdata_rec_mesh"},
@@ -528,6 +529,8 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     EXPECT_EQ(kesto("compare " + path("asker") + " " + path("answerer")).exit_code, 0);
 
     write_file(path("text"), changed);
+    EXPECT_NE(kesto("diff " + std::string(item) + " " + sent + " " + path("text")).output.find("--pcap reads captures"),
+              std::string::npos);
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 " + path("text")).output, ".f0: \"hello\"  \"jello\"\n");
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 --pcap " + received + " --packet 5").output,
               ".f0: \"hello\"  \"jello\"\n");
