@@ -70,6 +70,7 @@ const Message& message_for_bytes(const std::string& name, std::span<const u8> by
     if (likely.empty())
         likely = outer;
     std::vector<std::string> names;
+    names.reserve(likely.size());
     for (const Message* message : likely)
         names.push_back(message->name);
     const std::string& routine = named.unpack_non_root_name;
