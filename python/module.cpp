@@ -272,8 +272,12 @@ public:
         }
         const py::object fault =
             packet.fault == tools::PacketFault::none ? py::none() : py::cast(text_of(packet.fault));
+        py::object call = py::none();
+        if (packet.call)
+            call = py::make_tuple(packet.call->is_sent ? "sent" : "received", packet.call->channel,
+                                  packet.call->destination, packet.call->result, packet.call->began);
         return py::make_tuple(packet.number, packet.seconds, packet.microseconds, packet.id,
-                              bytes_of({packet.bytes.begin(), packet.bytes.end()}), fault);
+                              bytes_of({packet.bytes.begin(), packet.bytes.end()}), fault, call);
     }
 
 private:

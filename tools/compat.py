@@ -247,7 +247,8 @@ def main():
     text = catalogue.read_text()
     changes = compare(parse_text(text), new)
     lines, well = judge(changes, declared(breaking.read_text()), re.search(r"release ([\d.]+)", text)[1], version)
-    print("\n".join(lines + [f"{len(new)} messages: {len(changes)} changes since the last release, "
+    plural = "" if len(changes) == 1 else "s"
+    print("\n".join(lines + [f"{len(new)} messages: {len(changes)} change{plural} since the last release, "
                              f"{sum(each.breaks for each in changes)} of them breaking" +
                              ("" if well else "; FAILED")]))
     return 0 if well else 1

@@ -30,9 +30,9 @@ from typing import Any, Literal, Union
 from kesto import _kesto
 from kesto._errors import CaptureError, DecodeError, EncodeError, Error, UnknownMessage
 
-__all__ = ["CaptureError", "DecodeError", "EncodeError", "Error", "Explanation", "Field", "Message", "Note", "Packet",
-           "Range", "Refusal", "UnknownMessage", "decode", "encode", "explain", "message", "messages", "read_capture",
-           "refusal"]
+__all__ = ["Call", "CaptureError", "DecodeError", "EncodeError", "Error", "Explanation", "Field", "Message", "Note",
+           "Packet", "Range", "Refusal", "UnknownMessage", "decode", "encode", "explain", "message", "messages",
+           "read_capture", "refusal"]
 
 Kind = Literal["scalar", "string", "bytes", "array", "table", "vector"]
 Form = Literal["as_sent", "compact", "fixed"]
@@ -127,9 +127,21 @@ class Explanation:
 
 
 @dataclass(frozen=True)
+class Call:
+    """The call that sent or received a packet. What is not known of it is None; `result` is that of the send operation,
+    and `began` is in nanoseconds since 1970."""
+
+    direction: Literal["sent", "received"]
+    channel: int | None
+    destination: int | None
+    result: int | None
+    began: int
+
+
+@dataclass(frozen=True)
 class Packet:
     """A packet of a capture. `message` is None for an unknown id. `fault` says why the packet is not a whole message,
-    and is None if it is one. `time` is in seconds since 1970."""
+    and is None if it is one. `time` is in seconds since 1970. `call` is None in a capture of link type USER0."""
 
     number: int
     time: float
@@ -137,6 +149,7 @@ class Packet:
     message: Message | None
     data: bytes
     fault: str | None
+    call: Call | None
 
 
 MessageLike = Union[str, int, Message]
@@ -173,9 +186,13 @@ def _refusal(found: Mapping[str, Any] | None) -> Refusal | None:
     return Refusal(**{name: found[name] for name in Refusal.__dataclass_fields__})
 
 
+def _octets(data: bytes) -> bytes:
+    return memoryview(data).tobytes()   # bytes(5) would be five zeros
+
+
 def refusal(message_like: MessageLike, data: bytes) -> Refusal | None:
     """Why the decoder refuses `data`, or None if it accepts it."""
-    found = _kesto.refusal(message(message_like).name, bytes(data))
+    found = _kesto.refusal(message(message_like).name, _octets(data))
     return _refusal(json.loads(found)) if found else None
 
 
@@ -184,7 +201,7 @@ def decode(message_like: MessageLike, data: bytes, *, most_memory: int = 256 << 
     `most_memory` bytes here: short byte strings can ask for large records."""
     which = message(message_like)
     try:
-        record = _kesto.decode(which.name, bytes(data), most_memory)
+        record = _kesto.decode(which.name, _octets(data), most_memory)
     except ValueError:   # the extension's std::length_error
         raise DecodeError(f"{which.name}: decoding takes more than {most_memory} bytes of memory") from None
     if record is None:
@@ -209,7 +226,7 @@ def encode(message_like: MessageLike, record: Mapping[str, Any], form: Form = "a
 
 def explain(message_like: MessageLike, data: bytes) -> Explanation:
     """What every byte means, and the verdict. Never raises for any `data`."""
-    found = json.loads(_kesto.explain(message(message_like).name, bytes(data)))
+    found = json.loads(_kesto.explain(message(message_like).name, _octets(data)))
     return Explanation(
         message=found["message"], accepted=found["accepted"], refusal=_refusal(found["refused"]),
         ignored=_refusal(found["ignored"]), ranges=tuple(Range(**each) for each in found["ranges"]),
@@ -223,7 +240,8 @@ def read_capture(path: str | os.PathLike[str]) -> Iterator[Packet]:
     try:
         capture = _kesto.Capture(os.fspath(path))
         while (packet := capture.next()) is not None:
-            number, seconds, microseconds, id, data, fault = packet
-            yield Packet(number, seconds + microseconds / 1e6, id, _index().get(id), data, fault)
+            number, seconds, microseconds, id, data, fault, call = packet
+            yield Packet(number, seconds + microseconds / 1e6, id, _index().get(id), data, fault,
+                         Call(*call) if call else None)
     except RuntimeError as error:
         raise CaptureError(str(error)) from None

@@ -77,6 +77,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
         {"decode" + named + " --memory 5 --hex " + hello, 2, "more than 5 bytes of memory"},
         {"explain" + named + " --hex 0a0", 2, "'0a0' is not hex"},
         {"explain" + named + " /nowhere/at/all", 2, "/nowhere/at/all: cannot be read"},
+        {"explain" + named + " " + hello, 2, "no such file; hex text stands after --hex"},
         {"explain ifit_dfx_query_glbdata_itm_mesh --hex 00", 2, item},
         {"explain glbdata_item --hex 00", 2, item},
         {"explain 'glbdata rec' --hex 00", 2, "did you mean ifit_dfx_query_glbdata_rec_mesh"},
@@ -86,7 +87,7 @@ TEST(CommandLine, exits_with_0_1_and_2)
          "names 2 messages: ifit_dfx_d"},
         {"explain --hex 00", 2, "a MESSAGE is needed"},
         {"explain" + named + " --no-such-option", 2, "--no-such-option"},
-        {"", 2, "subcommand"},
+        {"", 2, "a sub-command is needed"},
         {"decode --pcap x" + named, 2, "excludes --pcap"},
         {"decode --packet 1" + named, 2, "--packet requires --pcap"},
         {"explain --pcap /nowhere/at/all", 2, KESTO_CAN_CAPTURE ? "/nowhere/at/all: No such" : "without libpcap"},
@@ -120,6 +121,23 @@ TEST(CommandLine, knows_a_message_by_whatever_names_it)
     EXPECT_NE(kesto("show ifit_dfx_query_glbdata_mesh_key_unpack").output.find("0xda64baf0"), std::string::npos);
 }
 
+// The byte string is the whole message's, of which the log names a part: the table of .f0 is out of range.
+TEST(CommandLine, takes_the_routine_of_a_nested_message_for_the_message_around_it)
+{
+    const std::string logged = "ifit_dfx_query_comm_rec_mesh_unpack_non_root: [KESTO]:Table offset(99) is out of range";
+    const std::string bytes = " --hex '0c000000 08000c00 04000000 08000000 53000000'";
+    const CommandResult result = kesto("explain '" + logged + "'" + bytes);
+    EXPECT_EQ(result.exit_code, 2);
+    EXPECT_NE(result.output.find("ifit_dfx_query_stat_rec_mesh, ifit_dfx_query_glbdata_rec_mesh"), std::string::npos)
+        << result.output;
+    EXPECT_EQ(kesto("explain 'ifit_mcp_mesh_key_unpack_non_root'" + bytes)
+                  .output.find("kesto: ifit_mcp_mesh_key_unpack"
+                               "_non_root decodes a part of a "
+                               "message, here of ifit_mcp_mesh_"
+                               "delete\nifit_mcp_mesh_delete"),
+              0u);
+}
+
 // The completions that bash offers after the given words.
 std::string completions(const std::string& words)
 {
@@ -140,6 +158,7 @@ TEST(Completion, offers_commands_options_and_messages)
     EXPECT_EQ(completions("decode --pcap x ifit_mcp_mesh_u"), "\n");
     EXPECT_EQ(completions("compare --all x /dev/nul"), "/dev/null\n");
     EXPECT_EQ(completions("decode --names x ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
+    EXPECT_EQ(completions("--names x decode --line ifit_mcp_mesh_u"), "ifit_mcp_mesh_update\n");
 }
 
 // Texts that would control a terminal or reverse a line, with their first character as shown.
@@ -290,7 +309,7 @@ TEST_F(Files, names_of_fields_are_used_everywhere_and_change_no_byte)
     const struct {
         const char *text, *says;
     } wrong[] = {
-        {"{\"rows\":[{\"source\":\"10.0.0.256\"}]}", ".rows[0].source: '10.0.0.256' is not as this field is displayed"},
+        {"{\"rows\":[{\"source\":\"10.0.0.256\"}]}", ".rows[0].source: '10.0.0.256' is not an IPv4 address"},
         {"{\"rows\":[{\"protocol\":\"ip\"}]}", ".rows[0].protocol: 'ip'"},
         {"{\"rows\":[{\"station\":\"00:11:22:33:44\"}]}", ".rows[0].station: '00:11:22:33:44'"},
         {"{\"rows\":[{\"begin\":\"2023-11-14T22:13\"}]}", ".rows[0].begin: "},
@@ -315,7 +334,7 @@ TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
         {"# first\n\nifit_flaw_base_mesh\n", ":3: no message 'ifit_flaw_base_mesh'"},
         {message + message, ":2: ifit_flow_base_mesh stands here a second time"},
         {"ifit_flow_base_mesh f0 flow", ":1: a message stands alone"},
-        {message + " f12 flow\n", ":2: ifit_flow_base_mesh has no field 'f12', but f0 to f11"},
+        {message + " f12 flow\n", ":2: ifit_flow_base_mesh has no field 'f12'; its fields are f0 to f11"},
         {message + " f0\n", ":2: a name is needed"},
         {message + " f0 Flow\n", ":2: 'Flow' is no name"},
         {message + " f0 f1\n", ":2: 'f1' is another field"},
@@ -325,7 +344,7 @@ TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
         {message + " f0 flow ipv6\n", ":2: f0 is u32, which 'ipv6' cannot show"},
         {message + " f0 flow hex 5\n", ":2: '5' is too much"},
         {message + " f6 protocol enum\n", ":2: an enum needs words"},
-        {message + " f6 protocol enum tcp=256\n", ":2: 'tcp=256' is not as in tcp=6"},
+        {message + " f6 protocol enum tcp=256\n", ":2: 'tcp=256': u8 holds no number that large"},
         {message + " f6 protocol enum tcp=6 udp=6\n", ":2: 'udp=6' repeats tcp=6"},
     };
     const std::string file = path("names");
@@ -474,7 +493,7 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     EXPECT_EQ(texts.at("refused").dump(),
               "[{\"code\":\"body_end\",\"first_packet\":3,\"packets\":1,\"path\":\".f0\"}]");
 
-    const nlohmann::json difference = json_of("compare --json " + sent + " " + received, 1);
+    nlohmann::json difference = json_of("compare --json " + sent + " " + received, 1);
     EXPECT_EQ(difference.at("as_sent"), 3);
     const auto numbers_of = [&](const char* part) {
         std::string numbers;
@@ -489,10 +508,29 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     EXPECT_EQ(numbers_of("unexpected"), "- 6 ");
     EXPECT_EQ(difference.at("changed").at(0).at("reason"), "sent: refused: body_end at .f0, position 18");
     EXPECT_EQ(kesto("compare " + sent + " " + sent).exit_code, 0);
-    EXPECT_NE(kesto("compare " + sent + " " + received).output.find("pairs by order within an id: a guess"),
+    EXPECT_NE(kesto("compare " + sent + " " + received).output.find("pairs by place and order within an id: a guess"),
               std::string::npos);
 
+    // One that was lost earlier does not take the place of one that changed.
+    difference = json_of("compare --json " + capture("lost", {packet_of(id, cut), hello_packet, packet_of(id, other)}) +
+                             " " + capture("rest", {hello_packet, packet_of(id, changed)}),
+                         1);
+    EXPECT_EQ(numbers_of("changed"), "3 2 ");
+    EXPECT_EQ(numbers_of("missing"), "1 - ");
+
+    // Both processes send and receive. An answer that was lost is no packet that arrived without having been sent.
+    const RawPacket answer = with_call(call_head(0, 0, 0, 0, 0, 0), packet_of(id, changed));
+    Bytes asker = capture_head(148), answerer = capture_head(148);
+    add_packet(asker, with_call(call_head(0, 0, 0, 0, 0, 0), hello_packet));
+    add_packet(answerer, with_call(call_head(1, 0, 0, 0, 0, 0), hello_packet));
+    add_packet(answerer, answer);
+    write_file(path("asker"), asker);
+    write_file(path("answerer"), answerer);
+    EXPECT_EQ(kesto("compare " + path("asker") + " " + path("answerer")).exit_code, 0);
+
     write_file(path("text"), changed);
+    EXPECT_NE(kesto("diff " + std::string(item) + " " + sent + " " + path("text")).output.find("--pcap reads captures"),
+              std::string::npos);
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 " + path("text")).output, ".f0: \"hello\"  \"jello\"\n");
     EXPECT_EQ(kesto("diff --pcap " + sent + " --packet 1 --pcap " + received + " --packet 5").output,
               ".f0: \"hello\"  \"jello\"\n");

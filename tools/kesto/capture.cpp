@@ -124,11 +124,12 @@ bool CaptureReader::next(CapturedPacket& packet, std::string& error)
 {
     pcap_pkthdr* head = nullptr;
     const u_char* bytes = nullptr;
+    errno = 0;
     const int result = pcap_next_ex(handle_.get(), &head, &bytes);
     if (result != 1) {
-        error = result == PCAP_ERROR
-                    ? name_ + ": after packet " + std::to_string(number_) + ": " + pcap_geterr(handle_.get())
-                    : "";
+        const char* const reason =   // open_gzip sets EILSEQ, whose text speaks of characters
+            errno == EILSEQ ? "the compressed file is cut or damaged" : pcap_geterr(handle_.get());
+        error = result == PCAP_ERROR ? name_ + ": after packet " + std::to_string(number_) + ": " + reason : "";
         return false;
     }
     packet.number = ++number_;

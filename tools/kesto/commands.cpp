@@ -3,7 +3,9 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <iterator>
 #include <nlohmann/json.hpp>
 
 #include "model/encode.h"
@@ -41,10 +43,42 @@ const Message& message_named(const std::string& name)
             names.push_back(message->name);
         throw Fault(fmt::format("'{}' names {} messages: {}", name, names.size(), fmt::join(names, ", ")));
     }
-    const std::vector<std::string> similar = suggestions(name);
-    const std::string hint = similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", "));
-    throw Fault(fmt::format("no message '{}'{}; `kesto list` shows all, `kesto list PART` those whose name holds PART",
-                            name, hint));
+    const std::string text = no_message_text(name);
+    throw Fault(fmt::format("{}{} `kesto list` shows all, `kesto list PART` those whose name holds PART", text,
+                            text.ends_with('?') ? "" : ";"));
+}
+
+const Message& message_for_bytes(const std::string& name, std::span<const u8> bytes)
+{
+    const Message& named = message_named(name);
+    if (named.users.empty() || !names_nested_routine(name))
+        return named;
+    std::vector<const Message*> outer = named.users;
+    for (std::size_t i = 0; i < outer.size(); ++i)
+        for (const Message* user : outer[i]->users)
+            if (std::ranges::find(outer, user) == outer.end())
+                outer.push_back(user);
+    const auto logs_it = [&](const Message* message) {
+        const Explanation verdict = explain(*message, bytes, {.most_ranges = 0, .most_memory = 0});
+        const model::Routine routine{&named, model::RoutineKind::unpack_non_root};
+        return std::ranges::any_of(std::array{&verdict.refused, &verdict.ignored}, [&](const auto* refused) {
+            return *refused && (*refused)->log && (*refused)->log->routine == routine;
+        });
+    };
+    std::vector<const Message*> likely;
+    std::ranges::copy_if(outer, std::back_inserter(likely), logs_it);
+    if (likely.empty())
+        likely = outer;
+    std::vector<std::string> names;
+    names.reserve(likely.size());
+    for (const Message* message : likely)
+        names.push_back(message->name);
+    const std::string& routine = named.unpack_non_root_name;
+    if (likely.size() > 1)
+        throw Fault(
+            fmt::format("{} decodes a part of a message; name the message: {}", routine, fmt::join(names, ", ")));
+    complain(fmt::format("{} decodes a part of a message, here of {}", routine, names.front()));
+    return *likely.front();
 }
 
 Explanation explain_fully(const Message& message, std::span<const u8> bytes, const ExplainOptions& options)

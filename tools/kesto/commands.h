@@ -89,4 +89,8 @@ Bytes encoded(const Record& record, Form form);
 // Throws a Fault that suggests similar names, or lists the messages if the text names several.
 const Message& message_named(const std::string& name);
 
+// The same for a name that comes with bytes. A routine that decodes a nested message, as in X_unpack_non_root, stands for
+// the message around it whose decoder logs that name at these bytes; a Fault lists the messages if several may do so.
+const Message& message_for_bytes(const std::string& name, std::span<const u8> bytes);
+
 }   // namespace kesto::command

@@ -145,9 +145,9 @@ std::string summary_text(const std::string& file, const Summary& summary, const 
     const auto into = std::back_inserter(out);
     for (const auto* each : summary.sorted()) {
         const auto& [id, total] = *each;
-        fmt::format_to(into, "\n{:>7}  {}\n         {}, {} to {}\n", total.packets,
+        fmt::format_to(into, "\n{:>7}  {}\n         {}, {}{}\n", total.packets,
                        colours.bold(message_title(id, total.message)), counted(total.bytes, "byte"), total.first,
-                       total.last);
+                       total.packets == 1 ? "" : " to " + total.last);
         for (const auto& [reason, refusals] : sorted(total.refused))
             fmt::format_to(into, "{:>7}  {}{}, first in packet {}\n", refusals.packets,
                            colours.bad("refused: " + reason.first),
@@ -162,21 +162,38 @@ struct CapturedSide {
     std::string file;
     std::vector<PacketCopy> packets;
     u64 bytes = 0;
+    u64 left_out = 0;
 };
 
 CapturedSide side_of(const std::string& file)
 {
-    CapturedSide side{file, {}, 0};
+    CapturedSide side{file, {}, 0, 0};
     for_every_packet(file, 0, [&](const PacketView& packet) {
         side.packets.push_back({packet.number,
                                 packet.time,
                                 packet.id,
                                 packet.message,
                                 packet.fault,
-                                {packet.bytes.begin(), packet.bytes.end()}});
+                                {packet.bytes.begin(), packet.bytes.end()},
+                                packet.is_sent});
         side.bytes += packet.bytes.size();
     });
     return side;
+}
+
+bool has_any(const CapturedSide& side, bool is_sent)
+{
+    return std::ranges::any_of(side.packets, [&](const PacketCopy& packet) { return packet.is_sent == is_sent; });
+}
+
+void leave_out(CapturedSide& side, bool is_sent)
+{
+    side.left_out = std::erase_if(side.packets, [&](const PacketCopy& packet) {
+        if (packet.is_sent != is_sent)
+            return false;
+        side.bytes -= packet.bytes.size();
+        return true;
+    });
 }
 
 // Id and bytes.
@@ -197,11 +214,22 @@ struct Comparison {
     bool is_same() const { return missing.empty() && twice.empty() && changed.empty() && unexpected.empty(); }
 };
 
+struct Copies {
+    std::vector<const PacketCopy*> sent, received;
+};
+
+// Pairs packets in order. Returns those that are left.
+Copies add_changed(const Copies& copies, std::vector<Pair>& changed)
+{
+    const std::size_t both = std::min(copies.sent.size(), copies.received.size());
+    for (std::size_t i = 0; i < both; ++i)
+        changed.emplace_back(copies.sent[i], copies.received[i]);
+    const auto from = static_cast<std::ptrdiff_t>(both);
+    return {{copies.sent.begin() + from, copies.sent.end()}, {copies.received.begin() + from, copies.received.end()}};
+}
+
 Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
 {
-    struct Copies {
-        std::vector<const PacketCopy*> sent, received;
-    };
     std::unordered_map<std::string, Copies> by_content;
     for (const PacketCopy& packet : sent.packets)
         by_content[content_of(packet)].sent.push_back(&packet);
@@ -209,29 +237,46 @@ Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
         by_content[content_of(packet)].received.push_back(&packet);
 
     Comparison comparison;
-    std::map<u32, Copies> left;   // by id
+    std::unordered_map<const PacketCopy*, u64> paired;   // to the number of the sent packet; 0: arrived once too often
     for (const auto& [content, copies] : by_content) {
         const std::size_t both = std::min(copies.sent.size(), copies.received.size());
         comparison.as_sent += both;
-        for (std::size_t i = both; i < copies.sent.size(); ++i)
-            left[copies.sent[i]->id].sent.push_back(copies.sent[i]);
-        for (std::size_t i = both; i < copies.received.size(); ++i)
-            if (both == 0)
-                left[copies.received[i]->id].received.push_back(copies.received[i]);
-            else
-                comparison.twice.emplace_back(copies.sent.front(), copies.received[i]);
+        for (std::size_t i = 0; i < both; ++i)
+            paired[copies.sent[i]] = paired[copies.received[i]] = copies.sent[i]->number;
+        for (std::size_t i = both; both != 0 && i < copies.received.size(); ++i) {
+            comparison.twice.emplace_back(copies.sent.front(), copies.received[i]);
+            paired[copies.received[i]] = 0;
+        }
     }
-    for (auto& [id, copies] : left) {
+    // The others by id and by the last pair of this id before them: a changed packet keeps its place.
+    std::map<std::pair<u32, u64>, Copies> left;
+    for (const CapturedSide* side : {&sent, &received}) {
+        std::unordered_map<u32, u64> last;   // by id
+        for (const PacketCopy& packet : side->packets) {
+            const auto found = paired.find(&packet);
+            if (found == paired.end()) {
+                Copies& copies = left[{packet.id, last[packet.id]}];
+                (side == &sent ? copies.sent : copies.received).push_back(&packet);
+            } else if (found->second != 0) {
+                last[packet.id] = found->second;
+            }
+        }
+    }
+    std::map<u32, Copies> out_of_place;   // by id
+    for (const auto& [place, copies] : left) {
+        const auto [only_sent, only_received] = add_changed(copies, comparison.changed);
+        Copies& more = out_of_place[place.first];
+        more.sent.insert(more.sent.end(), only_sent.begin(), only_sent.end());
+        more.received.insert(more.received.end(), only_received.begin(), only_received.end());
+    }
+    for (auto& [id, copies] : out_of_place) {
         std::ranges::sort(copies.sent, {}, &PacketCopy::number);
         std::ranges::sort(copies.received, {}, &PacketCopy::number);
-        for (std::size_t i = 0; i < std::max(copies.sent.size(), copies.received.size()); ++i) {
-            const Pair pair{i < copies.sent.size() ? copies.sent[i] : nullptr,
-                            i < copies.received.size() ? copies.received[i] : nullptr};
-            (pair.second == nullptr  ? comparison.missing
-             : pair.first == nullptr ? comparison.unexpected
-                                     : comparison.changed)
-                .push_back(pair);
-        }
+        const auto [only_sent, only_received] = add_changed(copies, comparison.changed);
+        for (const PacketCopy* packet : only_sent)
+            comparison.missing.emplace_back(packet, nullptr);
+        for (const PacketCopy* packet : only_received)
+            comparison.unexpected.emplace_back(nullptr, packet);
     }
     const auto number_of = [](const Pair& pair) { return (pair.first == nullptr ? pair.second : pair.first)->number; };
     for (std::vector<Pair>* pairs :
@@ -298,13 +343,16 @@ public:
     std::string of(const CapturedSide& sent, const CapturedSide& received, const Comparison& comparison)
     {
         for (const CapturedSide* side : {&sent, &received})
-            line("{} {}: {}, {}\n", side == &sent ? "sent    " : "received", visible(side->file),
-                 counted(side->packets.size(), "packet"), counted(side->bytes, "byte"));
+            line("{} {}: {}, {}{}\n", side == &sent ? "sent    " : "received", visible(side->file),
+                 counted(side->packets.size(), "packet"), counted(side->bytes, "byte"),
+                 side->left_out == 0
+                     ? ""
+                     : fmt::format("; {} {} left out", side->left_out, side == &sent ? "received" : "sent"));
         line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
         add_section("did not arrive", comparison.missing);
         add_section("arrived more often than sent", comparison.twice);
         add_section("arrived changed", comparison.changed,
-                    "Packets pair by id and bytes. What is left pairs by order within an id: a guess.\n");
+                    "Packets pair by id and bytes. What is left pairs by place and order within an id: a guess.\n");
         add_section("arrived without having been sent", comparison.unexpected);
         return out_;
     }
@@ -366,19 +414,30 @@ int summarise_capture(const std::string& file, const GlanceChoices& choices)
 
 int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices)
 {
-    const CapturedSide left = side_of(sent), right = side_of(received);
+    CapturedSide left = side_of(sent), right = side_of(received);
+    if (has_any(left, true) && has_any(right, false)) {   // two processes that both send and receive
+        leave_out(left, false);
+        leave_out(right, true);
+    }
     const Comparison comparison = comparison_of(left, right);
     if (choices.json)
-        print(
-            json_text({{"sent", {{"capture", sent}, {"packets", left.packets.size()}, {"bytes", left.bytes}}},
-                       {"received", {{"capture", received}, {"packets", right.packets.size()}, {"bytes", right.bytes}}},
-                       {"as_sent", comparison.as_sent},
-                       {"missing", pairs_json(comparison.missing, false)},
-                       {"twice", pairs_json(comparison.twice, false)},
-                       {"changed", pairs_json(comparison.changed, true)},
-                       {"unexpected", pairs_json(comparison.unexpected, false)}},
-                      2) +
-            "\n");
+        print(json_text({{"sent",
+                          {{"capture", sent},
+                           {"packets", left.packets.size()},
+                           {"bytes", left.bytes},
+                           {"left_out", left.left_out}}},
+                         {"received",
+                          {{"capture", received},
+                           {"packets", right.packets.size()},
+                           {"bytes", right.bytes},
+                           {"left_out", right.left_out}}},
+                         {"as_sent", comparison.as_sent},
+                         {"missing", pairs_json(comparison.missing, false)},
+                         {"twice", pairs_json(comparison.twice, false)},
+                         {"changed", pairs_json(comparison.changed, true)},
+                         {"unexpected", pairs_json(comparison.unexpected, false)}},
+                        2) +
+              "\n");
     else
         print(ComparisonText(choices).of(left, right, comparison));
     return comparison.is_same() ? accepted : refused;
@@ -389,7 +448,8 @@ PacketCopy message_packet(const std::string& file, u64 number)
     PacketCopy found;
     for_every_packet(file, number, [&](const PacketView& packet) {
         found = {packet.number,  packet.time,  packet.id,
-                 packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()}};
+                 packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()},
+                 packet.is_sent};
     });
     if (found.number == 0)
         throw Fault(fmt::format("{} has no packet {}", file, number));

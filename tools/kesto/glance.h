@@ -25,6 +25,7 @@ struct PacketCopy {
     const Message* message = nullptr;
     const char* fault = nullptr;
     Bytes bytes;
+    std::optional<bool> is_sent;
 };
 PacketCopy message_packet(const std::string& file, u64 number);
 

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <memory>
 
 namespace kesto::command {
@@ -62,7 +63,11 @@ std::string read_text(const std::string& path)
 
 Bytes read_bytes(const std::string& path, InputFormat format)
 {
+    if (looks_like_hex(path) && !std::filesystem::exists(path))
+        throw Fault(fmt::format("{}: no such file; hex text stands after --hex", path));
     const std::string text = read_text(path);
+    if (format == InputFormat::automatic && text.starts_with("\xd4\xc3\xb2\xa1"))   // as bytes, always refused
+        throw Fault(fmt::format("{}: a capture, not a byte string; --pcap reads captures", path));
     if (format == InputFormat::hex || (format == InputFormat::automatic && looks_like_hex(text)))
         return bytes_from_hex(text);
     return {text.begin(), text.end()};

@@ -2,6 +2,10 @@
 
 _kesto()
 {
+    if [[ ${COMP_WORDS[1]} == --names ]] && ((COMP_CWORD > 2)); then   # may stand before the sub-command
+        COMP_WORDS=("${COMP_WORDS[0]}" "${COMP_WORDS[@]:3}")
+        ((COMP_CWORD -= 2))
+    fi
     local program=${COMP_WORDS[0]} command=${COMP_WORDS[1]} word=${COMP_WORDS[COMP_CWORD]} i words=0
     local before=${COMP_WORDS[COMP_CWORD - 1]}
     COMPREPLY=()
@@ -25,7 +29,7 @@ _kesto()
     esac
     if [[ $word == -* ]]; then
         mapfile -t COMPREPLY < <(compgen -W "$("$program" "$command" --help 2>/dev/null |
-            grep -oE '^ +-[-a-z,]+' | tr ',' ' ')" -- "$word")
+            grep -oE '^ +-[-a-z,]+' | tr ',' ' ') --names" -- "$word")
         return
     fi
     if [[ $command == summary || $command == compare ]]; then

@@ -88,11 +88,10 @@ struct Source {
         return which;
     }
 
-    const Message& message_meant() const
+    void need_message() const
     {
         if (message.empty())
             throw Fault("a MESSAGE is needed, by name, id or log line; `kesto explain --raw` does without, and --pcap");
-        return message_named(message);
     }
 
     // The only word on a command line that does not name a message.
@@ -114,7 +113,8 @@ struct Explain {
 
     explicit Explain(CLI::App& app)
     {
-        CLI::App& self = *app.add_subcommand("explain", "Show what every byte means, and which check refuses them");
+        CLI::App& self =
+            *app.add_subcommand("explain", "Show what every byte means, and which check refuses the byte string");
         source.add_to(self);
         add_colour(self, choices.colour);
         self.add_flag("--json", choices.json, "print JSON");
@@ -140,8 +140,9 @@ struct Explain {
             source.take_message_for_file();
             return explain_raw(source.bytes(), choices.json);
         }
-        const Message& message = source.message_meant();
-        return explain_bytes(message, source.bytes(), choices);
+        source.need_message();
+        const Bytes bytes = source.bytes();
+        return explain_bytes(message_for_bytes(source.message, bytes), bytes, choices);
     }
 };
 
@@ -161,7 +162,8 @@ struct Decode {
     {
         if (source.is_capture())
             return decode_packets(source.packets_meant(), choices);
-        const Message& message = source.message_meant();
+        source.need_message();
+        const Message& message = message_named(source.message);
         return decode_bytes(message, source.bytes(), choices);
     }
 };
@@ -362,7 +364,14 @@ int run(int argc, char** argv)
     } catch (const CLI::ParseError& error) {
         if (error.get_exit_code() == 0)
             return app.exit(error);   // help and version
-        complain(error.what() + std::string("; --help tells more"));
+        std::string reason = error.what();
+        if (app.get_subcommands().empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
+            std::string all;
+            for (const CLI::App* each : app.get_subcommands({}))
+                all += (all.empty() ? "" : ", ") + each->get_name();
+            reason = "a sub-command is needed: " + all;
+        }
+        complain(reason + "; --help tells more");
         return unusable;
     }
     if (!names_file.empty())

@@ -109,6 +109,13 @@ std::vector<const Message*> messages_named(std::string_view text)
     return found;
 }
 
+bool names_nested_routine(std::string_view text)
+{
+    const std::string lower = in_lower_case(text);
+    return std::ranges::any_of(words_of(lower, true),
+                               [](std::string_view word) { return word.ends_with("_unpack_non_root"); });
+}
+
 const Message* find_message(std::string_view text)
 {
     const std::vector<const Message*> found = messages_named(text);
@@ -147,6 +154,13 @@ std::vector<std::string> suggestions(std::string_view text)
     for (const Candidate& candidate : near)
         names.push_back(*candidate.name);
     return names;
+}
+
+std::string no_message_text(std::string_view text)
+{
+    const std::vector<std::string> similar = suggestions(text);
+    return fmt::format("no message '{}'{}", text,
+                       similar.empty() ? "" : fmt::format("; did you mean {}?", fmt::join(similar, ", ")));
 }
 
 }   // namespace kesto::command

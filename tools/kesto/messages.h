@@ -24,10 +24,16 @@ using model::u8;
 // X_unpack_non_root or X__pack, or by X_ID. The text may be a whole log line.
 std::vector<const Message*> messages_named(std::string_view text);
 
+// Whether the text holds a routine that decodes a message inside another one, as in X_unpack_non_root.
+bool names_nested_routine(std::string_view text);
+
 // Null unless the text names exactly one message.
 const Message* find_message(std::string_view text);
 
 // Names similar to a mistyped one, the likeliest first.
 std::vector<std::string> suggestions(std::string_view text);
+
+// "no message 'x'; did you mean y, z?"
+std::string no_message_text(std::string_view text);
 
 }   // namespace kesto::command

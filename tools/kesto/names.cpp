@@ -103,7 +103,7 @@ public:
     {
         const auto found = std::ranges::find(message_.slots, words_[0], &Slot::field);
         if (found == message_.slots.end())
-            throw Fault(fmt::format("{} has no field '{}', but {} to {}", message_.name, words_[0],
+            throw Fault(fmt::format("{} has no field '{}'; its fields are {} to {}", message_.name, words_[0],
                                     message_.slots.front().field, message_.slots.back().field));
         return static_cast<std::size_t>(found - message_.slots.begin());
     }
@@ -150,8 +150,11 @@ private:
             const std::size_t equals = std::min(words_[i].find('='), words_[i].size());
             const std::string_view word = words_[i].substr(0, equals);
             const std::optional<u64> number = number_of(words_[i].substr(std::min(equals + 1, words_[i].size())));
-            if (!is_name(word) || !number || *number > ~u64{0} >> (64 - 8 * message_.slots[slot()].width))
+            if (!is_name(word) || !number)
                 throw Fault(fmt::format("'{}' is not as in tcp=6", words_[i]));
+            const Slot& of_field = message_.slots[slot()];
+            if (*number > ~u64{0} >> (64 - 8 * of_field.width))
+                throw Fault(fmt::format("'{}': {} holds no number that large", words_[i], slot_text(of_field)));
             for (const auto& [known, value] : values)
                 if (known == word || value == *number)
                     throw Fault(fmt::format("'{}' repeats {}={}", words_[i], known, value));
@@ -247,6 +250,22 @@ std::optional<u64> number_from(const FieldView& view, const std::string& text)
         return found == view.words.end() ? std::optional<u64>() : found->second;
     }
     return view.display == Display::hex ? number_of(text) : time_from(text, view.display);
+}
+
+std::string expected_text(const FieldView& view)
+{
+    switch (view.display) {
+    case Display::hex: return "a number of this width, as in 0x1f";
+    case Display::ipv4: return "an IPv4 address";
+    case Display::ipv6: return "an IPv6 address";
+    case Display::mac: return "a MAC address, as in 02:00:00:00:00:01";
+    case Display::enumeration: break;
+    default: return "a time of this field's width in UTC, as in 2026-11-23T10:00:00Z";
+    }
+    std::vector<std::string_view> words;
+    for (const auto& [word, value] : view.words)
+        words.push_back(word);
+    return fmt::format("a word of this field ({}) or a number", fmt::join(words, ", "));
 }
 
 bool is_address(Display display) { return display >= Display::ipv4 && display <= Display::mac; }
@@ -348,7 +367,7 @@ ordered_json plain_value(const Message& message, std::size_t k, const ordered_js
         return plain;
     const bool may_be_plain = slot.width == 8 ? number_of(text).has_value() : slot.kind == Kind::array;
     if (!may_be_plain)
-        throw JsonFault(fmt::format("{}: '{}' is not as this field is displayed", path, text));
+        throw JsonFault(fmt::format("{}: '{}' is not {}", path, text, expected_text(*view)));
     return value;
 }
 
@@ -389,7 +408,7 @@ void Names::read(std::string_view text, const std::string& where)
                 message = catalogue().find(words[0]);
                 if (message == nullptr || words.size() > 1)
                     throw Fault(words.size() > 1 ? "a message stands alone in its line; fields are indented"
-                                                 : fmt::format("no message '{}'", words[0]));
+                                                 : no_message_text(words[0]));
                 if (!messages_.try_emplace(message->name).second)
                     throw Fault(fmt::format("{} stands here a second time", message->name));
                 continue;
