@@ -31,13 +31,9 @@ template <class Visit, u32... I>
     return (visit.template operator()<I>() && ...);
 }
 
-// Sixteen bytes on x86 with SSE2 and on 64-bit machines, else a word: wider moves would be split anyway. ARM moves words
-// with NEON, too.
-#if defined(__SSE2__) || UINTPTR_MAX > 0xFFFFFFFF
-constexpr u32 move_bytes = 16;
-#else
-constexpr u32 move_bytes = sizeof(void*);
-#endif
+// Sixteen bytes on 64-bit machines, else a word, also where SSE2 or NEON has wider moves: they take as many instructions
+// or more, as constants must then come from memory, and i686 with SSE2 takes a fifth more for a row.
+constexpr u32 move_bytes = UINTPTR_MAX > 0xFFFFFFFF ? 16 : sizeof(void*);
 
 // Where moves are words, a stretch of this length or more is moved by a function that all layouts share, which takes some
 // six instructions more and a fraction of the code.
@@ -46,7 +42,7 @@ constexpr u32 move_bytes = sizeof(void*);
 // takes two instructions to make. Sixteen bytes always come from memory.
 constexpr u32 never = 0xFFFFFFFF;
 #ifdef __i386__
-constexpr u32 long_stretch = move_bytes == 16 ? never : 129;
+constexpr u32 long_stretch = 129;
 constexpr bool constants_as_immediates = true;
 #else
 constexpr u32 long_stretch = move_bytes == 16 ? never : 64;

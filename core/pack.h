@@ -25,7 +25,7 @@ struct SlotWord {
     [[gnu::always_inline]] Word value() const { return word; }
 };
 
-#ifdef __SSE2__
+#ifdef __x86_64__
 // The same in a vector register, into which one instruction inserts a slot.
 struct SlotLanes {
     static constexpr u32 slots = sizeof(u64) / slot_bytes;
@@ -40,7 +40,7 @@ struct SlotLanes {
     [[gnu::always_inline]] u64 value() const
     {
         using Halves = u64 __attribute__((vector_size(16)));
-        return Halves(lanes)[0];   // 32-bit x86 has no intrinsic for this
+        return Halves(lanes)[0];
     }
 };
 using BranchlessWord = SlotLanes;

@@ -22,7 +22,7 @@ u32 measure_message(const u8* record, const Encoder& encoder)
 // Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
 u8* write_message(u8* buffer, const u8* record, const Encoder& encoder)
 {
-    store(buffer, root_bytes + encoder.layout->vtable_bytes);
+    store(buffer, encoder.layout->root);
     return encoder.layout->write(buffer + root_bytes, record, encoder.nested);
 }
 

@@ -13,16 +13,16 @@ struct Encoder;
 // The encoding routines of one layout, shared by all messages of that layout, for one table without a root word.
 struct LayoutEncoder {
     u64(KESTO_IN_REGISTERS* measure)(const u8* record, const NestedEncoder* nested);
-    u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_bytes
+    u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_length
     u8*(KESTO_IN_REGISTERS* write)(u8* vtable, const u8* record, const NestedEncoder* nested);
     void(KESTO_IN_REGISTERS* write_fixed)(u8* buffer,
                                           const u8* record);   // a whole message; null if it has no such form
     int(KESTO_ENTRY* send_single)(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, u32 unused,
                                                     u32 destination));
-    u32 dense_bytes;    // of the dense image
+    u32 dense_length;   // of a message that is a dense image
     u32 fixed_length;   // 0 if there is no fixed form
     u32 record_size;
-    u32 vtable_bytes;
+    u32 root;   // position of the root table in compact form
 };
 
 // The constants of a message that packing and sending need besides its layout.
@@ -50,29 +50,20 @@ KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const
 KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination));
 KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count));
 
-// The body of X__pack: bound() is an upper bound of the size of the message's table, and write(vtable) writes it.
+// The body of X__pack: `root` is the position of the root table, bound() is an upper bound of the message's length, and
+// write(vtable) writes the table.
 template <class Bound, class Write>
 [[gnu::always_inline]] inline int pack_by(const Encoder& encoder, const u8* record, u8* buffer, u32* length,
-                                          const u32& vtable_bytes, const Bound& bound, const Write& write)
+                                          const u32& root, const Bound& bound, const Write& write)
 {
-    if (record == nullptr || buffer == nullptr || !has_memory_services(*encoder.unit) || *length < root_bytes + bound())
-        [[unlikely]]
-        return pack_measured(KESTO_WITH(encoder, record, buffer, length));
-    store(buffer, root_bytes + vtable_bytes);
-    *length = static_cast<u32>(write(buffer + root_bytes) - buffer);
-    return 0;
-}
-
-// The body of X__sendsingle for a message that has a fixed form.
-template <u32 capacity, class Write>
-[[gnu::always_inline]] inline int send_fixed_by(const Encoder& encoder, u32 channel, u32 destination, u32 length,
-                                                const Write& write)
-{
-    u8 buffer[capacity];
-    ensure_memory_services(*encoder.unit);
-    write(buffer);
-    const MeshSendItem item{buffer, encoder.id, length};
-    return hand_over(channel, &item, 1, destination);
+    if (record != nullptr) [[likely]] {
+        if (buffer != nullptr && has_memory_services(*encoder.unit) && *length >= bound()) [[likely]] {
+            store(buffer, root);
+            *length = static_cast<u32>(write(buffer + root_bytes) - buffer);
+            return 0;
+        }
+    }
+    return pack_measured(KESTO_WITH(encoder, record, buffer, length));
 }
 
 template <class L>
@@ -80,29 +71,31 @@ template <class L>
                                                          u32* length))
 {
     return pack_by(
-        encoder, record, buffer, length, L::vtable_bytes,
+        encoder, record, buffer, length, root_bytes + L::vtable_bytes,
         [&]() __attribute__((always_inline))->u64 {
             if constexpr (L::has_owned_blocks)
-                return measure_table<L, Measure::bound>(record, encoder.nested);
+                return root_bytes + measure_table<L, Measure::bound>(record, encoder.nested);
             else
-                return DenseImage<L>::length;
+                return root_bytes + DenseImage<L>::length;
         },
         [&](u8 * vtable)
             __attribute__((always_inline)) { return write_short_table<L>(vtable, record, encoder.nested); });
 }
 
+// X__sendsingle for a message that has a fixed form.
 template <class L>
 [[gnu::noinline]] KESTO_ENTRY int send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel,
                                                                        const u8* record, [[maybe_unused]] u32 unused,
                                                                        u32 destination))
 {
-    return send_fixed_by<L::fixed_length>(
-        encoder, channel, destination, L::fixed_length, [&](u8 * buffer) __attribute__((always_inline)) {
-            if constexpr (L::is_short)
-                FixedImage<L>::write_here(buffer, record);
-            else
-                FixedImage<L>::write(buffer, record);
-        });
+    u8 buffer[L::fixed_length];
+    ensure_memory_services(*encoder.unit);
+    if constexpr (L::is_short)
+        FixedImage<L>::write_here(buffer, record);
+    else
+        FixedImage<L>::write(buffer, record);
+    const MeshSendItem item{buffer, encoder.id, L::fixed_length};
+    return hand_over(channel, &item, 1, destination);
 }
 
 // With shared entries: X__pack for all layouts with owned blocks, X__pack for all flat layouts, and X__sendsingle for all
@@ -112,7 +105,7 @@ template <class L>
 {
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
-        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.bound(record, encoder.nested); },
+        encoder, record, buffer, length, layout.root, [&] { return root_bytes + layout.bound(record, encoder.nested); },
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
@@ -121,7 +114,7 @@ template <class L>
 {
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
-        encoder, record, buffer, length, layout.vtable_bytes, [&] { return layout.dense_bytes; },
+        encoder, record, buffer, length, layout.root, [&] { return layout.dense_length; },
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
@@ -129,8 +122,12 @@ template <class L>
 send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
                                     u32 destination))
 {
-    return send_fixed_by<fixed_buffer_bytes>(encoder, channel, destination, encoder.layout->fixed_length,
-                                             [&](u8* buffer) { encoder.layout->write_fixed(buffer, record); });
+    u8 buffer[fixed_buffer_bytes];
+    ensure_memory_services(*encoder.unit);
+    const LayoutEncoder& layout = *encoder.layout;
+    layout.write_fixed(buffer, record);
+    const MeshSendItem item{buffer, encoder.id, layout.fixed_length};
+    return hand_over(channel, &item, 1, destination);
 }
 
 template <class L>
@@ -162,11 +159,11 @@ constexpr LayoutEncoder layout_encoder = [] {
     made.write = write_table<L>;
     made.send_single = send_single_entry<L>();
     made.record_size = L::record_size;
-    made.vtable_bytes = L::vtable_bytes;
+    made.root = root_bytes + L::vtable_bytes;
     if constexpr (L::has_owned_blocks) {
         made.bound = measure_table<L, Measure::bound>;
     } else {
-        made.dense_bytes = DenseImage<L>::length;
+        made.dense_length = root_bytes + DenseImage<L>::length;
         made.write_fixed = FixedImage<L>::write;
         made.fixed_length = L::fixed_length;
     }
