@@ -28,7 +28,7 @@ struct SlotInfo {
 struct FlatPaths {
     u32(KESTO_IN_REGISTERS* try_fixed)(const u8* bytes, u8* record);   // this and the next: the record's size, or 0
     u32(KESTO_IN_REGISTERS* try_dense)(const u8* bytes, u8* record);
-    bool(KESTO_IN_REGISTERS* try_table)(Input in, u32 table, u8* record);
+    bool(KESTO_IN_REGISTERS* try_table)(const u8* bytes, u32 length, u32 table, u8* record);
     u32 fixed_length;
     u32 dense_root;
     u32 dense_length;

@@ -7,8 +7,8 @@
 // The paths of each layout, in the order in which they are tried; facts are members of Layout (layout.h):
 //
 //   layout    message                                      element, nested table
-//   flat      fixed image if the root is at 4, else        dense image (elements only until one is none); flat table;
-//             dense image; flat table                      general path
+//   flat      dense image or fixed image, as the root's    dense image (elements only until one is none); flat table;
+//             position tells; flat table                   general path
 //   owning    head image or tested scalars, then slots     the same; general path
 //
 //   fact              target       effect, and the measured reason
@@ -41,7 +41,10 @@ template <class Form>
 template <class Form>
 [[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS u32 try_long_image(const u8* bytes, u8* record)
 {
-    return try_image_here<Form>(bytes, record) ? Form::record_size : 0;
+    if (!Form::matches(bytes)) [[unlikely]]
+        return 0;
+    Form::read(record, bytes);
+    return Form::record_size;
 }
 
 // The bytes must hold the image's length. Returns false and writes nothing if they are not the image.
@@ -105,7 +108,7 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard]] KESTO_IN_REGISTERS bool try_flat_table(Input in, u32 table, u8* record);
+[[nodiscard]] KESTO_IN_REGISTERS bool try_flat_table(const u8* bytes, u32 length, u32 table, u8* record);
 
 // Clears the bytes of a record that belong to no field.
 template <class L>
@@ -148,7 +151,8 @@ template <class Slot>
         return read_array<typename Slot::Value>(in, view, offset, Slot::count, field);
     } else {
         u32 table = 0;
-        return nested_table(in, view, offset, table) && try_flat_table<typename Slot::Layout>(in, table, field);
+        return nested_table(in, view, offset, table) &&
+               try_flat_table<typename Slot::Layout>(in.bytes, in.length, table, field);
     }
 }
 
@@ -169,16 +173,17 @@ template <class L>
 
 // Any well-formed table of a flat layout.
 template <class L>
-[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_flat_table(Input in, u32 table, u8* record)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS bool try_flat_table(const u8* bytes, u32 length, u32 table, u8* record)
 {
-    return try_flat_table_here<L>(in, table, record);
+    return try_flat_table_here<L>({bytes, length}, table, record);
 }
 
 // The same for callers whose speed justifies a copy of the code, provided that the code is short.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline bool try_short_table(Input in, u32 table, u8* record)
 {
-    return L::is_short ? try_flat_table_here<L>(in, table, record) : try_flat_table<L>(in, table, record);
+    return L::is_short ? try_flat_table_here<L>(in, table, record)
+                       : try_flat_table<L>(in.bytes, in.length, table, record);
 }
 
 // ---- layouts with owned blocks ----
@@ -197,7 +202,7 @@ template <class L>
         const Reading reading = try_owning_table<L>(in, table, record, *message.decoder, message.routine);
         if (reading != Reading::none) [[likely]]
             return reading == Reading::done;
-    } else if (try_dense_table<L>(in, table, record) || try_flat_table<L>(in, table, record)) {
+    } else if (try_dense_table<L>(in, table, record) || try_flat_table<L>(in.bytes, in.length, table, record)) {
         return true;
     }
     return clear_and_decode_nested(in, table, record, message);
@@ -428,13 +433,13 @@ template <class Paths>
 [[nodiscard, gnu::always_inline]] inline u32 try_images(const Paths& paths, Input in, u8* record)
 {
     const u32 table = root_table(in);
-    if (table == root_bytes) {
-        if (holds_bytes(in, paths.fixed_length))
-            return paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record);   // holds_bytes
-    } else if (table == paths.dense_root) {
-        if (holds_bytes(in, paths.dense_length))
-            return paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes),   // the same
+    if (table == paths.dense_root) {
+        if (holds_bytes(in, paths.dense_length)) [[likely]]
+            return paths.try_dense(in.bytes_unchecked(root_bytes, 0, paths.dense_length - root_bytes),   // holds_bytes
                                    record);
+    } else if (table == root_bytes) {
+        if (holds_bytes(in, paths.fixed_length)) [[likely]]
+            return paths.try_fixed(in.bytes_unchecked(0, 0, paths.fixed_length), record);   // the same
     }
     return 0;
 }
@@ -471,7 +476,7 @@ template <class L>
         const FlatPaths& paths = *decoder.paths;
         if (const u32 size = try_images(paths, in, record); size != 0) [[likely]]
             return size;
-        if (paths.try_table(in, root_table(in), record)) [[likely]]
+        if (paths.try_table(bytes, length, root_table(in), record)) [[likely]]
             return decoder.record_size;
     }
     return decode_message(KESTO_WITH(decoder, bytes, length, record));
