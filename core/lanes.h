@@ -12,7 +12,8 @@ constexpr u32 lanes = 8;
 // vtable must hold these slots, at least eight. `widths` are the sizes of their fields, 0 for a field that need not be
 // tested, and `widest` is the largest of them. Also false where this cannot be told: for an offset near 2^16, and
 // possibly if the offset of a slot of width 0 leads outside.
-[[nodiscard, gnu::always_inline]] inline bool fields_fit(const Input& in, const TableView<Input>& view, u32 slots,
+template <class In>
+[[nodiscard, gnu::always_inline]] inline bool fields_fit(const In& in, const TableView<In>& view, u32 slots,
                                                          const u16* widths, u32 widest)
 {
     if (view.bytes_after_table < widest)

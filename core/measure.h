@@ -123,9 +123,11 @@ KESTO_IN_REGISTERS u64 measure_elements(const u8* records, u32 count, const Nest
         const u8* record = records;
         const u8* const end = records + std::size_t{count} * L::record_size;
         u64 size = 0;
-        if constexpr (!L::has_owned_blocks)   // leading rows without zeros have a known size
-            for (; record != end && is_dense<L>(record); record += L::record_size)
-                size += DenseImage<L>::length;
+        if constexpr (!L::has_owned_blocks) {   // leading rows without zeros have a known size
+            while (record != end && is_dense<L>(record))
+                record += L::record_size;
+            size = u64{DenseImage<L>::length} * (static_cast<std::size_t>(record - records) / L::record_size);
+        }
         for (; record != end && size <= largest_size; record += L::record_size)
             size += measure_table<L, how>(record, nested);
         return size;
