@@ -17,21 +17,6 @@ constexpr std::size_t most_bytes = 64 << 10;   // in the grid, as nobody looks a
 constexpr std::size_t most_rows = 20000;       // in the list
 constexpr u32 most_hex = 16;                   // bytes of a range in the list
 
-std::string escaped(std::string_view text)
-{
-    std::string out;
-    for (const char character : text) {
-        switch (character) {
-        case '&': out += "&amp;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '"': out += "&quot;"; break;
-        default: out += character;
-        }
-    }
-    return out;
-}
-
 const char* class_of(Piece piece)
 {
     switch (piece) {
@@ -184,17 +169,13 @@ void append_head(std::string& out, const Explanation& explanation)
 
 std::string explanation_html(const Explanation& explanation)
 {
-    std::string out = "<!DOCTYPE html>\n<html lang=en><meta charset=utf-8>\n"
-                      "<meta name=viewport content=\"width=device-width, initial-scale=1\">\n";
-    fmt::format_to(std::back_inserter(out), "<title>{}, {}</title>\n<style>{}</style>\n", explanation.message->name,
-                   counted(explanation.bytes.size(), "byte"), page_style);
+    std::string out;
     append_head(out, explanation);
     out += "<main>\n";
     append_grid(out, explanation);
     append_list(out, explanation);
-    fmt::format_to(std::back_inserter(out), "</main>\n<div id=hint hidden></div>\n<script>{}</script>\n</html>\n",
-                   page_script);
-    return out;
+    fmt::format_to(std::back_inserter(out), "</main>\n<div id=hint hidden></div>\n<script>{}</script>\n", page_script);
+    return page_of(fmt::format("{}, {}", explanation.message->name, counted(explanation.bytes.size(), "byte")), out);
 }
 
 void write_page(const Explanation& explanation, const std::string& file)
