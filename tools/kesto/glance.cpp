@@ -371,8 +371,7 @@ public:
         line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
         add_section("did not arrive", comparison.missing);
         add_section("arrived more often than sent", comparison.twice);
-        add_section("arrived changed", comparison.changed,
-                    "Packets pair by id and bytes. What is left pairs by place and order within an id: a guess.\n");
+        add_section("arrived changed", comparison.changed, pairing_remark);
         add_section("arrived without having been sent", comparison.unexpected);
         return out_;
     }
@@ -388,7 +387,8 @@ private:
     {
         if (pairs.empty())
             return;
-        line("\n{}\n{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark);
+        line("\n{}\n{}{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark,
+             *remark == 0 ? "" : "\n");
         const std::size_t shown = choices_.whole ? pairs.size() : std::min(pairs.size(), most_pairs);
         for (std::size_t i = 0; i < shown; ++i)
             add_pair(pairs[i], *remark != 0);

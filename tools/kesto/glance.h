@@ -20,6 +20,9 @@ int summarise_capture(const std::string& file, const GlanceChoices& choices);
 // Which packets of `sent` are missing, doubled or changed in `received`. 1 if any is. Holds both in memory.
 int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices);
 
+inline constexpr const char pairing_remark[] =
+    "Packets pair by id and bytes. What is left pairs by place and order within an id: a guess.";
+
 // Pages, from what --json prints.
 std::string summary_html(const nlohmann::ordered_json& summary);
 std::string comparison_html(const nlohmann::ordered_json& comparison);

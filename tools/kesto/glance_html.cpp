@@ -105,6 +105,8 @@ std::string comparison_html(const ordered_json& comparison)
             continue;
         fmt::format_to(std::back_inserter(lists), "<h1>{} {}</h1>\n", counted(pairs.size(), "packet"), head);
         const bool with_change = pairs[0].contains("fields");
+        if (with_change)
+            fmt::format_to(std::back_inserter(lists), "<p>{}</p>\n", pairing_remark);
         begin_table(lists, {"", "message", "sent", "received", with_change ? "fields, sent and received" : ""});
         for (std::size_t i = 0; i < pairs.size(); ++i)
             lists +=

@@ -40,7 +40,8 @@ table { border-collapse: collapse; width: 100%; }
 th { text-align: left; color: var(--faint); font-weight: normal; }
 th, td { padding: .1rem .5rem; border-bottom: 1px solid var(--line); vertical-align: top; }
 td:first-child { text-align: right; color: var(--faint); }
-.glance { overflow-x: auto; margin: 0 0 .8rem; } .glance td { overflow-wrap: anywhere; min-width: 4.5rem; }
+.glance { overflow-x: auto; margin: 0 0 .8rem; } .glance td { overflow-wrap: anywhere; min-width: 7rem; }
+.glance td:first-child { min-width: 0; width: 1%; }
 .glance td:nth-child(2) { min-width: 11rem; }
 .list td:nth-child(2) span { white-space: pre; } .list td:nth-child(5) { overflow-wrap: anywhere; min-width: 11rem; }
 [data-r] { cursor: default; }
