@@ -78,6 +78,7 @@ struct Elements {
 
 template <class T, u32 N>
 struct Array {
+    static_assert(sizeof(T) == 1 || sizeof(T) == 4);   // decode_array in decode.cpp knows no other width
     using Value = T;
     static constexpr Kind kind = Kind::array;
     static constexpr u32 count = N;

@@ -73,7 +73,7 @@ struct AllocationFaults {
     bool refuses(u32 number, u32 size) const { return number == at || (all_after && number > at) || size > largest; }
 };
 
-// The pieces of a byte string, in reading order.
+// The pieces of a byte string: those that a decoder reads, in reading order, then those that only an explanation names.
 enum class Piece : u8 {
     root,
     vtable_offset,
@@ -85,6 +85,10 @@ enum class Piece : u8 {
     count,
     payload,
     element_cell,
+    vtable_rest,   // after the message's slots, including an odd byte
+    text_end,
+    padding,
+    unread,
 };
 
 const char* name_of(Piece piece);

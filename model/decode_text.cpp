@@ -13,10 +13,10 @@ constexpr const char* refusal_names[] = {
 static_assert(std::size(refusal_names) == static_cast<std::size_t>(Refusal::allocation) + 1);
 
 constexpr const char* piece_names[] = {
-    "root",   "vtable_offset", "vtable_length", "table_length", "slot",
-    "scalar", "cell",          "count",         "payload",      "element_cell",
+    "root",  "vtable_offset", "vtable_length", "table_length", "slot",     "scalar",  "cell",
+    "count", "payload",       "element_cell",  "vtable_rest",  "text_end", "padding", "unread",
 };
-static_assert(std::size(piece_names) == static_cast<std::size_t>(Piece::element_cell) + 1);
+static_assert(std::size(piece_names) == static_cast<std::size_t>(Piece::unread) + 1);
 
 }   // namespace
 

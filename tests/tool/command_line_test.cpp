@@ -511,12 +511,17 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     EXPECT_NE(kesto("compare " + sent + " " + received).output.find("pairs by place and order within an id: a guess"),
               std::string::npos);
 
+    EXPECT_EQ(kesto("summary --html " + path("page") + " " + sent).output, "");
+    EXPECT_NE(read_file(path("page")).find("<td>body_end<td>.f0<td>"), std::string::npos);
+
     // One that was lost earlier does not take the place of one that changed.
     difference = json_of("compare --json " + capture("lost", {packet_of(id, cut), hello_packet, packet_of(id, other)}) +
                              " " + capture("rest", {hello_packet, packet_of(id, changed)}),
                          1);
     EXPECT_EQ(numbers_of("changed"), "3 2 ");
     EXPECT_EQ(numbers_of("missing"), "1 - ");
+    EXPECT_EQ(kesto("compare --html " + path("page") + " " + path("lost") + " " + path("rest")).exit_code, 1);
+    EXPECT_NE(read_file(path("page")).find("</span> <span class=scalar>&quot;jello&quot;</span>"), std::string::npos);
 
     // Both processes send and receive. An answer that was lost is no packet that arrived without having been sent.
     const RawPacket answer = with_call(call_head(0, 0, 0, 0, 0, 0), packet_of(id, changed));

@@ -21,8 +21,8 @@ using command::bytes_from_hex;
 using command::explain;
 using command::Explanation;
 using command::find_message;
-using command::Part;
 using model::Density;
+using model::Piece;
 using model::Random;
 using model::Record;
 
@@ -110,7 +110,7 @@ TEST_P(Ranges, cover_every_byte_of_encoded_records_once)
             std::uint32_t end = 0;
             for (const command::Range& range : explanation.ranges) {
                 ASSERT_EQ(range.position, end) << model::to_hex(bytes);
-                ASSERT_NE(range.part, Part::unread) << range.position << " in " << model::to_hex(bytes);
+                ASSERT_NE(range.piece, Piece::unread) << range.position << " in " << model::to_hex(bytes);
                 ASSERT_EQ(range.reads, 1u);
                 end += range.length;
             }

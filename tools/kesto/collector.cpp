@@ -12,9 +12,6 @@ namespace kesto::command {
 namespace {
 
 using model::Item;
-using model::Piece;
-
-static_assert(static_cast<int>(Part::element_cell) == static_cast<int>(Piece::element_cell));
 
 bool is_head(const Item& item)
 {
@@ -101,7 +98,7 @@ void Collector::read(const Item& item)
     if (item.piece == Piece::vtable_offset)
         positions_[depth] = item.position;
     const u32 table = is_root ? 0 : positions_[depth];
-    last_ = {static_cast<Part>(item.piece), item.position, item.length, item.value, table, item.message, *item.path};
+    last_ = {item.piece, item.position, item.length, item.value, table, item.message, *item.path};
     count(item);
     if (is_inside_known_table(item)) {
         explanation_.left_out += is_left_out_ ? 1 : 0;
@@ -150,8 +147,7 @@ void Collector::note_item(const Item& item, Table& table)
     case Piece::count:
     case Piece::element_cell:
     case Piece::payload: table.end = std::max(table.end, item.position + item.length); break;
-    case Piece::root:
-    case Piece::vtable_offset: break;
+    default: break;
     }
     if (item.piece == Piece::payload && slot_of(item).kind == Kind::string)
         note_text(item, table);
@@ -174,7 +170,7 @@ void Collector::note_vtable(Table& table)
                    fmt::format("the vtable has {} of {} slots; the others count as absent. An older writer?",
                                (read - 4) / 2, table.message->slots.size()));
     if (length > read)
-        add({Part::vtable_rest, table.vtable + read, length - read, 0, table.position, table.message, table.path});
+        add({Piece::vtable_rest, table.vtable + read, length - read, 0, table.position, table.message, table.path});
 }
 
 void Collector::note_text(const Item& item, Table& table)

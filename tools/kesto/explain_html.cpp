@@ -17,45 +17,30 @@ constexpr std::size_t most_bytes = 64 << 10;   // in the grid, as nobody looks a
 constexpr std::size_t most_rows = 20000;       // in the list
 constexpr u32 most_hex = 16;                   // bytes of a range in the list
 
-std::string escaped(std::string_view text)
+const char* class_of(Piece piece)
 {
-    std::string out;
-    for (const char character : text) {
-        switch (character) {
-        case '&': out += "&amp;"; break;
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '"': out += "&quot;"; break;
-        default: out += character;
-        }
-    }
-    return out;
-}
-
-const char* class_of(Part part)
-{
-    switch (part) {
-    case Part::root:
-    case Part::table: return "structure";
-    case Part::vtable_length:
-    case Part::table_length:
-    case Part::slot: return "vtable";
-    case Part::cell:
-    case Part::element_cell: return "cell";
-    case Part::scalar: return "scalar";
-    case Part::count: return "count";
-    case Part::payload: return "payload";
-    case Part::text_end:
-    case Part::padding: return "quiet";
-    case Part::vtable_rest:
-    case Part::unread: break;
+    switch (piece) {
+    case Piece::root:
+    case Piece::vtable_offset: return "structure";
+    case Piece::vtable_length:
+    case Piece::table_length:
+    case Piece::slot: return "vtable";
+    case Piece::cell:
+    case Piece::element_cell: return "cell";
+    case Piece::scalar: return "scalar";
+    case Piece::count: return "count";
+    case Piece::payload: return "payload";
+    case Piece::text_end:
+    case Piece::padding: return "quiet";
+    case Piece::vtable_rest:
+    case Piece::unread: break;
     }
     return "unread";
 }
 
 std::string classes_of(const Range& range)
 {
-    return fmt::format("{}{}", class_of(range.part), range.read_last ? " read-last" : "");
+    return fmt::format("{}{}", class_of(range.piece), range.read_last ? " read-last" : "");
 }
 
 std::string path_shown(const Explanation& explanation, const Range& range)
@@ -124,7 +109,7 @@ void append_list(std::string& out, const Explanation& explanation)
         for (std::size_t at = 3 * bytes_in_a_row - 1; at < hex.size(); at += 3 * bytes_in_a_row)
             hex[at] = '\n';
         fmt::format_to(into, "<tr data-r={}{}><td>{}<td><span class=\"{}\">{}{}</span>", i,
-                       range.read_last ? " class=read-last" : "", range.position, class_of(range.part), hex,
+                       range.read_last ? " class=read-last" : "", range.position, class_of(range.piece), hex,
                        shown < range.length ? "\n..." : "");
         fmt::format_to(into, "<td>{}<td>{}<td>{}{}</tr>\n", escaped(path_shown(explanation, range)),
                        escaped(kind_text(range)), escaped(value_text(explanation, range)),
@@ -184,17 +169,13 @@ void append_head(std::string& out, const Explanation& explanation)
 
 std::string explanation_html(const Explanation& explanation)
 {
-    std::string out = "<!DOCTYPE html>\n<html lang=en><meta charset=utf-8>\n"
-                      "<meta name=viewport content=\"width=device-width, initial-scale=1\">\n";
-    fmt::format_to(std::back_inserter(out), "<title>{}, {}</title>\n<style>{}</style>\n", explanation.message->name,
-                   counted(explanation.bytes.size(), "byte"), page_style);
+    std::string out;
     append_head(out, explanation);
     out += "<main>\n";
     append_grid(out, explanation);
     append_list(out, explanation);
-    fmt::format_to(std::back_inserter(out), "</main>\n<div id=hint hidden></div>\n<script>{}</script>\n</html>\n",
-                   page_script);
-    return out;
+    fmt::format_to(std::back_inserter(out), "</main>\n<div id=hint hidden></div>\n<script>{}</script>\n", page_script);
+    return page_of(fmt::format("{}, {}", explanation.message->name, counted(explanation.bytes.size(), "byte")), out);
 }
 
 void write_page(const Explanation& explanation, const std::string& file)

@@ -37,10 +37,10 @@ Columns columns_of(const Explanation& explanation)
     return columns;
 }
 
-bool is_structure(Part part)
+bool is_structure(Piece piece)
 {
-    return part == Part::vtable_length || part == Part::table_length || part == Part::slot || part == Part::padding ||
-           part == Part::text_end;
+    return piece == Piece::vtable_length || piece == Piece::table_length || piece == Piece::slot ||
+           piece == Piece::padding || piece == Piece::text_end;
 }
 
 std::string meaning(const Explanation& explanation, const Range& range, const Columns& columns, const Colours& colours)
@@ -52,9 +52,9 @@ std::string meaning(const Explanation& explanation, const Range& range, const Co
     const std::string kind = fmt::format("{:{}}", kind_text(range), columns.kind);
     if (range.read_last)
         return colours.bad(path + "  " + kind + "  " + value + "  <- read last");
-    if (is_structure(range.part))
+    if (is_structure(range.piece))
         return colours.faint(path + "  " + kind + "  " + value);
-    if (range.part == Part::unread || range.part == Part::vtable_rest)
+    if (range.piece == Piece::unread || range.piece == Piece::vtable_rest)
         return colours.odd(path + "  " + kind + "  " + value);
     return colours.name(path) + "  " + kind + "  " + colours.bold(value);
 }
@@ -87,7 +87,7 @@ std::string origin_of_position(const Explanation& explanation, const model::Fail
     const auto last = std::ranges::find_if(explanation.ranges, &Range::read_last);
     if (last == explanation.ranges.end() || failure.position - last->position < last->length)
         return "";
-    const std::string path = last->part == Part::root ? "" : " of " + path_text(explanation, *last);
+    const std::string path = last->piece == Piece::root ? "" : " of " + path_text(explanation, *last);
     return fmt::format("    the {}{} at position {} leads there: {}\n", kind_text(*last), path, last->position,
                        value_text(explanation, *last));
 }

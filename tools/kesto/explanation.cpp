@@ -21,7 +21,7 @@ bool stands_before(const Range& left, const Range& right)
         return left.position < right.position;
     if (left.length != right.length)   // an empty text before its NUL, otherwise the longer one first
         return left.length == 0 || (right.length != 0 && left.length > right.length);
-    return left.part < right.part;
+    return left.piece < right.piece;
 }
 
 void merge_equal(std::vector<Range>& ranges)
@@ -46,7 +46,7 @@ void note_sharing(const Explanation& explanation, Notes& notes)
     u64 end = 0;
     const Range* reaching = nullptr;
     for (const Range& range : explanation.ranges) {
-        if (range.reads > 1 && range.part == Part::payload)
+        if (range.reads > 1 && range.piece == Piece::payload)
             notes.add("shared_body", range.position, range.length, path_text(explanation, range),
                       fmt::format("read {} times, and copied as often", range.reads));
         if (range.length == 0)
@@ -81,7 +81,7 @@ public:
         for (const Range& range : known) {
             fill_up_to(range.position, end);
             end = std::max(end, range.position + range.length);
-            if (range.part == Part::payload && slot_kind(range) == Kind::string)
+            if (range.piece == Piece::payload && slot_kind(range) == Kind::string)
                 text_ = range;
         }
         fill_up_to(static_cast<u32>(explanation_.bytes.size()), end);
@@ -98,7 +98,7 @@ private:
     {
         const std::span<const u8> bytes = explanation_.bytes;
         if (at < next && bytes[at] == 0 && text_.message != nullptr && text_.position + text_.length == at) {
-            add(Part::text_end, at, 1, text_);
+            add(Piece::text_end, at, 1, text_);
             ++at;
         }
         if (at >= next)
@@ -106,12 +106,12 @@ private:
         const bool zero = std::all_of(bytes.begin() + at, bytes.begin() + next, [](u8 byte) { return byte == 0; });
         // The fixed form rounds up to 8; an enclosing table may then round up to 4.
         const bool padding = zero && next - at <= 7 + 3;
-        add(padding ? Part::padding : Part::unread, at, next - at, {});
+        add(padding ? Piece::padding : Piece::unread, at, next - at, {});
     }
 
-    void add(Part part, u32 position, u32 length, const Range& owner)
+    void add(Piece piece, u32 position, u32 length, const Range& owner)
     {
-        explanation_.ranges.push_back({part, position, length, 0, owner.table, owner.message, owner.path});
+        explanation_.ranges.push_back({piece, position, length, 0, owner.table, owner.message, owner.path});
     }
 
     Explanation& explanation_;
@@ -124,7 +124,7 @@ void note_unread(const Explanation& explanation, u64 end, Notes& notes)
     if (explanation.refused || explanation.left_out != 0)
         return;
     for (const Range& range : explanation.ranges)
-        if (range.part == Part::unread && range.position < end)
+        if (range.piece == Piece::unread && range.position < end)
             notes.add("not_read", range.position, range.length, ".",
                       counted(range.length, "byte") + " that no decoder reads");
 }

@@ -10,26 +10,10 @@
 
 namespace kesto::command {
 
-// The model's pieces in order, then parts that no decoder reads.
-enum class Part : u8 {
-    root,
-    table,   // the first word, the distance to the vtable
-    vtable_length,
-    table_length,
-    slot,
-    scalar,
-    cell,
-    count,
-    payload,
-    element_cell,
-    vtable_rest,   // after the message's slots, including an odd byte
-    text_end,
-    padding,
-    unread,
-};
+using model::Piece;
 
 struct Range {
-    Part part = Part::unread;
+    Piece piece = Piece::unread;
     u32 position = 0;
     u32 length = 0;
     u64 value = 0;

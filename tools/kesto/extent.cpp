@@ -28,9 +28,9 @@ public:
     explicit Extent(const Explanation& explanation) : explanation_(explanation)
     {
         for (const Range& range : explanation.ranges) {
-            if (is_read(range.part))
+            if (is_read(range.piece))
                 covered_ = std::max(covered_, end_of(range));
-            if (range.part == Part::table_length)
+            if (range.piece == Piece::table_length)
                 tables_ = std::max(tables_, u64{range.table} + range.value);
         }
     }
@@ -38,8 +38,8 @@ public:
     // The end of everything that is read or announced; 0 if a table does not state its length.
     u64 announced() const
     {
-        const auto count = [&](Part part) { return std::ranges::count(explanation_.ranges, part, &Range::part); };
-        return count(Part::table) == count(Part::table_length) ? std::max(covered_, tables_) : 0;
+        const auto count = [&](Piece piece) { return std::ranges::count(explanation_.ranges, piece, &Range::piece); };
+        return count(Piece::vtable_offset) == count(Piece::table_length) ? std::max(covered_, tables_) : 0;
     }
 
     // The least length of the whole byte string if this seems to be the beginning of one, otherwise 0. One wrong number
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    static bool is_read(Part part) { return part != Part::padding && part != Part::unread; }
+    static bool is_read(Piece piece) { return piece != Piece::padding && piece != Piece::unread; }
     static u64 end_of(const Range& range) { return u64{range.position} + range.length; }
     u64 length() const { return explanation_.bytes.size(); }
 
@@ -72,7 +72,7 @@ private:
     bool lacks_nul() const
     {
         const auto is_text = [&](const Range& range) {
-            return range.part == Part::payload && end_of(range) == length() &&
+            return range.piece == Piece::payload && end_of(range) == length() &&
                    range.message->slots[range.path.steps[range.path.length - 1].slot].kind == Kind::string;
         };
         return tables_ == length() + 1 && std::ranges::any_of(explanation_.ranges, is_text);
@@ -82,7 +82,7 @@ private:
     u64 whole_by_table(u32 position, u64 claimed) const
     {
         const auto is_its_length = [&](const Range& range) {
-            return range.part == Part::table_length && range.table == position;
+            return range.piece == Piece::table_length && range.table == position;
         };
         const auto stated = std::ranges::find_if(explanation_.ranges, is_its_length);
         if (stated == explanation_.ranges.end())
@@ -105,7 +105,7 @@ private:
             return 0;
         const bool states_length = vtable + 4 <= length() && target - vtable == nested.vtable_length;
         const u64 end = target + (states_length ? model::get(explanation_.bytes.data() + vtable + 2, 2) : 4);
-        return last.part == Part::element_cell ? whole_by_elements(last, end) : end;
+        return last.piece == Piece::element_cell ? whole_by_elements(last, end) : end;
     }
 
     // The cells of a vector's later elements lead further still.
@@ -114,7 +114,7 @@ private:
         u64 whole = end;
         const Range* count = nullptr;
         for (const Range& range : explanation_.ranges)
-            if (range.part == Part::count && range.position < last.position)
+            if (range.piece == Piece::count && range.position < last.position)
                 count = &range;
         for (u64 at = last.position + u64{4}; at < count->position + 4 + 4 * count->value; at += 4) {
             const u64 target = at + model::get32(explanation_.bytes.data() + at);
@@ -127,8 +127,8 @@ private:
 
     const Message& nested_of(const Range& last) const
     {
-        return last.part == Part::root ? *explanation_.message
-                                       : *last.message->slots[last.path.steps[last.path.length - 1].slot].nested;
+        return last.piece == Piece::root ? *explanation_.message
+                                         : *last.message->slots[last.path.steps[last.path.length - 1].slot].nested;
     }
 
     const Explanation& explanation_;

@@ -8,6 +8,7 @@
 #include <unordered_map>
 
 #include "tools/kesto/difference.h"
+#include "tools/kesto/input.h"
 #include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
 
@@ -336,6 +337,25 @@ ordered_json pairs_json(const std::vector<Pair>& pairs, bool with_change)
     return json;
 }
 
+ordered_json side_json(const CapturedSide& side)
+{
+    return {
+        {"capture", side.file}, {"packets", side.packets.size()}, {"bytes", side.bytes}, {"left_out", side.left_out}};
+}
+
+ordered_json comparison_json(const CapturedSide& sent, const CapturedSide& received, const Comparison& comparison)
+{
+    return {{"sent", side_json(sent)},
+            {"received", side_json(received)},
+            {"as_sent", comparison.as_sent},
+            {"missing", pairs_json(comparison.missing, false)},
+            {"twice", pairs_json(comparison.twice, false)},
+            {"changed", pairs_json(comparison.changed, true)},
+            {"unexpected", pairs_json(comparison.unexpected, false)}};
+}
+
+void write_text(const std::string& file, const std::string& text) { write_bytes(file, text.data(), text.size()); }
+
 class ComparisonText {
 public:
     explicit ComparisonText(const GlanceChoices& choices) : choices_(choices), colours_(colours_for(choices.colour)) {}
@@ -351,8 +371,7 @@ public:
         line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
         add_section("did not arrive", comparison.missing);
         add_section("arrived more often than sent", comparison.twice);
-        add_section("arrived changed", comparison.changed,
-                    "Packets pair by id and bytes. What is left pairs by place and order within an id: a guess.\n");
+        add_section("arrived changed", comparison.changed, pairing_remark);
         add_section("arrived without having been sent", comparison.unexpected);
         return out_;
     }
@@ -368,7 +387,8 @@ private:
     {
         if (pairs.empty())
             return;
-        line("\n{}\n{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark);
+        line("\n{}\n{}{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark,
+             *remark == 0 ? "" : "\n");
         const std::size_t shown = choices_.whole ? pairs.size() : std::min(pairs.size(), most_pairs);
         for (std::size_t i = 0; i < shown; ++i)
             add_pair(pairs[i], *remark != 0);
@@ -407,8 +427,12 @@ private:
 int summarise_capture(const std::string& file, const GlanceChoices& choices)
 {
     const Summary summary = summary_of(file);
-    print(choices.json ? json_text(summary_json(file, summary), 2) + "\n"
-                       : summary_text(file, summary, colours_for(choices.colour)));
+    if (choices.json)
+        print(json_text(summary_json(file, summary), 2) + "\n");
+    else if (choices.html.empty())
+        print(summary_text(file, summary, colours_for(choices.colour)));
+    if (!choices.html.empty())
+        write_text(choices.html, summary_html(summary_json(file, summary)));
     return summary.refused == 0 ? accepted : refused;
 }
 
@@ -420,26 +444,15 @@ int compare_captures(const std::string& sent, const std::string& received, const
         leave_out(right, true);
     }
     const Comparison comparison = comparison_of(left, right);
-    if (choices.json)
-        print(json_text({{"sent",
-                          {{"capture", sent},
-                           {"packets", left.packets.size()},
-                           {"bytes", left.bytes},
-                           {"left_out", left.left_out}}},
-                         {"received",
-                          {{"capture", received},
-                           {"packets", right.packets.size()},
-                           {"bytes", right.bytes},
-                           {"left_out", right.left_out}}},
-                         {"as_sent", comparison.as_sent},
-                         {"missing", pairs_json(comparison.missing, false)},
-                         {"twice", pairs_json(comparison.twice, false)},
-                         {"changed", pairs_json(comparison.changed, true)},
-                         {"unexpected", pairs_json(comparison.unexpected, false)}},
-                        2) +
-              "\n");
-    else
+    if (choices.json || !choices.html.empty()) {
+        const ordered_json json = comparison_json(left, right, comparison);
+        if (choices.json)
+            print(json_text(json, 2) + "\n");
+        if (!choices.html.empty())
+            write_text(choices.html, comparison_html(json));
+    } else {
         print(ComparisonText(choices).of(left, right, comparison));
+    }
     return comparison.is_same() ? accepted : refused;
 }
 

@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <cstdio>
+#include <functional>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "model/json.h"
@@ -33,6 +35,11 @@ CLI::Option* add_choice(CLI::App& app, const std::string& name, Value& value,
             name, [&value, &values](const std::string& word) { value = values.at(word); }, help)
         ->check(CLI::IsMember(words))
         ->type_name("WORD");
+}
+
+CLI::Option* add_page(CLI::App& app, std::string& file)
+{
+    return app.add_option("--html", file, "write a page to look at in a browser")->type_name("FILE");
 }
 
 void add_colour(CLI::App& app, ColourChoice& colour)
@@ -118,8 +125,7 @@ struct Explain {
         source.add_to(self);
         add_colour(self, choices.colour);
         self.add_flag("--json", choices.json, "print JSON");
-        CLI::Option* const html = self.add_option("--html", choices.html, "write a page to look at in a browser");
-        html->type_name("FILE");
+        CLI::Option* const html = add_page(self, choices.html);
         self.add_flag("--raw", raw, "without a message: what the bytes themselves tell")->excludes(html);
         self.add_flag("--all", choices.whole, "show long payloads to the last byte");
         self.add_option_function<u32>(
@@ -268,6 +274,7 @@ struct Summary {
         self.add_option("CAPTURE", file, "the capture; - for standard input")->required();
         add_colour(self, choices.colour);
         self.add_flag("--json", choices.json, "print JSON");
+        add_page(self, choices.html);
     }
 
     int run() const { return summarise_capture(file, choices); }
@@ -284,6 +291,7 @@ struct Compare {
         self.add_option("RECEIVED", received, "the receiver's")->required();
         add_colour(self, choices.colour);
         self.add_flag("--json", choices.json, "print JSON, with everything");
+        add_page(self, choices.html);
         self.add_flag("--all", choices.whole, "list all packets and fields that differ");
     }
 
@@ -377,23 +385,14 @@ int run(int argc, char** argv)
     if (!names_file.empty())
         names().read(read_text(names_file), names_file);
     const std::string& chosen = app.get_subcommands().front()->get_name();
-    if (chosen == "explain")
-        return explain.run();
-    if (chosen == "decode")
-        return decode.run();
-    if (chosen == "encode")
-        return encode.run();
-    if (chosen == "diff")
-        return diff.run();
-    if (chosen == "summary")
-        return summary.run();
-    if (chosen == "compare")
-        return compare.run();
-    if (chosen == "list")
-        return list.run();
-    if (chosen == "show")
-        return show.run();
-    return size.run();
+    const std::map<std::string, std::function<int()>> verbs = {
+        {"explain", [&] { return explain.run(); }}, {"decode", [&] { return decode.run(); }},
+        {"encode", [&] { return encode.run(); }},   {"diff", [&] { return diff.run(); }},
+        {"summary", [&] { return summary.run(); }}, {"compare", [&] { return compare.run(); }},
+        {"list", [&] { return list.run(); }},       {"show", [&] { return show.run(); }},
+        {"size", [&] { return size.run(); }},
+    };
+    return verbs.at(chosen)();
 }
 
 }   // namespace

@@ -1,5 +1,8 @@
-// The constant part of a page: styles for light and dark mode, and pointer interaction.
+// A self-contained page: styles for light and dark mode, and pointer interaction.
 #pragma once
+
+#include <string>
+#include <string_view>
 
 namespace kesto::command {
 
@@ -37,7 +40,10 @@ table { border-collapse: collapse; width: 100%; }
 th { text-align: left; color: var(--faint); font-weight: normal; }
 th, td { padding: .1rem .5rem; border-bottom: 1px solid var(--line); vertical-align: top; }
 td:first-child { text-align: right; color: var(--faint); }
-td:nth-child(2) span { white-space: pre; } td:nth-child(5) { overflow-wrap: anywhere; min-width: 11rem; }
+.glance { overflow-x: auto; margin: 0 0 .8rem; } .glance td { overflow-wrap: anywhere; min-width: 7rem; }
+.glance td:first-child { min-width: 0; width: 1%; }
+.glance td:nth-child(2) { min-width: 11rem; }
+.list td:nth-child(2) span { white-space: pre; } .list td:nth-child(5) { overflow-wrap: anywhere; min-width: 11rem; }
 [data-r] { cursor: default; }
 .structure { background: var(--structure); } .vtable { background: var(--vtable); } .cell { background: var(--cell); }
 .scalar { background: var(--scalar); } .count { background: var(--count); } .payload { background: var(--payload); }
@@ -52,7 +58,7 @@ span.read-last { outline: 2px solid var(--bad); }
   .grid { position: static; max-height: 40vh; grid-template-columns: repeat(auto-fill, minmax(min(21rem, 100%), 1fr)); } }
 @media (max-width: 34rem) { body { padding: .7rem .7rem 5rem; } code, table, .grid, #hint { font-size: 12px; }
   th, td { padding: .1rem .3rem; }
-  th:nth-child(2), td:nth-child(2) { display: none; } td:nth-child(5) { min-width: 0; } }
+  .list th:nth-child(2), .list td:nth-child(2) { display: none; } .list td:nth-child(5) { min-width: 0; } }
 @media (max-width: 22rem) { .grid i:last-child { display: none; } }
 )";
 
@@ -79,5 +85,10 @@ document.addEventListener('click', event => {
   other?.scrollIntoView({block: 'nearest', behavior: 'smooth'});
 });
 )";
+
+std::string escaped(std::string_view text);
+
+// The title is escaped, the body is HTML.
+std::string page_of(const std::string& title, const std::string& body);
 
 }   // namespace kesto::command

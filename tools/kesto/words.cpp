@@ -127,24 +127,24 @@ std::string path_text(const Explanation& explanation, const Range& range)
 
 std::string kind_text(const Range& range)
 {
-    switch (range.part) {
-    case Part::root: return "root";
-    case Part::table: return "table";
-    case Part::vtable_length: return "vtable length";
-    case Part::table_length: return "table length";
-    case Part::slot: return "slot";
-    case Part::scalar:
-    case Part::payload: return slot_text(range.message->slots[slot_number(range)]);
-    case Part::cell:
-    case Part::element_cell: return "cell";
-    case Part::count: {
+    switch (range.piece) {
+    case Piece::root: return "root";
+    case Piece::vtable_offset: return "table";
+    case Piece::vtable_length: return "vtable length";
+    case Piece::table_length: return "table length";
+    case Piece::slot: return "slot";
+    case Piece::scalar:
+    case Piece::payload: return slot_text(range.message->slots[slot_number(range)]);
+    case Piece::cell:
+    case Piece::element_cell: return "cell";
+    case Piece::count: {
         const Kind kind = slot_of(range).kind;
         return kind == Kind::string || kind == Kind::bytes ? "length" : "count";
     }
-    case Part::vtable_rest: return "vtable";
-    case Part::text_end: return "NUL";
-    case Part::padding: return "padding";
-    case Part::unread: break;
+    case Piece::vtable_rest: return "vtable";
+    case Piece::text_end: return "NUL";
+    case Piece::padding: return "padding";
+    case Piece::unread: break;
     }
     return "-";
 }
@@ -152,28 +152,28 @@ std::string kind_text(const Range& range)
 std::string value_text(const Explanation& explanation, const Range& range)
 {
     const u32 value = static_cast<u32>(range.value);
-    switch (range.part) {
-    case Part::root: return fmt::format("table at {}", value);
-    case Part::table: return distance_text(range.position, value);
-    case Part::vtable_length: return vtable_text(range);
-    case Part::table_length: return fmt::format("{}", value);
-    case Part::slot:
+    switch (range.piece) {
+    case Piece::root: return fmt::format("table at {}", value);
+    case Piece::vtable_offset: return distance_text(range.position, value);
+    case Piece::vtable_length: return vtable_text(range);
+    case Piece::table_length: return fmt::format("{}", value);
+    case Piece::slot:
         return value == 0 ? "absent" : fmt::format("at {} + {} = {}", range.table, value, range.table + value);
-    case Part::scalar:
+    case Piece::scalar:
         if (const std::string text = displayed_scalar(explanation, range); !text.empty())
             return text;
         return range.value < 10 ? fmt::format("{}", range.value) : fmt::format("{0} = {0:#x}", range.value);
-    case Part::cell:
-    case Part::element_cell: {
+    case Piece::cell:
+    case Piece::element_cell: {
         const u32 target = range.position + value;
         return fmt::format("to {} + {} = {}{}", range.position, value, target, wrap_text(target < value));
     }
-    case Part::count: return value < 0x10000 ? fmt::format("{}", value) : fmt::format("{0} = {0:#010x}", value);
-    case Part::payload: return payload_text(explanation, range);
-    case Part::vtable_rest: return "not read: the message has no such slot";
-    case Part::text_end: return "after the text, not counted";
-    case Part::padding: return "not read";
-    case Part::unread: break;
+    case Piece::count: return value < 0x10000 ? fmt::format("{}", value) : fmt::format("{0} = {0:#010x}", value);
+    case Piece::payload: return payload_text(explanation, range);
+    case Piece::vtable_rest: return "not read: the message has no such slot";
+    case Piece::text_end: return "after the text, not counted";
+    case Piece::padding: return "not read";
+    case Piece::unread: break;
     }
     if (explanation.refused)
         return "not reached";

@@ -11,8 +11,8 @@ namespace kesto::vectors {
 
 namespace {
 
-using command::Part;
 using command::Range;
+using model::Piece;
 using model::u32;
 using model::u64;
 
@@ -29,19 +29,19 @@ std::vector<u64> targets(u32 length)
 std::vector<u64> values_of(const Range& range, u32 length)
 {
     std::vector<u64> values;
-    switch (range.part) {
-    case Part::root: values = targets(length); break;
-    case Part::table:
+    switch (range.piece) {
+    case Piece::root: values = targets(length); break;
+    case Piece::vtable_offset:
         for (const u64 target : targets(length))
             values.push_back(range.position - target);
         break;
-    case Part::slot:
+    case Piece::slot:
         for (const u64 target : targets(length))
             if (target > range.table)
                 values.push_back(target - range.table);
         break;
-    case Part::cell:
-    case Part::element_cell:
+    case Piece::cell:
+    case Piece::element_cell:
         for (const u64 target : targets(length))
             if (target >= range.position)
                 values.push_back(target - range.position);
@@ -49,8 +49,8 @@ std::vector<u64> values_of(const Range& range, u32 length)
             values.push_back(target - range.position);
         values.push_back(0xffffffff);
         break;
-    case Part::vtable_length: values = {length - range.position, length - range.position + 1, 0xffff}; break;
-    case Part::count: {
+    case Piece::vtable_length: values = {length - range.position, length - range.position + 1, 0xffff}; break;
+    case Piece::count: {
         const u64 rest = length - range.position - 4;
         values = {range.value - 1, range.value, range.value + 1,          rest / 4,  rest / 4 + 1, rest, rest + 1,
                   0x3fffffff,      0x40000000,  0x40000000 + range.value, 0xffffffff};
@@ -114,7 +114,7 @@ std::vector<Sample> damaged(const Sample& whole)
             sample.about += fmt::format(", {}: {:#x} instead of {:#x}", place, value, range.value);
             neighbours.push_back(std::move(sample));
         }
-        collection.add(neighbours, range.part == Part::slot ? "" : place);
+        collection.add(neighbours, range.piece == Piece::slot ? "" : place);
     }
     std::vector<Sample> cut;
     for (u32 kept = 0; kept <= length; ++kept) {
