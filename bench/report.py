@@ -1,7 +1,7 @@
-"""Reports the benchmark's JSON files as tables, goals and plots, and writes the measured part of docs/performance.md.
+"""Reports the benchmark's JSON files as tables and goals, and writes the measured part of docs/performance.md.
 
   report.py FILE...           prints the tables and the goals
-  report.py --docs FILE...    also writes the measured part of docs/performance.md and docs/performance/*.svg, with the
+  report.py --docs FILE...    also writes the summary and the measured part of docs/performance.md, with the
                               allocations.txt in the folder of the first file
 
 A case's time is the median CPU time over all repetitions in all files. The limit is the faster of the two copies. On an
@@ -285,73 +285,10 @@ def write_document(results, tables, allocations):
     ]
     for title, content in tables:
         text += ["", f"### {title}", "", as_markdown(*content)]
-        operation = title.split(":")[0]
-        if (ROOT / f"docs/performance/{operation}.svg").exists():
-            text += ["", f"![{operation}](performance/{operation}.svg)"]
-    text += ["", "### Cost per row", "", "![cost per row](performance/rows.svg)"]
     text += ["", "### Allocations in one operation", "", "```", allocations.strip(), "```"]
     replace("measured", "\n".join(text))
     replace("summary", "\n\n".join(as_markdown(*table) for table in (
         summary_of_times(results), *(summary_of_instructions(*target) for target in TARGETS))))
-
-
-# ---- plots ----
-
-COLOURS = {"ours": "#d55e00", "limit": "#999999", "protobuf": "#0072b2", "capnp": "#009e73", "nanopb": "#cc79a7"}
-
-
-def draw(results):
-    import matplotlib
-    matplotlib.use("svg")
-    matplotlib.rcParams.update({"svg.hashsalt": "plots", "svg.fonttype": "none", "font.size": 8})
-    from matplotlib import pyplot
-
-    folder = ROOT / "docs/performance"
-    folder.mkdir(exist_ok=True)
-
-    def save(figure, name):
-        figure.savefig(folder / f"{name}.svg", bbox_inches="tight", metadata={"Date": None})
-        pyplot.close(figure)
-
-    for operation in ("send", "pack", "unpack"):
-        sets = results.sets(operation)
-        sets = [records for records in sets if not re.search(":(4|64|1024|4096)/", records)]   # in the last plot
-        shown = [each for each in CONTENDERS if each != "limit"]
-        figure, axes = pyplot.subplots(figsize=(7.5, 0.5 * len(sets) + 0.8))
-        height = 0.8 / len(shown)
-        for i, contender in enumerate(shown):
-            ratios = [(results.time(operation, records, contender) or float("nan")) /
-                      results.time(operation, records, "limit") for records in sets]
-            places = [place + (i - (len(shown) - 1) / 2) * height for place in range(len(sets))]
-            axes.barh(places, ratios, height, color=COLOURS[contender], label=contender)
-        axes.set_yticks(range(len(sets)), sets)
-        axes.invert_yaxis()
-        axes.set_xscale("log")
-        axes.set_xlim(left=1)
-        axes.xaxis.set_major_formatter(matplotlib.ticker.FormatStrFormatter("%g"))
-        axes.set_xlabel(f"{operation}: time as a multiple of a straight copy's")
-        axes.grid(axis="x", which="major", linewidth=0.4)
-        axes.set_axisbelow(True)
-        axes.margins(y=0.01)
-        axes.legend(loc="lower center", bbox_to_anchor=(0.5, 1), ncol=len(shown), frameon=False)
-        save(figure, operation)
-
-    figure, both = pyplot.subplots(1, 2, figsize=(7.5, 3), sharey=True)
-    for axes, operation in zip(both, ("pack", "unpack")):
-        for contender in CONTENDERS[:4]:
-            times = [(rows, results.time(operation, f"{UPDATE}:{rows}/full", contender)) for rows in ROWS]
-            times = [(rows, time / rows) for rows, time in times if time]
-            axes.plot(*zip(*times), marker="o", markersize=3, color=COLOURS[contender], label=contender)
-        axes.set_xscale("log", base=4)
-        axes.set_yscale("log")
-        axes.set_xticks(ROWS, ROWS)
-        axes.yaxis.set_major_formatter(matplotlib.ticker.FormatStrFormatter("%g"))
-        axes.set_xlabel(f"{operation}: rows of {UPDATE}, full")
-        axes.grid(linewidth=0.4)
-    both[0].set_ylabel("ns per row")
-    figure.legend(*both[0].get_legend_handles_labels(), loc="lower center", bbox_to_anchor=(0.5, 0.88), ncol=4,
-                  frameon=False)
-    save(figure, "rows")
 
 
 def main():
@@ -364,7 +301,6 @@ def main():
     for title, content in tables:
         print(f"\n{title}\n\n{as_text(*content)}")
     if options.docs:
-        draw(results)
         allocations = pathlib.Path(options.files[0]).parent / "allocations.txt"
         write_document(results, tables, allocations.read_text(encoding="utf-8"))
     return 0

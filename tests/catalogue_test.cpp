@@ -125,7 +125,8 @@ TEST(Printed, pages_tell_the_exceptions_and_the_picture_leads_to_every_message)
         led_to.insert(picture.substr(at + 4, picture.find('"', at) - at - 4));
     std::set<std::string> names;
     for (const model::Message& message : expected_catalogue().messages)
-        names.insert(message.name);
+        if (message.module != "synthetic")
+            names.insert(message.name);
     if (all_modules_built) {
         EXPECT_EQ(led_to, names);
     }
