@@ -128,6 +128,11 @@ def goals_of_times(results):
     return head, [row for row in rows if any(row[1:-1]) or ", at most" in row[0] or "/ full" in row[0]]   # without cases that were not measured
 
 
+def rows_in(records):
+    rows = re.search(r":(\d+)/", records)
+    return int(rows[1]) if rows else 1
+
+
 class Counts:
     """The instructions per operation on a target, from bench/instructions-TARGET.txt."""
 
@@ -139,8 +144,7 @@ class Counts:
         """Per row of rows or per element of a list."""
         if contender != "ours":
             operation, records = COUNTERPART.get(operation, operation), f"{records}/{contender}"
-        rows = re.search(r":(\d+)/", records)
-        return self.counts[f"{operation}/{records}"] / (int(rows[1]) if rows else 1)
+        return self.counts[f"{operation}/{records}"] / rows_in(records)
 
 
 TARGETS = [("x86-64", "x86_64", None), ("i686", "i686", "SSE2"), ("ARM", "arm", "NEON")]
@@ -167,13 +171,11 @@ def summary_of_times(results):
         records = f"{message}/full"
         row = [message]
         for operation in ("pack", "send", "unpack"):
-            ours = results.time(operation, records, "ours")
-            peers = [results.time(operation, records, peer) for peer in PEERS]
-            if operation != "send":
-                row.append(number(results.time(operation, records, "limit")))
-            row += [number(ours), number(results.ratio(operation, records, ["limit"]))]
-            if operation != "send":
-                row.append(number(min((peer for peer in peers if peer), default=None)))
+            copy, ours, *peers = (results.time(operation, records, each) for each in ("limit", "ours", *PEERS))
+            best = min((peer for peer in peers if peer), default=None)
+            copy, ours, best = (time and time / rows_in(records) for time in (copy, ours, best))
+            beside = operation != "send"
+            row += [number(copy)] * beside + [number(ours), number(ours / copy)] + [number(best)] * beside
         rows.append(row)
     return head, rows
 
