@@ -53,7 +53,7 @@ def build(sources, target, changes):
         path.write_text(content.replace(text, replacement), encoding="utf-8")
     folder = sources / "build"
     subprocess.run(["cmake", "-S", sources, "-B", folder, "-G", "Ninja", "-DCMAKE_BUILD_TYPE=Release",
-                    f"-DCMAKE_TOOLCHAIN_FILE=cmake/{target}.cmake", "-DIFIT_CODEC_INSTALL=OFF"],
+                    f"-DCMAKE_TOOLCHAIN_FILE=cmake/{target}.cmake", "-DIFIT_CODEC_INSTALL=OFF", "--no-warn-unused-cli"],
                    check=True, stdout=subprocess.DEVNULL)
     subprocess.run(["cmake", "--build", folder, "--target", "ifit_codec"], check=True, stdout=subprocess.DEVNULL)
     return folder
