@@ -95,7 +95,7 @@ int send_batch_fixed(u32 channel, const u8* records, u32 count, u32 destination,
         encoder.layout->write_fixed(at, records + std::size_t{i} * encoder.layout->record_size);
         batch.items[i] = {at, encoder.id, encoder.layout->fixed_length};
     }
-    const int result = hand_over(channel, batch.items, count, destination);
+    const int result = hand_over(*encoder.unit, channel, batch.items, count, destination);
     std::free(batch.data);
     return result;
 }
@@ -109,7 +109,7 @@ int send_batch_compact(u32 channel, const u8* records, u32 count, u32 destinatio
     u32 used = 0;
     for (u32 i = 0; i < count && all; ++i)
         all = add_to_pool(batch, i, used, records + std::size_t{i} * encoder.layout->record_size, encoder);
-    const int result = all ? hand_over(channel, batch.items, count, destination) : failed;
+    const int result = all ? hand_over(*encoder.unit, channel, batch.items, count, destination) : failed;
     std::free(batch.data);
     return result;
 }
@@ -153,7 +153,7 @@ KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u3
         write_sent(buffer, size, record, encoder);
     }
     const MeshSendItem item{buffer, encoder.id, size};
-    const int result = hand_over(channel, &item, 1, destination);
+    const int result = hand_over(*encoder.unit, channel, &item, 1, destination);
     std::free(buffer);
     return result;
 }

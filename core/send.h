@@ -2,7 +2,6 @@
 #pragma once
 
 #include "core/pack.h"
-#include "platform/mesh.h"
 
 #pragma GCC visibility push(hidden)
 
@@ -35,9 +34,10 @@ struct Encoder {
 };
 
 // Hands items to MESH. Destination 0 means no destination.
-inline int hand_over(u32 channel, const MeshSendItem* items, u32 count, u32 destination)
+inline int hand_over(const Unit& unit, u32 channel, const MeshSendItem* items, u32 count, u32 destination)
 {
-    return destination != 0 ? MESH_SendToMsg(channel, items, count, destination) : MESH_SendMsg(channel, items, count);
+    return destination != 0 ? unit.send_to_msg(channel, items, count, destination)
+                            : unit.send_msg(channel, items, count);
 }
 
 // pack_measured is X__pack without its fast path, send_single_compact is X__sendsingle for layouts with owned blocks,
@@ -82,20 +82,21 @@ template <class L>
             __attribute__((always_inline)) { return write_short_table<L>(vtable, record, encoder.nested); });
 }
 
-// X__sendsingle for a message that has a fixed form.
+// X__sendsingle for a message that has a fixed form. No stack protector: nothing but the image is written to the stack,
+// at offsets that are asserted at compile time.
 template <class L>
-[[gnu::noinline]] KESTO_ENTRY int send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel,
+[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY int send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel,
                                                                        const u8* record, [[maybe_unused]] u32 unused,
                                                                        u32 destination))
 {
     u8 buffer[L::fixed_length];
     ensure_memory_services(*encoder.unit);
+    const MeshSendItem item{buffer, encoder.id, L::fixed_length};
     if constexpr (L::is_short)
         FixedImage<L>::write_here(buffer, record);
     else
         FixedImage<L>::write(buffer, record);
-    const MeshSendItem item{buffer, encoder.id, L::fixed_length};
-    return hand_over(channel, &item, 1, destination);
+    return hand_over(*encoder.unit, channel, &item, 1, destination);
 }
 
 // With shared entries: X__pack for all layouts with owned blocks, X__pack for all flat layouts, and X__sendsingle for all
@@ -118,16 +119,16 @@ template <class L>
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
-[[gnu::noinline]] KESTO_ENTRY inline int
+[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY inline int
 send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
                                     u32 destination))
 {
     u8 buffer[fixed_buffer_bytes];
     ensure_memory_services(*encoder.unit);
     const LayoutEncoder& layout = *encoder.layout;
-    layout.write_fixed(buffer, record);
     const MeshSendItem item{buffer, encoder.id, layout.fixed_length};
-    return hand_over(channel, &item, 1, destination);
+    layout.write_fixed(buffer, record);
+    return hand_over(*encoder.unit, channel, &item, 1, destination);
 }
 
 template <class L>

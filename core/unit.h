@@ -8,6 +8,7 @@
 #include <atomic>
 
 #include "core/wire.h"
+#include "platform/mesh.h"
 #include "platform/osal.h"
 
 // Hidden declarations are called without a table of addresses, which costs a register on 32-bit x86.
@@ -27,6 +28,9 @@ struct Unit {
     std::atomic<u32> memory_ready{0};
     Allocate allocate = plain_allocate;
     Release release = plain_release;
+    // MESH's, resolved when the library is loaded. A call by name would go through two tables on 32-bit machines.
+    decltype(&MESH_SendMsg) send_msg = MESH_SendMsg;
+    decltype(&MESH_SendToMsg) send_to_msg = MESH_SendToMsg;
     OsalLogDescriptor log{"KESTO", "KESTO_MARLOCK_SERIAL", 0x6200, 0};
     pthread_mutex_t log_mutex = PTHREAD_MUTEX_INITIALIZER;
     LogWrite log_write = nullptr;
