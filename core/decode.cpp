@@ -76,7 +76,7 @@ bool decode_slots(const Frame& frame, u8* record)
 
 }   // namespace
 
-void release_record(const Decoder& decoder, u8* record)
+KESTO_IN_REGISTERS void release_record(const Decoder& decoder, u8* record)
 {
     ensure_memory_services(*decoder.unit);
     for (u32 i = 0; i < decoder.owned_block_count; ++i) {
@@ -99,38 +99,22 @@ KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots)
     return open_table(in, table, view) == TableFault::none && holds_slots(view, slots) ? view.vtable : 0;
 }
 
-bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field)
-{
-    u8* const copy = allocate(owner, routine, length + 1);   // no wrap: the text fits the input, below 2^31
-    set_field<u8*>(field, copy);
-    if (copy == nullptr)
-        return false;
-    if (length != 0)
-        memcpy_sOptAsm(copy, length, text, length);
-    copy[length] = 0;   // the sender's own NUL is neither read nor needed
-    return true;
-}
-
-bool copy_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field)
-{
-    u8* const copy = allocate(owner, routine, length);
-    set_field<u8*>(field + counted_pointer, copy);
-    if (copy == nullptr)
-        return false;
-    memcpy_sOptAsm(copy, length, block, length);
-    return true;
-}
-
-bool decode_text(const Frame& frame, u32 offset, u8* field)
+KESTO_IN_REGISTERS bool decode_text(const Frame& frame, u32 offset, u8* field)
 {
     u32 payload = 0, length = 0;
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
         return false;
-    const u8* const text = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
-    return copy_text(*frame.decoder, frame.routine, text, length, field);
+    u8* const copy = allocate(*frame.decoder, frame.routine, length + 1);   // no wrap: the text fits the input
+    set_field<u8*>(field, copy);
+    if (copy == nullptr)
+        return false;
+    if (length != 0)
+        memcpy_sOptAsm(copy, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
+    copy[length] = 0;   // the sender's own NUL is neither read nor needed
+    return true;
 }
 
-bool decode_block(const Frame& frame, u32 offset, u8* field)
+KESTO_IN_REGISTERS bool decode_block(const Frame& frame, u32 offset, u8* field)
 {
     u32 payload = 0, length = 0;
     if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
@@ -138,8 +122,12 @@ bool decode_block(const Frame& frame, u32 offset, u8* field)
     set_field<u32>(field, length);   // stays set even if the allocation fails
     if (length == 0)
         return true;
-    const u8* const block = frame.in.bytes_unchecked(payload, 0, length);   // payload_fits
-    return copy_block(*frame.decoder, frame.routine, block, length, field);
+    u8* const copy = allocate(*frame.decoder, frame.routine, length);
+    set_field<u8*>(field + counted_pointer, copy);
+    if (copy == nullptr)
+        return false;
+    memcpy_sOptAsm(copy, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
+    return true;
 }
 
 bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder, const char* routine,
@@ -188,7 +176,7 @@ bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& mes
     return false;
 }
 
-bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
+KESTO_IN_REGISTERS bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message)
 {
     std::memset(record, 0, message.decoder->record_size);
     return decode_any_nested(in, table, record, message);

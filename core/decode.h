@@ -59,7 +59,8 @@ struct Decoder {
 
 // Decodes `count` elements into `records`, which need not be initialized. After a failure all of them are safe to
 // release.
-using DecodeElements = bool (*)(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element);
+using DecodeElements = bool(KESTO_IN_REGISTERS*)(Input in, u32 cells, u32 count, u8* records,
+                                                 const NestedDecoder& element);
 
 // A message inside another one.
 struct NestedDecoder {
@@ -90,7 +91,8 @@ KESTO_ENTRY u32 decode_message(KESTO_WITH(const Decoder& decoder, const u8* byte
 [[nodiscard]] bool decode_any_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
 
 // The same for a record that need not be clear.
-[[nodiscard]] bool clear_and_decode_nested(Input in, u32 table, u8* record, const NestedDecoder& message);
+[[nodiscard]] KESTO_IN_REGISTERS bool clear_and_decode_nested(Input in, u32 table, u8* record,
+                                                              const NestedDecoder& message);
 
 // The vtable of a table, which must hold at least `slots` slots; 0, a position that no vtable can have, if it is refused.
 [[nodiscard]] KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots);
@@ -104,20 +106,16 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
     return static_cast<u8*>(block);
 }
 
-// Each of these stores a copy of a body in a field: a text is copied with a NUL added; a block must not be empty. If
-// there is no memory, they log and return false.
-[[nodiscard]] bool copy_text(const Decoder& owner, const char* routine, const u8* text, u32 length, u8* field);
-[[nodiscard]] bool copy_block(const Decoder& owner, const char* routine, const u8* block, u32 length, u8* field);
-
-// Each of these decodes one field that is present. They refuse without a log line unless the comment says otherwise.
-[[nodiscard]] bool decode_text(const Frame& frame, u32 offset, u8* field);    // logs a failed allocation
-[[nodiscard]] bool decode_block(const Frame& frame, u32 offset, u8* field);   // logs a failed allocation
+// Each of these decodes one field that is present: a text as a copy with a NUL added, a block as a copy. They refuse
+// without a log line, except that they log a failed allocation.
+[[nodiscard]] KESTO_IN_REGISTERS bool decode_text(const Frame& frame, u32 offset, u8* field);
+[[nodiscard]] KESTO_IN_REGISTERS bool decode_block(const Frame& frame, u32 offset, u8* field);
 
 // A vector whose elements take 2^32 bytes or more: the allocated block is too small for them. Always false.
 [[nodiscard, gnu::cold]] bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder,
                                                     const char* routine, const NestedDecoder& element);
 
-// Logs a failed allocation too. Inline because most messages with owned blocks consist of little more than a vector.
+// The same for a vector. Inline because most messages with owned blocks consist of little more than a vector.
 [[nodiscard, gnu::always_inline]] inline bool decode_vector(const Input& in, const TableView<Input>& view, u32 offset,
                                                             u8* field, const Decoder& decoder, const char* routine,
                                                             const NestedDecoder& element)
@@ -141,7 +139,7 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
 }
 
 // Releases all blocks that the record owns and sets its pointers to null. Counts and lengths stay as they are.
-void release_record(const Decoder& decoder, u8* record);
+KESTO_IN_REGISTERS void release_record(const Decoder& decoder, u8* record);
 
 // The body of X_free__unpacked for a message with owned blocks.
 KESTO_ENTRY void free_unpacked(KESTO_WITH(const Decoder& decoder, void* record));

@@ -191,7 +191,8 @@ template <class L>
 enum class Reading : u8 { none, refused, done };   // none: declined
 
 template <class L>
-[[nodiscard]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder, const char* routine);
+[[nodiscard]] KESTO_IN_REGISTERS Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
+                                                          const char* routine);
 
 // The same as clear_and_decode_nested.
 template <class L>
@@ -297,8 +298,8 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                      const char* routine)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS Reading try_owning_table(Input in, u32 table, u8* record,
+                                                                         const Decoder& decoder, const char* routine)
 {
     return try_owning_table_here<L>(in, table, record, decoder, routine);
 }
@@ -307,7 +308,7 @@ template <class L>
 
 // Decodes elements as dense images until one is not, and then the rest as any tables.
 template <class L>
-bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+KESTO_IN_REGISTERS bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
 {
     u32 i = 0, table = 0;
     u8* record = records;
@@ -327,7 +328,8 @@ bool decode_flat_elements(Input in, u32 cells, u32 count, u8* records, const Nes
 }
 
 template <class L>
-bool decode_owning_elements(Input in, u32 cells, u32 count, u8* records, const NestedDecoder& element)
+KESTO_IN_REGISTERS bool decode_owning_elements(Input in, u32 cells, u32 count, u8* records,
+                                               const NestedDecoder& element)
 {
     u8* record = records;
     for (u32 i = 0, table = 0; i < count; ++i, record += L::record_size) {

@@ -85,9 +85,9 @@ template <class L>
 // X__sendsingle for a message that has a fixed form. No stack protector: nothing but the image is written to the stack,
 // at offsets that are asserted at compile time.
 template <class L>
-[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY int send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel,
-                                                                       const u8* record, [[maybe_unused]] u32 unused,
-                                                                       u32 destination))
+[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY int
+send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
+                                     u32 destination))
 {
     u8 buffer[L::fixed_length];
     ensure_memory_services(*encoder.unit);
