@@ -6,6 +6,14 @@ namespace kesto {
 
 namespace {
 
+// The table that is being decoded.
+struct Frame {
+    Input in;
+    TableView<Input> view;
+    const Decoder* decoder;
+    const char* routine;
+};
+
 // Reports a table that was refused.
 [[gnu::cold]] void refuse_table(const Frame& frame, TableFault fault)
 {
@@ -53,8 +61,9 @@ bool decode_slot(const Frame& frame, u32 offset, const SlotInfo& slot, u8* field
 {
     switch (slot.kind) {
     case Kind::scalar: return decode_scalar(frame, offset, slot.width, field);
-    case Kind::text: return decode_text(frame, offset, field);
-    case Kind::block: return decode_block(frame, offset, field);
+    case Kind::text: return decode_bytes<copy_text>(frame.in, frame.view, offset, field, *frame.decoder, frame.routine);
+    case Kind::block:
+        return decode_bytes<copy_block>(frame.in, frame.view, offset, field, *frame.decoder, frame.routine);
     case Kind::array: return decode_array(frame, offset, slot, field);
     case Kind::table: return decode_table(frame, offset, slot, field);
     case Kind::vector: break;
@@ -99,34 +108,28 @@ KESTO_IN_REGISTERS u32 vtable_of(Input in, u32 table, u32 slots)
     return open_table(in, table, view) == TableFault::none && holds_slots(view, slots) ? view.vtable : 0;
 }
 
-KESTO_IN_REGISTERS bool decode_text(const Frame& frame, u32 offset, u8* field)
+KESTO_IN_REGISTERS bool copy_text(const u8* text, u32 length, u8* field, const Decoder& decoder, const char* routine)
 {
-    u32 payload = 0, length = 0;
-    if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
-        return false;
-    u8* const copy = allocate(*frame.decoder, frame.routine, length + 1);   // no wrap: the text fits the input
+    u8* const copy = allocate(decoder, routine, length + 1);   // no wrap: the text fits the input, below 2^31
     set_field<u8*>(field, copy);
     if (copy == nullptr)
         return false;
     if (length != 0)
-        memcpy_sOptAsm(copy, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
+        memcpy_sOptAsm(copy, length, text, length);
     copy[length] = 0;   // the sender's own NUL is neither read nor needed
     return true;
 }
 
-KESTO_IN_REGISTERS bool decode_block(const Frame& frame, u32 offset, u8* field)
+KESTO_IN_REGISTERS bool copy_block(const u8* block, u32 length, u8* field, const Decoder& decoder, const char* routine)
 {
-    u32 payload = 0, length = 0;
-    if (!open_body(frame.in, frame.view, offset, payload, length) || !payload_fits(frame.in, payload, length, 1))
-        return false;
     set_field<u32>(field, length);   // stays set even if the allocation fails
     if (length == 0)
         return true;
-    u8* const copy = allocate(*frame.decoder, frame.routine, length);
+    u8* const copy = allocate(decoder, routine, length);
     set_field<u8*>(field + counted_pointer, copy);
     if (copy == nullptr)
         return false;
-    memcpy_sOptAsm(copy, length, frame.in.bytes_unchecked(payload, 0, length), length);   // payload_fits
+    memcpy_sOptAsm(copy, length, block, length);
     return true;
 }
 

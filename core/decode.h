@@ -11,7 +11,6 @@
 
 namespace kesto {
 
-struct Frame;
 struct NestedDecoder;
 
 // The properties of a slot that decoding needs.
@@ -69,14 +68,6 @@ struct NestedDecoder {
     DecodeElements decode_elements;   // null for a table
 };
 
-// The table that is being decoded.
-struct Frame {
-    Input in;
-    TableView<Input> view;
-    const Decoder* decoder;
-    const char* routine;
-};
-
 // Whether the parameters permit decoding. The length is compared as a signed number, so 2^31 and more is refused too.
 inline bool may_decode(const u8* bytes, u32 length, const void* record)
 {
@@ -106,16 +97,29 @@ inline u8* allocate(const Decoder& decoder, const char* routine, u32 size)
     return static_cast<u8*>(block);
 }
 
-// Each of these decodes one field that is present: a text as a copy with a NUL added, a block as a copy. They refuse
-// without a log line, except that they log a failed allocation.
-[[nodiscard]] KESTO_IN_REGISTERS bool decode_text(const Frame& frame, u32 offset, u8* field);
-[[nodiscard]] KESTO_IN_REGISTERS bool decode_block(const Frame& frame, u32 offset, u8* field);
+// Each of these stores a copy of a body in a field: a text with a NUL added, or a block. If there is no memory, they log
+// and return false.
+[[nodiscard]] KESTO_IN_REGISTERS bool copy_text(const u8* text, u32 length, u8* field, const Decoder& decoder,
+                                                const char* routine);
+[[nodiscard]] KESTO_IN_REGISTERS bool copy_block(const u8* block, u32 length, u8* field, const Decoder& decoder,
+                                                 const char* routine);
+
+// Decodes a text or a block that is present; `copy` is the function for it. Refuses one that lies outside without a log
+// line.
+template <auto copy>
+[[nodiscard, gnu::always_inline]] inline bool decode_bytes(const Input& in, const TableView<Input>& view, u32 offset,
+                                                           u8* field, const Decoder& decoder, const char* routine)
+{
+    u32 payload = 0, length = 0;
+    return open_body(in, view, offset, payload, length) && payload_fits(in, payload, length, 1) &&
+           copy(in.bytes_unchecked(payload, 0, length), length, field, decoder, routine);   // payload_fits
+}
 
 // A vector whose elements take 2^32 bytes or more: the allocated block is too small for them. Always false.
 [[nodiscard, gnu::cold]] bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder,
                                                     const char* routine, const NestedDecoder& element);
 
-// The same for a vector. Inline because most messages with owned blocks consist of little more than a vector.
+// Decodes a vector that is present. Logs a failed allocation. Inline because most messages with owned blocks consist of little more than a vector.
 [[nodiscard, gnu::always_inline]] inline bool decode_vector(const Input& in, const TableView<Input>& view, u32 offset,
                                                             u8* field, const Decoder& decoder, const char* routine,
                                                             const NestedDecoder& element)

@@ -228,8 +228,8 @@ template <class L>
 
 // Decodes slot K, other than a scalar, and writes its field in any case.
 template <class L, class Slot>
-[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Frame& frame, const Input& in,
-                                                          const TableView<Input>& view, u32 K, u8* field)
+[[nodiscard, gnu::always_inline]] inline bool decode_slot(const Input& in, const TableView<Input>& view, u32 K,
+                                                          u8* field, const Decoder& decoder, const char* routine)
 {
     const u32 offset = slot_unchecked(in, view, K);
     if constexpr (Slot::kind == Kind::array) {
@@ -244,19 +244,18 @@ template <class L, class Slot>
             clear_bytes<Slot::record_size>(field);
             return false;
         }
-        const NestedDecoder& message = frame.decoder->nested[L::nested_before[K]];
+        const NestedDecoder& message = decoder.nested[L::nested_before[K]];
         return decode_nested<typename Slot::Layout>(in, table, field, message) || !Slot::fault_ends_read;
     } else {
         clear_bytes<Slot::record_size>(field);
         if (offset == 0)
             return true;
         if constexpr (Slot::kind == Kind::text)
-            return decode_text(frame, offset, field);
+            return decode_bytes<copy_text>(in, view, offset, field, decoder, routine);
         else if constexpr (Slot::kind == Kind::block)
-            return decode_block(frame, offset, field);
+            return decode_bytes<copy_block>(in, view, offset, field, decoder, routine);
         else
-            return decode_vector(in, view, offset, field, *frame.decoder, frame.routine,
-                                 frame.decoder->nested[L::nested_before[K]]);
+            return decode_vector(in, view, offset, field, decoder, routine, decoder.nested[L::nested_before[K]]);
     }
 }
 
@@ -268,7 +267,6 @@ template <class L, class Slot>
 }
 
 // A table whose vtable has all slots and whose scalars all lie inside the input. After a fault the record is released.
-// `in` and `view` are copies of the frame's, so that the compiler knows that no store to a record can change them.
 template <class L>
 [[nodiscard, gnu::always_inline]] inline Reading try_owning_table_here(Input in, u32 table, u8* record,
                                                                        const Decoder& decoder, const char* routine)
@@ -278,7 +276,6 @@ template <class L>
     if (!has_head && (!open_whole_table<L>(in, table, view) || !try_scalars<L>(in, view, record))) [[unlikely]]
         return Reading::none;
     clear_gaps<L>(record);
-    const Frame frame{in, view, &decoder, routine};
     u32 end = 0;   // of what the record has when a slot fails
     const bool all = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         if constexpr (Slot::kind == Kind::scalar) {
@@ -287,7 +284,7 @@ template <class L>
             if (has_head && L::in_head[K])
                 return true;
             end = L::record_offset[K] + (Slot::kind == Kind::array ? 0 : Slot::record_size);
-            return decode_slot<L, Slot>(frame, in, view, K, record + L::record_offset[K]);
+            return decode_slot<L, Slot>(in, view, K, record + L::record_offset[K], decoder, routine);
         }
     });
     if (all) [[likely]]
