@@ -191,8 +191,8 @@ template <class L>
 enum class Reading : u8 { none, refused, done };   // none: declined
 
 template <class L>
-[[nodiscard]] KESTO_IN_REGISTERS Reading try_owning_table(Input in, u32 table, u8* record, const Decoder& decoder,
-                                                          const char* routine);
+[[nodiscard]] KESTO_IN_REGISTERS Reading try_owning_table(const u8* bytes, u32 length, u32 table, u8* record,
+                                                          const Decoder& decoder, const char* routine);
 
 // The same as clear_and_decode_nested.
 template <class L>
@@ -200,7 +200,8 @@ template <class L>
                                                             const NestedDecoder& message)
 {
     if constexpr (L::has_owned_blocks) {
-        const Reading reading = try_owning_table<L>(in, table, record, *message.decoder, message.routine);
+        const Reading reading =
+            try_owning_table<L>(in.bytes, in.length, table, record, *message.decoder, message.routine);
         if (reading != Reading::none) [[likely]]
             return reading == Reading::done;
     } else if (try_dense_table<L>(in, table, record) || try_flat_table<L>(in.bytes, in.length, table, record)) {
@@ -295,10 +296,11 @@ template <class L>
 }
 
 template <class L>
-[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS Reading try_owning_table(Input in, u32 table, u8* record,
-                                                                         const Decoder& decoder, const char* routine)
+[[nodiscard, gnu::noinline]] KESTO_IN_REGISTERS Reading try_owning_table(const u8* bytes, u32 length, u32 table,
+                                                                         u8* record, const Decoder& decoder,
+                                                                         const char* routine)
 {
-    return try_owning_table_here<L>(in, table, record, decoder, routine);
+    return try_owning_table_here<L>({bytes, length}, table, record, decoder, routine);
 }
 
 // ---- elements ----
@@ -459,7 +461,8 @@ template <class L>
             done =
                 try_owning_table_here<L>(in, root_table(in), record, decoder, decoder.unpack_routine) != Reading::none;
         else
-            done = try_owning_table<L>(in, root_table(in), record, decoder, decoder.unpack_routine) != Reading::none;
+            done = try_owning_table<L>(bytes, length, root_table(in), record, decoder, decoder.unpack_routine) !=
+                   Reading::none;
         if (done) [[likely]]
             return L::record_size;
     }
