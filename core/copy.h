@@ -50,6 +50,9 @@ constexpr bool constants_as_immediates = move_bytes == 16;
 #endif
 constexpr u32 long_constants = constants_as_immediates ? never : long_stretch;
 
+// The width of a comparison with constants: ARM loads two words at once where they are aligned.
+constexpr u32 compared_bytes = constants_as_immediates ? move_bytes : 8;
+
 // Calls move(at) for the moves that cover N bytes: full ones, then one that ends at byte N and overlaps the previous.
 template <u32 N, class Move>
 [[gnu::always_inline]] inline void each_move(Move&& move)

@@ -85,9 +85,9 @@ struct Move {
     bool constant;
 };
 
-// Calls visit(move) for the moves of one piece. No move passes the given ends.
+// Calls visit(move) for the moves of one piece, of `widest` bytes at most. No move passes the given ends.
 template <class Visit>
-constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, Visit&& visit)
+constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, u32 widest, Visit&& visit)
 {
     if (piece.bytes >= (piece.constant ? long_constants : long_stretch)) {
         visit(Move{piece.to, piece.from, piece.bytes, piece.constant});
@@ -95,7 +95,7 @@ constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, 
     }
     u32 done = 0;
     while (done < piece.bytes) {
-        u32 width = std::min(move_bytes, std::bit_ceil(piece.bytes - done));
+        u32 width = std::min(widest, std::bit_ceil(piece.bytes - done));
         const auto fits = [&] {
             return piece.to + done + width <= target_end && piece.from + done + width <= source_end;
         };
@@ -254,23 +254,23 @@ private:
         detail::each_piece(runs, &FieldRun::position, &FieldRun::record_offset, counted.length,
                            [&](const detail::Piece& piece) {
                                const u32 source_end = piece.constant ? counted.length : L::record_size;
-                               detail::each_move_of(piece, counted.length, source_end, visit);
+                               detail::each_move_of(piece, counted.length, source_end, detail::move_bytes, visit);
                            });
     }>;
 
     static constexpr auto comparing = detail::collected<detail::Move, [](auto&& visit) {
-        detail::each_piece(runs, &FieldRun::position, &FieldRun::record_offset, counted.length,
-                           [&](const detail::Piece& piece) {
-                               if (piece.constant)
-                                   detail::each_move_of(piece, piece.to + piece.bytes, counted.length, visit);
-                           });
+        detail::each_piece(
+            runs, &FieldRun::position, &FieldRun::record_offset, counted.length, [&](const detail::Piece& piece) {
+                if (piece.constant)
+                    detail::each_move_of(piece, piece.to + piece.bytes, counted.length, detail::compared_bytes, visit);
+            });
     }>;
 
     static constexpr auto reading = detail::collected<detail::Move, [](auto&& visit) {
         detail::each_piece(runs_by_record, &FieldRun::record_offset, &FieldRun::position, L::record_size,
                            [&](const detail::Piece& piece) {
                                const u32 source_end = piece.constant ? L::record_size : counted.length;
-                               detail::each_move_of(piece, L::record_size, source_end, visit);
+                               detail::each_move_of(piece, L::record_size, source_end, detail::move_bytes, visit);
                            });
     }>;
 
@@ -288,13 +288,29 @@ private:
                 to[i + j] = from[i + run.width - 1 - j];
     }
 
-    // The constants of a move, where the target loads them from memory.
-    [[gnu::always_inline]] static const u8* constants_in_memory()
+    // The constants to compare with, each at a multiple of its width.
+    static constexpr auto compared_at = [] {
+        std::array<u32, comparing.size() + 1> positions{};
+        for (u32 m = 0, end = 0; m < comparing.size(); ++m, positions[m] = end) {
+            positions[m] = rounded_up(end, std::min(comparing[m].bytes, detail::compared_bytes));
+            end = positions[m] + comparing[m].bytes;
+        }
+        return positions;
+    }();
+
+    alignas(16) static constexpr auto compared = [] {
+        std::array<u8, compared_at.back()> all{};
+        for (u32 m = 0; m < comparing.size(); ++m)
+            std::copy_n(constants.begin() + comparing[m].from, comparing[m].bytes, all.begin() + compared_at[m]);
+        return all;
+    }();
+
+    // Constants, where the target loads them from memory.
+    [[gnu::always_inline]] static const u8* in_memory(const u8* bytes)
     {
-        const u8* memory = constants.data();
         if constexpr (!detail::constants_as_immediates)
-            asm("" : "+r"(memory));   // or the compiler would make each word from two immediates
-        return memory;
+            asm("" : "+r"(bytes));   // or the compiler would make each word from two immediates
+        return bytes;
     }
 
 public:
@@ -311,7 +327,7 @@ public:
             for (const FieldRun& run : runs)
                 copy_turned(to + run.position, record + run.record_offset, run);
         } else {
-            const u8* const memory = constants_in_memory();
+            const u8* const memory = in_memory(constants.data());
             make_moves<writing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = writing[m];
                 copy_bytes<move.bytes>(to + move.to, (move.constant ? memory : record) + move.from);
@@ -325,12 +341,12 @@ public:
     // Whether the bytes are the image of some record.
     [[nodiscard, gnu::always_inline]] static bool matches(const u8* bytes)
     {
-        const u8* const memory = constants_in_memory();
+        const auto* const memory = static_cast<const u8*>(__builtin_assume_aligned(in_memory(compared.data()), 16));
         if constexpr (detail::move_bytes == 16) {
             detail::Difference difference;
             make_moves<comparing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = comparing[m];
-                difference.gather<move.bytes>(bytes + move.to, memory + move.to);
+                difference.gather<move.bytes>(bytes + move.to, memory + compared_at[m]);
                 return true;
             });
             return difference.is_zero();
@@ -338,8 +354,8 @@ public:
             return make_moves<comparing>([&]<u32 m>() __attribute__((always_inline)) {
                 constexpr detail::Move move = comparing[m];
                 const u8* const left = bytes + move.to;
-                const u8* const right = memory + move.to;
-                if constexpr (move.bytes > detail::move_bytes)
+                const u8* const right = memory + compared_at[m];
+                if constexpr (move.bytes > detail::compared_bytes)
                     return detail::equal_long<move.bytes>(left, right);
                 else
                     return load<Unsigned<move.bytes>>(left) == load<Unsigned<move.bytes>>(right);
