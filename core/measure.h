@@ -10,9 +10,26 @@ struct NestedEncoder;
 
 enum class Measure : bool { exactly, bound };
 
-// The size of `count` tables without their cells, or a bound of it. Any value above largest_size means that the tables
-// do not fit in 32 bits.
-using MeasureElements = u64(KESTO_IN_REGISTERS*)(const u8* records, u32 count, const NestedEncoder* nested);
+// The size of tables. Each of 2^32 - 1 or more is too_large: no message of 32 bits can hold them.
+using Size = std::size_t;
+constexpr Size too_large = 0xFFFFFFFF;
+
+// Sums and products of 64 bits stay far from wrapping, as every loop ends at the first size that is too_large. Those of 32
+// bits stop at too_large.
+inline Size sum(Size left, Size right)
+{
+    Size both;
+    return __builtin_add_overflow(left, right, &both) && pointer_bytes == 4 ? too_large : both;
+}
+
+inline Size product(Size count, Size each)
+{
+    Size all;
+    return __builtin_mul_overflow(count, each, &all) && pointer_bytes == 4 ? too_large : all;
+}
+
+// The size of `count` tables without their cells, or a bound of it; may be too_large.
+using MeasureElements = Size(KESTO_IN_REGISTERS*)(const u8* records, u32 count, const NestedEncoder* nested);
 
 // Writes `count` tables from `at` on and fills their cells. Returns the end of the output.
 using WriteElements = u8*(KESTO_IN_REGISTERS*)(u8* cells, u32 count, u8* at, const u8* records,
@@ -25,9 +42,6 @@ struct NestedEncoder {
     WriteElements write_elements;
     const NestedEncoder* nested;   // the messages nested in that one
 };
-
-constexpr u64 largest_size = 0xFFFFFFFF;
-constexpr u64 too_large = largest_size + 1;   // makes every sum that contains it exceed 32 bits
 
 // What a table takes whatever its record holds. In a bound, that includes every scalar and the nested tables without
 // owned blocks.
@@ -73,63 +87,60 @@ template <class L>
 // for a vector with a count but no pointer. A bound counts every scalar. It is too_large for a block with a pointer and
 // length 0 too, because the end of the packer's output is not the size in that case.
 template <class L, Measure how>
-[[gnu::noinline]] KESTO_IN_REGISTERS u64 measure_table(const u8* record, const NestedEncoder* nested)
+[[gnu::noinline]] KESTO_IN_REGISTERS Size measure_table(const u8* record, const NestedEncoder* nested)
 {
     constexpr bool exactly = how == Measure::exactly;
-    u64 size = constant_size<L, how>;
+    Size size = constant_size<L, how>;
     if constexpr (exactly)
         size += bytes_of_scalars<L>(record);
-    const bool fits = L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
+    L::each_slot([&]<class Slot>(u32 K) __attribute__((always_inline)) {
         const u8* const field = record + L::record_offset[K];
         if constexpr (Slot::kind == Kind::scalar || Slot::kind == Kind::array || (!exactly && Slot::fixed_bytes != 0)) {
-            return true;   // counted above
+            // counted above
         } else if constexpr (Slot::kind == Kind::text) {
             const u8* const text = field_pointer(field);
             if (text != nullptr)
-                size += u64{cell_bytes + count_bytes} + std::strlen(reinterpret_cast<const char*>(text)) + 1;
+                size = sum(size, cell_bytes + count_bytes + std::strlen(reinterpret_cast<const char*>(text)) + 1);
         } else if constexpr (Slot::kind == Kind::block) {
             // required: the pointer alone decides, so a block of length 0 adds 8 bytes that are never written
             if (field_pointer(field + counted_pointer) != nullptr) {
                 const u32 length = field_value<u32>(field);
-                size += u64{cell_bytes + count_bytes} + length;
-                if (!exactly && length == 0)
-                    size = too_large;
+                size = !exactly && length == 0 ? too_large : sum(sum(size, cell_bytes + count_bytes), length);
             }
         } else if constexpr (Slot::kind == Kind::vector) {
             const u32 count = field_value<u32>(field);
             if (count != 0) {
                 const u8* const records = field_pointer(field + counted_pointer);
-                if (records == nullptr)   // as a failed decode leaves it: no operation accepts the record
-                    return false;
                 const NestedEncoder& element = nested[L::nested_before[K]];
                 const MeasureElements measure = exactly ? element.measure_elements : element.bound_elements;
-                size += cell_bytes + count_bytes + u64{cell_bytes} * count;
-                size += measure(records, count, element.nested);
+                size = sum(sum(size, cell_bytes + count_bytes), product(count, cell_bytes));
+                // Without a pointer, as a failed decode leaves it, no operation accepts the record.
+                size = records != nullptr ? sum(size, measure(records, count, element.nested)) : too_large;
             }
         } else {
-            size += measure_table<typename Slot::Layout, how>(field, nested[L::nested_before[K]].nested);
+            size = sum(size, measure_table<typename Slot::Layout, how>(field, nested[L::nested_before[K]].nested));
         }
-        return size <= largest_size;   // leaving here keeps the u64 sum far from wrapping
+        return true;
     });
-    return fits ? size : too_large;
+    return size;
 }
 
 template <class L, Measure how>
-KESTO_IN_REGISTERS u64 measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
+KESTO_IN_REGISTERS Size measure_elements(const u8* records, u32 count, const NestedEncoder* nested)
 {
     if constexpr (how == Measure::bound && !L::has_owned_blocks) {
-        return u64{count} * DenseImage<L>::length;
+        return product(count, DenseImage<L>::length);
     } else {
         const u8* record = records;
         const u8* const end = records + std::size_t{count} * L::record_size;
-        u64 size = 0;
+        Size size = 0;
         if constexpr (!L::has_owned_blocks) {   // leading rows without zeros have a known size
             while (record != end && is_dense<L>(record))
                 record += L::record_size;
-            size = u64{DenseImage<L>::length} * (static_cast<std::size_t>(record - records) / L::record_size);
+            size = product(static_cast<Size>(record - records) / L::record_size, DenseImage<L>::length);
         }
-        for (; record != end && size <= largest_size; record += L::record_size)
-            size += measure_table<L, how>(record, nested);
+        for (; record != end && size < too_large; record += L::record_size)
+            size = sum(size, measure_table<L, how>(record, nested));
         return size;
     }
 }

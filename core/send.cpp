@@ -15,8 +15,8 @@ u32 measure_message(const u8* record, const Encoder& encoder)
 {
     if (record == nullptr)
         return 0;
-    const u64 size = root_bytes + encoder.layout->measure(record, encoder.nested);
-    return size <= largest_size ? static_cast<u32>(size) : 0;
+    const Size size = encoder.layout->measure(record, encoder.nested);
+    return size <= too_large - root_bytes ? static_cast<u32>(root_bytes + size) : 0;
 }
 
 // Writes a whole message into a buffer, whose capacity must suffice. Returns the end of the output.
@@ -39,7 +39,7 @@ void write_sent(u8* buffer, u32 size, const u8* record, const Encoder& encoder)
 u32 batch_bytes(u64 data, u32 count)
 {
     const u64 bytes = data + u64{count} * sizeof(MeshSendItem);
-    return bytes <= largest_size ? static_cast<u32>(bytes) : 0;
+    return bytes == static_cast<u32>(bytes) ? static_cast<u32>(bytes) : 0;
 }
 
 struct Batch {
@@ -68,7 +68,7 @@ struct Batch {
         return false;
     u8* const at = batch.data + used;
     u32 size;
-    if (root_bytes + encoder.layout->bound(record, encoder.nested) <= pool_bytes - used) {
+    if (sum(root_bytes, encoder.layout->bound(record, encoder.nested)) <= pool_bytes - used) {
         ensure_memory_services(*encoder.unit);
         size = static_cast<u32>(write_message(at, record, encoder) - at);
     } else {
@@ -138,7 +138,7 @@ KESTO_ENTRY int send_single_compact(KESTO_WITH_UNUSED(const Encoder& encoder, u3
     // A short message is packed on the stack, which takes less time than measuring it; its bound takes next to none.
     u8 packed[stack_bytes];
     const bool is_short = record != nullptr && has_memory_services(*encoder.unit) &&
-                          root_bytes + encoder.layout->bound(record, encoder.nested) <= stack_bytes;
+                          sum(root_bytes, encoder.layout->bound(record, encoder.nested)) <= stack_bytes;
     const u32 size =
         is_short ? static_cast<u32>(write_message(packed, record, encoder) - packed) : measure_message(record, encoder);
     if (size == 0)

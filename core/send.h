@@ -11,8 +11,8 @@ struct Encoder;
 
 // The encoding routines of one layout, shared by all messages of that layout, for one table without a root word.
 struct LayoutEncoder {
-    u64(KESTO_IN_REGISTERS* measure)(const u8* record, const NestedEncoder* nested);
-    u64(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_length
+    Size(KESTO_IN_REGISTERS* measure)(const u8* record, const NestedEncoder* nested);
+    Size(KESTO_IN_REGISTERS* bound)(const u8* record, const NestedEncoder* nested);   // null if it is dense_length
     u8*(KESTO_IN_REGISTERS* write)(u8* vtable, const u8* record, const NestedEncoder* nested);
     void(KESTO_IN_REGISTERS* write_fixed)(u8* buffer,
                                           const u8* record);   // a whole message; null if it has no such form
@@ -50,14 +50,14 @@ KESTO_ENTRY int send_batch(KESTO_WITH(const Encoder& encoder, u32 channel, const
 KESTO_ENTRY int send_to(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count, u32 destination));
 KESTO_ENTRY int send(KESTO_WITH(const Encoder& encoder, u32 channel, const u8* records, u32 count));
 
-// The body of X__pack: `root` is the position of the root table, bound() is an upper bound of the message's length, and
-// write(vtable) writes the table.
-template <class Bound, class Write>
+// The body of X__pack: `root` is the position of the root table, fits() says whether the largest message that the record
+// may give fits the capacity, and write(vtable) writes the table.
+template <class Fits, class Write>
 [[gnu::always_inline]] inline int pack_by(const Encoder& encoder, const u8* record, u8* buffer, u32* length,
-                                          const u32& root, const Bound& bound, const Write& write)
+                                          const u32& root, const Fits& fits, const Write& write)
 {
     if (record != nullptr) [[likely]] {
-        if (buffer != nullptr && has_memory_services(*encoder.unit) && *length >= bound()) [[likely]] {
+        if (buffer != nullptr && has_memory_services(*encoder.unit) && fits()) [[likely]] {
             store(buffer, root);
             *length = static_cast<u32>(write(buffer + root_bytes) - buffer);
             return 0;
@@ -66,17 +66,20 @@ template <class Bound, class Write>
     return pack_measured(KESTO_WITH(encoder, record, buffer, length));
 }
 
+// Whether a message with a table of this size has a length of 32 bits and fits the capacity.
+inline bool table_fits(Size size, u32 capacity) { return capacity >= root_bytes && size <= capacity - root_bytes; }
+
 template <class L>
 [[gnu::noinline]] KESTO_ENTRY int pack_inline(KESTO_WITH(const Encoder& encoder, const u8* record, u8* buffer,
                                                          u32* length))
 {
     return pack_by(
         encoder, record, buffer, length, root_bytes + L::vtable_bytes,
-        [&]() __attribute__((always_inline))->u64 {
+        [&]() __attribute__((always_inline)) {
             if constexpr (L::has_owned_blocks)
-                return root_bytes + measure_table<L, Measure::bound>(record, encoder.nested);
+                return table_fits(measure_table<L, Measure::bound>(record, encoder.nested), *length);
             else
-                return root_bytes + DenseImage<L>::length;
+                return *length >= root_bytes + DenseImage<L>::length;
         },
         [&](u8 * vtable)
             __attribute__((always_inline)) { return write_short_table<L>(vtable, record, encoder.nested); });
@@ -106,7 +109,8 @@ send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const 
 {
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
-        encoder, record, buffer, length, layout.root, [&] { return root_bytes + layout.bound(record, encoder.nested); },
+        encoder, record, buffer, length, layout.root,
+        [&] { return table_fits(layout.bound(record, encoder.nested), *length); },
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
@@ -115,7 +119,7 @@ send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const 
 {
     const LayoutEncoder& layout = *encoder.layout;
     return pack_by(
-        encoder, record, buffer, length, layout.root, [&] { return layout.dense_length; },
+        encoder, record, buffer, length, layout.root, [&] { return *length >= layout.dense_length; },
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
