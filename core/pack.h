@@ -307,13 +307,16 @@ KESTO_IN_REGISTERS u8* write_any_table(u8* vtable, const u8* record, const Neste
 template <class L>
 [[gnu::always_inline]] inline u8* write_table_here(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    if constexpr (!L::has_owned_blocks) {
+    if constexpr (L::has_owned_blocks) {
+        return write_any_table_here<L, own_tail<L>>(vtable, record, nested,
+                                                    std::make_integer_sequence<u32, L::slots>());
+    } else {
         if (is_dense<L>(record)) {
             DenseImage<L>::write_here(vtable, record);
             return vtable + DenseImage<L>::length;
         }
+        return write_any_table<L, own_tail<L>>(vtable, record, nested);
     }
-    return write_any_table<L, own_tail<L>>(vtable, record, nested);
 }
 
 template <class L>
@@ -326,7 +329,8 @@ KESTO_IN_REGISTERS u8* write_table(u8* vtable, const u8* record, const NestedEnc
 template <class L>
 [[gnu::always_inline]] inline u8* write_short_table(u8* vtable, const u8* record, const NestedEncoder* nested)
 {
-    return L::is_short ? write_table_here<L>(vtable, record, nested) : write_table<L>(vtable, record, nested);
+    return L::is_short && !L::has_owned_blocks ? write_table_here<L>(vtable, record, nested)
+                                               : write_table<L>(vtable, record, nested);
 }
 
 // Writes elements as dense images until one is not dense, and then the rest slot by slot. Branching per scalar is fast
@@ -353,18 +357,21 @@ KESTO_IN_REGISTERS u8* write_elements(u8* cells, u32 count, u8* at, const u8* re
             at = table_end;
         }
     }
-    std::ptrdiff_t size = 0;
-    bool alike = false;
+    [[maybe_unused]] std::ptrdiff_t size = 0;
+    [[maybe_unused]] bool alike = false;
     for (; record != end; record += L::record_size, cell += cell_bytes) {
         link_cell();
-        [[maybe_unused]] u8* const vtable = at;
-        if (own_tail<L> == Tail::none && (!branchless_rows || alike || record + L::record_size == end))
+        if constexpr (L::has_owned_blocks) {
+            at = write_table<L>(at, record, nested);
+        } else if constexpr (own_tail<L> == Tail::follows || !branchless_rows) {
             at = write_any_table<L, own_tail<L>>(at, record, nested);
-        else
-            at = write_any_table<L, Tail::follows>(at, record, nested);
-        if constexpr (own_tail<L> == Tail::none && branchless_rows) {
-            alike = at - vtable == size;
-            size = at - vtable;
+        } else {
+            u8* const table_end = alike || record + L::record_size == end
+                                      ? write_any_table<L, Tail::none>(at, record, nested)
+                                      : write_any_table<L, Tail::follows>(at, record, nested);
+            alike = table_end - at == size;
+            size = table_end - at;
+            at = table_end;
         }
     }
     return at;
