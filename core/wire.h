@@ -245,19 +245,6 @@ template <class In>
     return static_cast<bool>(count <= (in.length - payload) / width);
 }
 
-// Whether the body whose count is at position `at` fits in the `room` bytes that are left for bodies; if so, its length
-// is subtracted from `room`. The count must be one of the image's own bytes, which lie inside.
-template <class In>
-[[nodiscard]] inline bool consume_body(const In& in, typename In::Word at, typename In::Word& room,
-                                       typename In::Word& length)
-{
-    length = in.template load_unchecked<u32>(at);   // one of the image's own bytes
-    if (length > room)
-        return false;
-    room = room - length;
-    return true;
-}
-
 // Follows the cell at `offset` to an array, which must have `elements` values. `elements` must be below 2^16, so that
 // `needed` does not wrap.
 template <class T, class In>

@@ -70,13 +70,6 @@ void fitting_payload(SymbolicWorld& world, Role role, const Word& payload, const
     world.state(role, wide(payload) + wide(count) * width <= wide(world.input().length), "the payload lies inside");
 }
 
-// For an image whose own bytes lie inside: `remaining` is the number of bytes left for its bodies.
-void bytes_remain(SymbolicWorld& world, Role role, const Word& at, const Word& n, const Word& remaining)
-{
-    world.state(role, wide(at) + wide(n) + wide(remaining) <= wide(world.input().length),
-                "the remaining bytes lie inside");
-}
-
 Truth cell_lies_inside(SymbolicWorld& world, const View& view, const Word& offset)
 {
     return wide(view.table) + wide(offset) + cell_bytes <= wide(world.input().length);
@@ -201,24 +194,6 @@ int image_lies_inside(SymbolicWorld& world)
     return 1;
 }
 
-int body_is_consumed(SymbolicWorld& world)
-{
-    const SymbolicInput in = world.input();
-    const Word at = world.any(), n = world.any(), position = world.any(), remaining_before = world.any();
-    bytes_remain(world, Role::relied_on, at, n, remaining_before);
-    world.rely(wide(position) + count_bytes <= wide(n), "the count is in the image");
-    Word remaining = remaining_before, length = world.any();
-    const bool accepted = consume_body(in, at + position, remaining, length);
-    const Word count = in.content<u32>(wide(at) + wide(position));
-    world.promise(accepted == (count <= remaining_before), "a body is consumed if and only if it fits");
-    if (!accepted)
-        return 0;
-    world.promise(length == count, "its length is its count");
-    in.touch(wide(at) + wide(position) + count_bytes, wide(length));
-    bytes_remain(world, Role::promised, at + length, n, remaining);
-    return 1;
-}
-
 template <class T>
 int scalar_is_read(SymbolicWorld& world)
 {
@@ -335,7 +310,6 @@ const Contract contracts[] = {
     {"slot_offset", slot_has_an_offset, 2},
     {"holds_bytes", bytes_are_held, 2},
     {"image_fits", image_lies_inside, 2},
-    {"consume_body", body_is_consumed, 2},
     {"read_scalar<u8>", scalar_is_read<u8>, 2},
     {"read_scalar<u16>", scalar_is_read<u16>, 2},
     {"read_scalar<u32>", scalar_is_read<u32>, 2},
