@@ -169,7 +169,7 @@ class Tree:
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
         self.tests = tests
-        for part in ("core", "messages", "platform", "include", "cmake", "tests/module"):
+        for part in ("core", "messages", "platform", "verify", "model", "include", "cmake", "tests/module"):
             shutil.copytree(os.path.join(ROOT, part), os.path.join(self.root, part))
         shutil.copy(os.path.join(ROOT, "CMakeLists.txt"), self.root)
         with open(os.path.join(tests, "CMakeCache.txt")) as cache:
