@@ -119,7 +119,8 @@ template <auto copy>
 [[nodiscard, gnu::cold]] bool decode_wrapped_vector(Input in, u32 cells, u32 count, u8* field, const Decoder& decoder,
                                                     const char* routine, const NestedDecoder& element);
 
-// Decodes a vector that is present. Logs a failed allocation. Inline because most messages with owned blocks consist of little more than a vector.
+// Decodes a vector that is present. Logs a failed allocation. Inline because most messages with owned blocks consist of
+// little more than a vector.
 [[nodiscard, gnu::always_inline]] inline bool decode_vector(const Input& in, const TableView<Input>& view, u32 offset,
                                                             u8* field, const Decoder& decoder, const char* routine,
                                                             const NestedDecoder& element)
