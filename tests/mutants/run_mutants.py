@@ -161,10 +161,18 @@ def run(command, limits={}, **kwargs):
         return "passed" if process.returncode == 0 else "failed"
 
 
+def kernel_runs_i686():
+    try:
+        return subprocess.run(["/usr/i686-linux-gnu/lib/ld-linux.so.2", "--version"], capture_output=True).returncode == 0
+    except OSError:
+        return False
+
+
 class Tree:
     """A copy of the sources and a build of its library."""
 
-    def __init__(self, folder, tests, toolchain, thorough):
+    def __init__(self, folder, tests, toolchain, emulator, thorough):
+        self.emulator = emulator
         self.thorough = thorough   # run every program even if one has noticed the mutant
         self.root = os.path.join(folder, "tree")
         self.build = os.path.join(folder, "build")
@@ -180,7 +188,7 @@ class Tree:
 
     def run_test(self, test):
         # LD_LIBRARY_PATH takes precedence over the path that the tests were linked with.
-        return run([os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], TEST_LIMITS, cwd=self.root,
+        return run([*self.emulator, os.path.join(self.tests, "tests", test), "--gtest_brief=1", "--gtest_fail_fast"], TEST_LIMITS, cwd=self.root,
                    env=dict(os.environ, LD_LIBRARY_PATH=self.build, KESTO_SHARE="1/25"))
 
     def run_proof(self):
@@ -252,7 +260,8 @@ def main():
     lost, jobs = [], os.cpu_count() or 1
     with tempfile.TemporaryDirectory(prefix="kesto_mutants_") as folder:
         toolchain = ["-DCMAKE_TOOLCHAIN_FILE=" + os.path.join(ROOT, "cmake", "i686.cmake")] if options.i686 else []
-        trees = [Tree(os.path.join(folder, str(job)), os.path.abspath(options.tests), toolchain,
+        emulator = ["qemu-i386"] if options.i686 and not kernel_runs_i686() else []
+        trees = [Tree(os.path.join(folder, str(job)), os.path.abspath(options.tests), toolchain, emulator,
                       options.list and not options.mutants) for job in range(jobs)]
         result, by = trees[0].verdict("wire.h")
         if result != "survived":
