@@ -274,9 +274,9 @@ int synthetic_wide__sendbatch(uint32_t channel, const synthetic_wide *recs, uint
 int synthetic_wide__sendmsg(uint32_t channel, const synthetic_wide *recs, uint32_t n);
 int synthetic_wide__sendtomsg(uint32_t channel, const synthetic_wide *recs, uint32_t n, uint32_t destination);
 
-/* synthetic_array: Fixed form of 40 bytes, compact form of 38 to 38. Owns no memory. */
+/* synthetic_array: Fixed form of 184 bytes, compact form of 182 to 182. Owns no memory. */
 typedef struct synthetic_array {
-    uint32_t f0[4];
+    uint32_t f0[40];
 } synthetic_array;
 
 #define SYNTHETIC_ARRAY_ID UINT32_C(0x51000009)

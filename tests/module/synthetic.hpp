@@ -133,9 +133,9 @@ struct message_traits<::synthetic_array> {
     static constexpr std::uint32_t id = SYNTHETIC_ARRAY_ID;
     static constexpr std::string_view name = "synthetic_array";
     static constexpr bool owns_blocks = false;
-    static constexpr std::uint32_t fixed_length = 40;
-    static constexpr std::uint32_t compact_least = 38;
-    static constexpr std::uint32_t compact_most = 38;
+    static constexpr std::uint32_t fixed_length = 184;
+    static constexpr std::uint32_t compact_least = 182;
+    static constexpr std::uint32_t compact_most = 182;
     static constexpr auto unpack = ::synthetic_array__unpack;
     static constexpr auto pack = ::synthetic_array__pack;
     static constexpr auto sendmsg = ::synthetic_array__sendmsg;

@@ -60,14 +60,15 @@ CHANGES = [
 ]
 # Lines without run-time behaviour.
 EXCLUDED = re.compile(r"^\s*(#|//|template|namespace|using|\[\[gnu|enum|struct)|static_assert|__attribute__|\[\[nodiscard")
-# Branches and functions that no test runs here. The first group is the branch for big-endian hosts; the others are for
-# narrow registers.
-NOT_HERE = re.compile(r"\s*if (?:constexpr )?\((?:(!host_has_wire_order)|piece\.bytes >= |N >= detail::long_stretch)|"
-                      r"\S.* (?:unpack_flat|pack_owning|pack_flat|equal_here)\(|(?:\S.* )?send_single_fixed\(")
+# Branches and functions that no test runs here: first those for big-endian hosts, and for ARM alone; then those for narrow
+# registers.
+NOT_HERE = re.compile(r"(\s*if (?:constexpr )?\(!host_has_wire_order|\S.* equal_here\()|"
+                      r"\s*if (?:constexpr )?\((?:piece\.bytes >= |N >= detail::long_stretch)|"
+                      r"\S.* (?:unpack_flat|pack_owning|pack_flat)\(|(?:\S.* )?send_single_fixed\(")
 
 
 def runs_here(lines):
-    """Yields (number, line, narrow) of all lines except those for big-endian hosts only, which no test runs here.
+    """Yields (number, line, narrow) of all lines except those for big-endian hosts or ARM only, which no test runs here.
 
     `narrow` is true for lines that run only on hosts with narrow registers.
     """
