@@ -47,26 +47,25 @@ template <class R>
 CppView view_of()
 {
     using traits = ifit_codec::message_traits<R>;
-    return {
-        traits::id,
-        traits::fixed_length,
-        traits::compact_least,
-        traits::compact_most,
-        traits::owns_blocks,
-        [](const void* record, std::span<std::uint8_t> buffer) {
-            return ifit_codec::pack(*static_cast<const R*>(record), buffer);
-        },
-        [](const void* record) { return ifit_codec::packed_size(*static_cast<const R*>(record)); },
-        [](std::span<const std::uint8_t> bytes, const std::function<void(const void*)>& see) {
-            auto [record, result] = ifit_codec::unpack<R>(bytes);
-            ifit_codec::owned<R> moved = std::move(record), target;
-            (void)target.unpack(bytes);   // the assignment below has something to free
-            target = std::move(moved);
-            see(&*target);
-            return result;
-        },
-        [](const void* record) { return ifit_codec::send(7, *static_cast<const R*>(record), 9); },
-        [](const void* records) { return ifit_codec::send_batch(7, std::span(static_cast<const R*>(records), 3)); }};
+    return {traits::id,
+            traits::fixed_length,
+            traits::compact_least,
+            traits::compact_most,
+            traits::owns_blocks,
+            [](const void* record, std::span<std::uint8_t> buffer) {
+                return ifit_codec::pack(*static_cast<const R*>(record), buffer);
+            },
+            [](const void* record) { return ifit_codec::packed_size(*static_cast<const R*>(record)); },
+            [](std::span<const std::uint8_t> bytes, const std::function<void(const void*)>& see) {
+                auto [record, result] = ifit_codec::unpack<R>(bytes);
+                ifit_codec::owned<R> moved = std::move(record), target;
+                (void)target.unpack(bytes);   // the assignment below has something to free
+                target = std::move(moved);
+                see(&*target);
+                return result;
+            },
+            [](const void* record) { return ifit_codec::send(7, *static_cast<const R*>(record), 9); },
+            [](const void* records) { return ifit_codec::send_batch(7, *static_cast<const R(*)[3]>(records)); }};
 }
 
 const std::map<std::string_view, CppView>& views()

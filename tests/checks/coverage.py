@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Reports line and branch coverage of core/.
 
-    coverage.py BUILD    a build of preset `coverage` whose tests have run
+    coverage.py BUILD    a build of preset `coverage` whose library the tests have used
 
 Headers are compiled for many layouts. Their code counts as covered if it ran for one of them, and of its branches only
 the two directions are distinguished. Gaps must be listed in coverage_gaps.txt in this folder, each with the reason why
