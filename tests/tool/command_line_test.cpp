@@ -331,6 +331,7 @@ TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
         const char* says;
     } wrong[] = {
         {" f0 flow\n", ":1: a field stands before any message"},
+        {{'#', '\n', 0, 0}, ":2: byte 0x00: the file is not text"},
         {"# first\n\nifit_flaw_base_mesh\n", ":3: no message 'ifit_flaw_base_mesh'"},
         {message + message, ":2: ifit_flow_base_mesh stands here a second time"},
         {"ifit_flow_base_mesh f0 flow", ":1: a message stands alone"},
