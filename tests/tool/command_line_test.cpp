@@ -534,6 +534,26 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     write_file(path("answerer"), answerer);
     EXPECT_EQ(kesto("compare " + path("asker") + " " + path("answerer")).exit_code, 0);
 
+    // MESH refused the first of three equal packets, and the only other one.
+    Bytes with_results = capture_head(148);
+    for (const std::uint32_t result : {0xfffffffeU, 0U, 0U})
+        add_packet(with_results, with_call(call_head(0, 4, 0, 0, result, 0), hello_packet));
+    add_packet(with_results, with_call(call_head(0, 4, 0, 0, 7, 0), packet_of(id, changed)));
+    write_file(path("results"), with_results);
+    const std::string with_rest = path("results") + " " + capture("two", {hello_packet, hello_packet});
+    difference = json_of("compare --json " + with_rest, 0);
+    EXPECT_EQ(difference.at("as_sent"), 2);
+    EXPECT_EQ(numbers_of("refused_by_mesh"), "1 - 4 - ");
+    EXPECT_EQ(numbers_of("missing"), "");
+    EXPECT_EQ(json_of("summary --json " + path("results"), 0).at("messages").at(0).at("refused_by_mesh").dump(),
+              "[{\"first_packet\":1,\"packets\":1,\"result\":-2},{\"first_packet\":4,\"packets\":1,\"result\":7}]");
+    for (const auto& [verb, says] : {std::pair("compare ", "sent          4, 1970-01-01T00:00:00.000000000Z, 28 bytes, "
+                                                           "result 7\n"),
+                                     std::pair("summary ", ", none refused, 2 refused by MESH when sent\n")})
+        EXPECT_NE(kesto(verb + (*verb == 'c' ? with_rest : path("results"))).output.find(says), std::string::npos);
+    EXPECT_EQ(kesto("compare --html " + path("page") + " " + with_rest).exit_code, 0);
+    EXPECT_NE(read_file(path("page")).find("<td>packet 4, 28 bytes, result 7<br>"), std::string::npos);
+
     write_file(path("text"), changed);
     EXPECT_NE(kesto("diff " + std::string(item) + " " + sent + " " + path("text")).output.find("--pcap reads captures"),
               std::string::npos);

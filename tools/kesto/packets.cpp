@@ -235,7 +235,8 @@ void for_every_packet(const std::string& file, u64 number, const std::function<v
         const CapturedPacket& packet = reading.packet;
         see({packet.number, time_text(packet), packet.id, reading.message,
              is_message(reading) ? nullptr : fault_name(reading), packet.bytes,
-             packet.call ? std::optional(packet.call->is_sent) : std::nullopt});
+             packet.call ? std::optional(packet.call->is_sent) : std::nullopt,
+             packet.call ? packet.call->result : std::nullopt});
         return int{accepted};
     });
 }
