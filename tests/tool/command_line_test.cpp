@@ -4,8 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
 #include <string>
 
 #include "tests/support/capture_file.h"
@@ -102,6 +105,38 @@ TEST(CommandLine, exits_with_0_1_and_2)
         const CommandResult result = kesto(each.arguments, "</dev/null");
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
+    }
+}
+
+// The words that hold a digit, and the longest line.
+std::pair<std::multiset<std::string>, std::size_t> facts_of(const std::string& output)
+{
+    std::multiset<std::string> facts;
+    std::size_t longest = 0;
+    std::istringstream lines(output);
+    for (std::string line, word; std::getline(lines, line);) {
+        longest = std::max(longest, line.find_last_not_of('\r') + 1);
+        for (std::istringstream words(line); words >> word;)
+            if (std::ranges::any_of(word, [](unsigned char c) { return std::isdigit(c) != 0; }))
+                facts.insert(word);
+    }
+    return {facts, longest};
+}
+
+TEST(CommandLine, a_terminal_of_80_columns_shows_everything_in_lines_that_fit)
+{
+    const std::string nested = "ifit_sync_ntvifit_intf_auto_detect_entry_update";
+    for (const std::string& arguments :
+         {std::string("list"), "show " + nested, std::string("show ifit_dfx_query_queryhash_item_mesh"),
+          "size " + nested, std::string("explain --help"),
+          std::string("explain ifit_mcp_mesh_delete --color never --hex ") +
+              "0c00000008001000000004000800000004000000060000000a000000"}) {
+        const auto [facts, longest] = facts_of(kesto(arguments).output);
+        const std::string on_terminal = "script -qec \"'" KESTO_PROGRAM "' " + arguments + "\" /dev/null </dev/null";
+        const auto [shown, longest_shown] = facts_of(run_command("COLUMNS=80 " + on_terminal).output);
+        EXPECT_EQ(facts, shown) << arguments;
+        EXPECT_GT(longest, 80u) << arguments;
+        EXPECT_LE(longest_shown, 80u) << arguments;
     }
 }
 

@@ -468,7 +468,7 @@ int summarise_capture(const std::string& file, const GlanceChoices& choices)
     if (choices.json)
         print(json_text(summary_json(file, summary), 2) + "\n");
     else if (choices.html.empty())
-        print(summary_text(file, summary, colours_for(choices.colour)));
+        print(folded_for_terminal(summary_text(file, summary, colours_for(choices.colour)), 11));
     if (!choices.html.empty())
         write_text(choices.html, summary_html(summary_json(file, summary)));
     return summary.refused == 0 ? accepted : refused;
@@ -489,7 +489,7 @@ int compare_captures(const std::string& sent, const std::string& received, const
         if (!choices.html.empty())
             write_text(choices.html, comparison_html(json));
     } else {
-        print(ComparisonText(choices).of(left, right, comparison));
+        print(folded_for_terminal(ComparisonText(choices).of(left, right, comparison), 12));
     }
     return comparison.is_same() ? accepted : refused;
 }
