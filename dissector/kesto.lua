@@ -371,18 +371,32 @@ for display in pairs(ticks_per_second) do
     display_types[display] = display_types.time
 end
 
+-- Compared as digits: numbers of Lua 5.1 and 5.2 are exact up to 2^53 only.
+local largest_number = { u8 = "255", u16 = "65535", u32 = "4294967295", u64 = "18446744073709551615" }
+
+local function is_too_large(number, type)
+    local hex, decimal = number:match("^0x0*(%x*)$"), number:match("^0*(%d*)$")
+    local digits, largest = hex or decimal, hex and ("f"):rep(2 * scalar_fields[type][1]) or largest_number[type]
+    return #digits > #largest or (#digits == #largest and digits:lower() > largest)
+end
+
 -- A table from number to word.
-local function read_words(file, number, words)
-    local values, any = {}, false
+local function read_words(file, number, type, words)
+    local values, values_of_words = {}, {}
     for i = 4, #words do
-        local word, value = words[i]:match("^(%l[%l%d_]*)=(%w+)$")
-        value = value and tonumber(value)
-        if not value or values[value] then
-            unreadable(file, number, "'%s' is not as in tcp=6, or repeats a number", words[i])
+        local word, text = words[i]:match("^(%l[%l%d_]*)=(%w+)$")
+        if not word or not (text:match("^%d+$") or text:match("^0x%x+$")) then
+            unreadable(file, number, "'%s' is not as in tcp=6", words[i])
+        elseif is_too_large(text, type) then
+            unreadable(file, number, "'%s': %s holds no number that large", words[i], type)
         end
-        values[value], any = word, true
+        local value = tonumber(text)
+        if values[value] or values_of_words[word] then
+            unreadable(file, number, "'%s' repeats a word or a number", words[i])
+        end
+        values[value], values_of_words[word] = word, value
     end
-    return any and values or unreadable(file, number, "an enum needs words, as in tcp=6")
+    return next(values) and values or unreadable(file, number, "an enum needs words, as in tcp=6")
 end
 
 local function read_field_line(file, number, message, words)
@@ -400,14 +414,29 @@ local function read_field_line(file, number, message, words)
     elseif words[4] and display ~= "enum" then
         unreadable(file, number, "'%s' is too much", words[4])
     end
-    return { name = name, display = display, words = display == "enum" and read_words(file, number, words) or nil }
+    local enumeration = display == "enum" and read_words(file, number, types[field], words) or nil
+    return { name = name, display = display, words = enumeration }
+end
+
+local function read_text(file)
+    local opened, fault = io.open(file, "rb")
+    if not opened then
+        error(fault, 0)
+    end
+    local text, reason = opened:read("*a")
+    opened:close()
+    return text or error(file .. ": " .. reason, 0)
 end
 
 -- By message and field: name, display, words.
 local function read_names(file)
     local views, message, number = {}, nil, 0
-    for line in assert(io.open(file)):lines() do
+    for line in read_text(file):gmatch("[^\n]*\n?") do
         number = number + 1
+        local control = line:gsub("[\t\r\n]", ""):match("%c")
+        if control then
+            unreadable(file, number, "byte 0x%02x: the file is not text", control:byte())
+        end
         local words = {}
         for word in line:gsub("#.*", ""):gmatch("%S+") do
             words[#words + 1] = word

@@ -463,12 +463,22 @@ TEST_F(Dissector, shows_fields_by_the_names_and_displays_of_a_file)
         << read_file(folder / "errors");
     EXPECT_EQ(matching_packets("kesto.ifit_flow_tuplev6_mesh.source == 2001:db8::1"), "2 ");
 
-    const std::string wrong = (folder / "wrong").string();
-    write_file(wrong, {'\n', 'x'});
+    const std::string wrong = (folder / "wrong").string(), message = "ifit_flow_base_mesh\n";
     setenv("KESTO_NAMES", wrong.c_str(), 1);
-    (void)matching_packets("");
+    const std::pair<std::string, const char*> files[] = {
+        {"\nx", ":2: 'x' is no message"},
+        {{'#', '\n', 0, 0}, ":2: byte 0x00: the file is not text"},
+        {message + " f6 protocol enum tcp=0xff udp=256", ":2: 'udp=256': u8 holds no number that large"},
+        {message + " f2 begin enum last=18446744073709551615 next=18446744073709551616",
+         ":2: 'next=18446744073709551616': u64 holds"},
+    };
+    for (const auto& [text, says] : files) {
+        write_file(wrong, {text.begin(), text.end()});
+        (void)matching_packets("");
+        EXPECT_NE(read_file(folder / "errors").find(wrong + says), std::string::npos)
+            << text << read_file(folder / "errors");
+    }
     unsetenv("KESTO_NAMES");
-    EXPECT_NE(read_file(folder / "errors").find(wrong + ":2: 'x' is no message"), std::string::npos);
 }
 
 }   // namespace

@@ -141,7 +141,8 @@ class Call:
 @dataclass(frozen=True)
 class Packet:
     """A packet of a capture. `message` is None for an unknown id. `fault` says why the packet is not a whole message,
-    and is None if it is one. `time` is in seconds since 1970. `call` is None in a capture of link type USER0."""
+    and is None if it is one. `time` is in seconds since 1970. `call` is None, the default, if the capture has no call
+    heads (link type USER0)."""
 
     number: int
     time: float
@@ -149,7 +150,7 @@ class Packet:
     message: Message | None
     data: bytes
     fault: str | None
-    call: Call | None
+    call: Call | None = None
 
 
 MessageLike = Union[str, int, Message]

@@ -153,8 +153,7 @@ def test_captures_are_read_to_the_last_whole_packet(tmp_path):
     path, greeting = tmp_path / "talk.pcap", kesto.message("ifit_dfx_query_glbdata_item_mesh")
     capture(path, [(greeting.id, kesto.encode(greeting, {"f0": "hello"})), (5, b"12345")])
     first, second = kesto.read_capture(path)
-    assert (first.message, first.time, first.fault, first.call) == (greeting, 1700000000.5, None, None)
-    assert kesto.decode(first.message, first.data) == {"f0": "hello"}
+    assert first == kesto.Packet(1, 1700000000.5, greeting.id, greeting, kesto.encode(greeting, {"f0": "hello"}), None)
     assert (second.number, second.id, second.message, second.data) == (2, 5, None, b"12345")
     path.write_bytes(path.read_bytes()[:20] + struct.pack("<5I", 148, 1, 0, 32, 32) +   # a refused send
                      struct.pack("<BBHIIiQ2I", 1, 0, 5, 3, 0, -2, 1_700_000_000_000_000_001, 5, 0))

@@ -4,8 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <nlohmann/json.hpp>
+#include <set>
+#include <sstream>
 #include <string>
 
 #include "tests/support/capture_file.h"
@@ -102,6 +105,38 @@ TEST(CommandLine, exits_with_0_1_and_2)
         const CommandResult result = kesto(each.arguments, "</dev/null");
         EXPECT_EQ(result.exit_code, each.exit_code) << each.arguments << "\n" << result.output;
         EXPECT_NE(result.output.find(each.says), std::string::npos) << each.arguments << "\n" << result.output;
+    }
+}
+
+// The words that hold a digit, and the longest line.
+std::pair<std::multiset<std::string>, std::size_t> facts_of(const std::string& output)
+{
+    std::multiset<std::string> facts;
+    std::size_t longest = 0;
+    std::istringstream lines(output);
+    for (std::string line, word; std::getline(lines, line);) {
+        longest = std::max(longest, line.find_last_not_of('\r') + 1);
+        for (std::istringstream words(line); words >> word;)
+            if (std::ranges::any_of(word, [](unsigned char c) { return std::isdigit(c) != 0; }))
+                facts.insert(word);
+    }
+    return {facts, longest};
+}
+
+TEST(CommandLine, a_terminal_of_80_columns_shows_everything_in_lines_that_fit)
+{
+    const std::string nested = "ifit_sync_ntvifit_intf_auto_detect_entry_update";
+    for (const std::string& arguments :
+         {std::string("list"), "show " + nested, std::string("show ifit_dfx_query_queryhash_item_mesh"),
+          "size " + nested, std::string("explain --help"),
+          std::string("explain ifit_mcp_mesh_delete --color never --hex ") +
+              "0c00000008001000000004000800000004000000060000000a000000"}) {
+        const auto [facts, longest] = facts_of(kesto(arguments).output);
+        const std::string on_terminal = "script -qec \"'" KESTO_PROGRAM "' " + arguments + "\" /dev/null </dev/null";
+        const auto [shown, longest_shown] = facts_of(run_command("COLUMNS=80 " + on_terminal).output);
+        EXPECT_EQ(facts, shown) << arguments;
+        EXPECT_GT(longest, 80u) << arguments;
+        EXPECT_LE(longest_shown, 80u) << arguments;
     }
 }
 
@@ -331,6 +366,7 @@ TEST_F(Files, a_wrong_file_of_names_is_refused_with_its_line)
         const char* says;
     } wrong[] = {
         {" f0 flow\n", ":1: a field stands before any message"},
+        {{'#', '\n', 0, 0}, ":2: byte 0x00: the file is not text"},
         {"# first\n\nifit_flaw_base_mesh\n", ":3: no message 'ifit_flaw_base_mesh'"},
         {message + message, ":2: ifit_flow_base_mesh stands here a second time"},
         {"ifit_flow_base_mesh f0 flow", ":1: a message stands alone"},
@@ -532,6 +568,26 @@ TEST_F(Files, captures_are_summed_up_and_compared_packet_by_packet)
     write_file(path("asker"), asker);
     write_file(path("answerer"), answerer);
     EXPECT_EQ(kesto("compare " + path("asker") + " " + path("answerer")).exit_code, 0);
+
+    // MESH refused the first of three equal packets, and the only other one.
+    Bytes with_results = capture_head(148);
+    for (const std::uint32_t result : {0xfffffffeU, 0U, 0U})
+        add_packet(with_results, with_call(call_head(0, 4, 0, 0, result, 0), hello_packet));
+    add_packet(with_results, with_call(call_head(0, 4, 0, 0, 7, 0), packet_of(id, changed)));
+    write_file(path("results"), with_results);
+    const std::string with_rest = path("results") + " " + capture("two", {hello_packet, hello_packet});
+    difference = json_of("compare --json " + with_rest, 0);
+    EXPECT_EQ(difference.at("as_sent"), 2);
+    EXPECT_EQ(numbers_of("refused_by_mesh"), "1 - 4 - ");
+    EXPECT_EQ(numbers_of("missing"), "");
+    EXPECT_EQ(json_of("summary --json " + path("results"), 0).at("messages").at(0).at("refused_by_mesh").dump(),
+              "[{\"first_packet\":1,\"packets\":1,\"result\":-2},{\"first_packet\":4,\"packets\":1,\"result\":7}]");
+    for (const auto& [verb, says] : {std::pair("compare ", "sent          4, 1970-01-01T00:00:00.000000000Z, 28 bytes, "
+                                                           "result 7\n"),
+                                     std::pair("summary ", ", none refused, 2 refused by MESH when sent\n")})
+        EXPECT_NE(kesto(verb + (*verb == 'c' ? with_rest : path("results"))).output.find(says), std::string::npos);
+    EXPECT_EQ(kesto("compare --html " + path("page") + " " + with_rest).exit_code, 0);
+    EXPECT_NE(read_file(path("page")).find("<td>packet 4, 28 bytes, result 7<br>"), std::string::npos);
 
     write_file(path("text"), changed);
     EXPECT_NE(kesto("diff " + std::string(item) + " " + sent + " " + path("text")).output.find("--pcap reads captures"),

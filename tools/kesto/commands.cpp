@@ -97,7 +97,7 @@ int explain_bytes(const Message& message, std::span<const u8> bytes, const Expla
     if (choices.json)
         print(json_text(explanation_json(explanation), 2) + "\n");
     else if (choices.html.empty())
-        print(explanation_text(explanation, {colours_for(choices.colour), choices.whole}));
+        print(explanation_text(explanation, {colours_for(choices.colour), choices.whole, terminal_width()}));
     return explanation.refused ? refused : accepted;
 }
 

@@ -11,6 +11,7 @@
 #include "tools/kesto/commands.h"
 #include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
+#include "tools/kesto/terminal.h"
 
 namespace kesto::command {
 
@@ -131,19 +132,58 @@ std::string show_json(const Message& message)
     return json_text(json, 2) + "\n";
 }
 
+// If the table is wider than the terminal, the names of nested messages stand below the types.
 std::string fields_table(const Message& message)
 {
+    constexpr std::size_t other_columns = 40;
     std::size_t name = 5, type = 4;
     for (std::size_t k = 0; k < message.slots.size(); ++k) {
         name = std::max(name, field_name(message, k).size());
         type = std::max(type, slot_text(message.slots[k]).size());
     }
+    const std::size_t width = terminal_width();
+    const bool is_narrow = width != 0 && other_columns + name + type > width;
+    if (is_narrow)
+        type = sizeof "vector of" - 1;
     std::string out = fmt::format("slot  {:{}}  {:{}}  at/32  size/32  at/64  size/64\n", "field", name, "type", type);
-    for (std::size_t k = 0; k < message.slots.size(); ++k)
+    for (std::size_t k = 0; k < message.slots.size(); ++k) {
+        const Slot& slot = message.slots[k];
+        const std::string whole = slot_text(slot),
+                          nested = is_narrow && slot.nested != nullptr ? slot.nested->name : "";
         fmt::format_to(std::back_inserter(out), "{:>4}  {:{}}  {:{}}  {:>5}  {:>7}  {:>5}  {:>7}\n", k,
-                       field_name(message, k), name, slot_text(message.slots[k]), type, message.narrow.offsets[k],
-                       model::member_size(message.slots[k], 4), message.wide.offsets[k],
-                       model::member_size(message.slots[k], 8));
+                       field_name(message, k), name, whole.substr(0, whole.size() - nested.size()), type,
+                       message.narrow.offsets[k], model::member_size(slot, 4), message.wide.offsets[k],
+                       model::member_size(slot, 8));
+        if (!nested.empty())
+            fmt::format_to(std::back_inserter(out), "{:{}}{}\n", "", name + 8, nested);
+    }
+    return out;
+}
+
+// A line for each message: in words, or as a table if the terminal is too narrow for them.
+std::string list_text(const std::vector<const Message*>& messages)
+{
+    std::string out;
+    const auto into = std::back_inserter(out);
+    std::size_t widest = 0, name = 7;
+    for (const Message* message : messages) {
+        const std::string line =
+            fmt::format("{}  {:48}  {}\n", id_text(*message), message->name, lengths_text(*message));
+        widest = std::max(widest, line.size() - 1);
+        name = std::max(name, message->name.size());
+        out += line;
+    }
+    const std::size_t width = terminal_width();
+    if (width == 0 || widest <= width)
+        return out;
+    out = fmt::format("{:10}  {:{}}  fixed  compact\n", "id", "message", name);
+    for (const Message* message : messages)
+        if (message->fixed_length == 0)
+            fmt::format_to(into, "{}  {:{}}  {:>5}  {} or more\n", id_text(*message), message->name, name, "-",
+                           message->compact_zero);
+        else
+            fmt::format_to(into, "{}  {:{}}  {:>5}  {} to {}\n", id_text(*message), message->name, name,
+                           message->fixed_length, message->compact_zero, message->compact_full);
     return out;
 }
 
@@ -153,6 +193,7 @@ int list_messages(const std::string& pattern, const ListChoices& choices)
 {
     std::string out;
     ordered_json json = ordered_json::array();
+    std::vector<const Message*> listed;
     for (const Message& message : catalogue().messages) {
         if (message.name.find(pattern) == std::string::npos && id_text(message).find(pattern) == std::string::npos)
             continue;
@@ -161,9 +202,10 @@ int list_messages(const std::string& pattern, const ListChoices& choices)
         else if (choices.names)
             out += message.name + "\n";
         else
-            fmt::format_to(std::back_inserter(out), "{}  {:48}  {}\n", id_text(message), message.name,
-                           lengths_text(message));
+            listed.push_back(&message);
     }
+    if (!listed.empty())
+        out = list_text(listed);
     const bool any = !out.empty() || !json.empty();
     print(choices.json ? json_text(json, 2) + "\n" : out);
     return any ? accepted : refused;
@@ -190,20 +232,20 @@ int show_message(const Message& message, bool json)
         users.push_back(user->name);
     if (!users.empty())
         fmt::format_to(into, "nested in {}\n", fmt::join(users, ", "));
-    out += "\n" + fields_table(message);
-    out += "\ncompact form:\n";
-    append_compact_picture(out, message);
+    std::string pictures = "\ncompact form:\n";
+    append_compact_picture(pictures, message);
     if (message.fixed_length != 0) {
-        out += "\nfixed form:\n";
-        append_fixed_picture(out, message);
+        pictures += "\nfixed form:\n";
+        append_fixed_picture(pictures, message);
     }
-    print(out);
+    print(folded_for_terminal(out, 4) + "\n" + fields_table(message) + folded_for_terminal(pictures, 12));
     return accepted;
 }
 
 int show_sizes(const Message& message, bool json)
 {
-    print(json ? json_text(message_json(message), 2) + "\n" : message.name + ": " + lengths_text(message) + "\n");
+    print(json ? json_text(message_json(message), 2) + "\n"
+               : folded_for_terminal(message.name + ": " + lengths_text(message) + "\n", 4));
     return accepted;
 }
 

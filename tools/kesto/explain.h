@@ -10,7 +10,8 @@ namespace kesto::command {
 
 struct TextOptions {
     Colours colours;
-    bool whole = false;   // prints long payloads in full
+    bool whole = false;      // prints long payloads in full
+    std::size_t width = 0;   // of the terminal; 0 for none, then no line is folded
 };
 
 std::string explanation_text(const Explanation& explanation, const TextOptions& options);

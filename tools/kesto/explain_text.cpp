@@ -71,7 +71,8 @@ void append_range(std::string& out, const Explanation& explanation, const Range&
                                        to_hex(bytes + done, count, " "), 3 * bytes_in_a_row - 1);
         if (done == 0)
             line += "  " + meaning(explanation, range, columns, options.colours);
-        fmt::format_to(into, "{}\n", line.substr(0, line.find_last_not_of(' ') + 1));
+        out += folded(line.substr(0, line.find_last_not_of(' ') + 1) + "\n", options.width,
+                      columns.position + 3 * bytes_in_a_row + 3);
         done += count;
         if (done == bytes_in_a_row * most_rows && range.length > done + bytes_in_a_row && !options.whole) {
             fmt::format_to(into, "{:>{}}  and {} more\n", "...", columns.position,
@@ -93,8 +94,9 @@ std::string origin_of_position(const Explanation& explanation, const model::Fail
 }
 
 void append_refused(std::string& out, const Explanation& explanation, const Refused& refused, bool ignored,
-                    const Colours& colours)
+                    const TextOptions& options)
 {
+    const Colours& colours = options.colours;
     const auto into = std::back_inserter(out);
     const model::Failure& failure = refused.failure;
     const std::string head =
@@ -102,9 +104,11 @@ void append_refused(std::string& out, const Explanation& explanation, const Refu
                     field_path(*explanation.message, failure.path), failure.position);
     const std::string comparison = comparison_text(failure);
     fmt::format_to(into, "{}\n", ignored ? colours.odd(head) : colours.bad(head));
-    fmt::format_to(into, "    {}{}{}\n", rule_text(failure), comparison.empty() ? "" : ": ", comparison);
+    out += folded(fmt::format("    {}{}{}\n", rule_text(failure), comparison.empty() ? "" : ": ", comparison),
+                  options.width, 6);
     if (!ignored)
-        out += origin_of_position(explanation, failure);
+        out += folded(origin_of_position(explanation, failure), options.width, 6);
+    // Not folded, so that a log can be searched for it.
     fmt::format_to(into, "    {}\n",
                    refused.log ? "the library logs " + log_line(*refused.log)
                                : std::string("the library logs nothing"));
@@ -123,7 +127,7 @@ std::string log_line(const model::Event& log)
 std::string refused_text(const Explanation& explanation, const Colours& colours)
 {
     std::string out;
-    append_refused(out, explanation, *explanation.refused, false, colours);
+    append_refused(out, explanation, *explanation.refused, false, {colours});
     return out;
 }
 
@@ -145,20 +149,22 @@ std::string explanation_text(const Explanation& explanation, const TextOptions& 
     if (!explanation.ranges.empty())
         out += "\n";
     if (explanation.refused)
-        append_refused(out, explanation, *explanation.refused, false, colours);
+        append_refused(out, explanation, *explanation.refused, false, options);
     else
         fmt::format_to(into, "{}: {}\n", colours.good("accepted"), origin_text(explanation.origin));
     if (explanation.ignored)
-        append_refused(out, explanation, *explanation.ignored, true, colours);
+        append_refused(out, explanation, *explanation.ignored, true, options);
     if (!explanation.written_for.empty())
-        fmt::format_to(into, "{}: just these bytes are written for {}\n", colours.odd("another message?"),
-                       fmt::join(explanation.written_for, ", "));
+        out += folded(fmt::format("{}: just these bytes are written for {}\n", colours.odd("another message?"),
+                                  fmt::join(explanation.written_for, ", ")),
+                      options.width, 4);
     if (explanation.allocations != 0)
         fmt::format_to(into, "memory: {} in {}\n", counted(explanation.memory, "byte"),
                        counted(explanation.allocations, "block"));
     for (const Note& note : explanation.notes)
-        fmt::format_to(into, "{}{}: {}\n", colours.odd(fmt::format("note: {}", note.code)), place_text(note),
-                       note.text);
+        out += folded(
+            fmt::format("{}{}: {}\n", colours.odd(fmt::format("note: {}", note.code)), place_text(note), note.text),
+            options.width, 4);
     return out;
 }
 

@@ -3,6 +3,7 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <functional>
 #include <iterator>
 #include <map>
 #include <unordered_map>
@@ -39,6 +40,12 @@ using Reason = std::pair<std::string, std::string>;   // code, and path without 
 struct Refusals {
     u64 packets = 0;
     u64 first = 0;   // number of a packet
+
+    void add(u64 packet)
+    {
+        if (packets++ == 0)
+            first = packet;
+    }
 };
 
 struct MessageTotal {
@@ -47,12 +54,14 @@ struct MessageTotal {
     u64 bytes = 0;
     std::string first, last;   // times
     std::map<Reason, Refusals> refused;
+    std::map<std::int32_t, Refusals> refused_by_mesh;   // by the result of the send operation
 };
 
 struct Summary {
     u64 packets = 0;
     u64 bytes = 0;
     u64 refused = 0;
+    u64 refused_by_mesh = 0;
     std::map<u32, MessageTotal> by_id;
 
     // The most frequent first.
@@ -67,9 +76,10 @@ struct Summary {
 };
 
 // The most frequent first.
-std::vector<std::pair<Reason, Refusals>> sorted(const std::map<Reason, Refusals>& refused)
+template <class Key>
+std::vector<std::pair<Key, Refusals>> sorted(const std::map<Key, Refusals>& refused)
 {
-    std::vector<std::pair<Reason, Refusals>> all(refused.begin(), refused.end());
+    std::vector<std::pair<Key, Refusals>> all(refused.begin(), refused.end());
     std::ranges::stable_sort(all, std::greater(), [](const auto& each) { return each.second.packets; });
     return all;
 }
@@ -104,9 +114,11 @@ Summary summary_of(const std::string& file)
         summary.bytes += packet.bytes.size();
         if (const std::optional<Reason> reason = reason_of(packet)) {
             ++summary.refused;
-            Refusals& refusals = total.refused[*reason];
-            if (refusals.packets++ == 0)
-                refusals.first = packet.number;
+            total.refused[*reason].add(packet.number);
+        }
+        if (packet.result.value_or(0) != 0) {
+            ++summary.refused_by_mesh;
+            total.refused_by_mesh[*packet.result].add(packet.number);
         }
     });
     return summary;
@@ -118,22 +130,27 @@ ordered_json summary_json(const std::string& file, const Summary& summary)
                          {"packets", summary.packets},
                          {"bytes", summary.bytes},
                          {"refused", summary.refused},
+                         {"refused_by_mesh", summary.refused_by_mesh},
                          {"messages", ordered_json::array()}};
     for (const auto* each : summary.sorted()) {
         const auto& [id, total] = *each;
-        ordered_json refused = ordered_json::array();
+        ordered_json refused = ordered_json::array(), refused_by_mesh = ordered_json::array();
         for (const auto& [reason, refusals] : sorted(total.refused))
             refused.push_back({{"code", reason.first},
                                {"path", reason.second},
                                {"packets", refusals.packets},
                                {"first_packet", refusals.first}});
+        for (const auto& [result, refusals] : sorted(total.refused_by_mesh))
+            refused_by_mesh.push_back(
+                {{"result", result}, {"packets", refusals.packets}, {"first_packet", refusals.first}});
         json["messages"].push_back({{"id", hex_id(id)},
                                     {"message", message_name(total.message)},
                                     {"packets", total.packets},
                                     {"bytes", total.bytes},
                                     {"first", total.first},
                                     {"last", total.last},
-                                    {"refused", refused}});
+                                    {"refused", refused},
+                                    {"refused_by_mesh", refused_by_mesh}});
     }
     return json;
 }
@@ -141,8 +158,11 @@ ordered_json summary_json(const std::string& file, const Summary& summary)
 std::string summary_text(const std::string& file, const Summary& summary, const Colours& colours)
 {
     std::string out = fmt::format(
-        "{}: {}, {}, {}\n", visible(file), counted(summary.packets, "packet"), counted(summary.bytes, "byte"),
-        summary.refused == 0 ? colours.good("none refused") : colours.bad(fmt::format("{} refused", summary.refused)));
+        "{}: {}, {}, {}{}\n", visible(file), counted(summary.packets, "packet"), counted(summary.bytes, "byte"),
+        summary.refused == 0 ? colours.good("none refused") : colours.bad(fmt::format("{} refused", summary.refused)),
+        summary.refused_by_mesh == 0
+            ? ""
+            : ", " + colours.odd(fmt::format("{} {}", summary.refused_by_mesh, refused_by_mesh_text)));
     const auto into = std::back_inserter(out);
     for (const auto* each : summary.sorted()) {
         const auto& [id, total] = *each;
@@ -153,6 +173,9 @@ std::string summary_text(const std::string& file, const Summary& summary, const 
             fmt::format_to(into, "{:>7}  {}{}, first in packet {}\n", refusals.packets,
                            colours.bad("refused: " + reason.first),
                            reason.second.empty() ? "" : " at " + colours.name(reason.second), refusals.first);
+        for (const auto& [result, refusals] : sorted(total.refused_by_mesh))
+            fmt::format_to(into, "{:>7}  {}, first in packet {}\n", refusals.packets,
+                           colours.odd(fmt::format("{}: result {}", refused_by_mesh_text, result)), refusals.first);
     }
     return out;
 }
@@ -176,7 +199,8 @@ CapturedSide side_of(const std::string& file)
                                 packet.message,
                                 packet.fault,
                                 {packet.bytes.begin(), packet.bytes.end()},
-                                packet.is_sent});
+                                packet.is_sent,
+                                packet.result});
         side.bytes += packet.bytes.size();
     });
     return side;
@@ -210,8 +234,10 @@ using Pair = std::pair<const PacketCopy*, const PacketCopy*>;   // sent, receive
 
 struct Comparison {
     u64 as_sent = 0;
+    std::vector<Pair> refused_by_mesh;   // and did not arrive
     std::vector<Pair> missing, twice, changed, unexpected;
 
+    // What MESH refused never left, so it is no difference.
     bool is_same() const { return missing.empty() && twice.empty() && changed.empty() && unexpected.empty(); }
 };
 
@@ -239,7 +265,8 @@ Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
 
     Comparison comparison;
     std::unordered_map<const PacketCopy*, u64> paired;   // to the number of the sent packet; 0: arrived once too often
-    for (const auto& [content, copies] : by_content) {
+    for (auto& [content, copies] : by_content) {
+        std::ranges::stable_partition(copies.sent, std::not_fn(&PacketCopy::is_refused_by_mesh));
         const std::size_t both = std::min(copies.sent.size(), copies.received.size());
         comparison.as_sent += both;
         for (std::size_t i = 0; i < both; ++i)
@@ -255,7 +282,9 @@ Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
         std::unordered_map<u32, u64> last;   // by id
         for (const PacketCopy& packet : side->packets) {
             const auto found = paired.find(&packet);
-            if (found == paired.end()) {
+            if (found == paired.end() && side == &sent && packet.is_refused_by_mesh()) {
+                comparison.refused_by_mesh.emplace_back(&packet, nullptr);
+            } else if (found == paired.end()) {
                 Copies& copies = left[{packet.id, last[packet.id]}];
                 (side == &sent ? copies.sent : copies.received).push_back(&packet);
             } else if (found->second != 0) {
@@ -316,7 +345,10 @@ ordered_json packet_json(const PacketCopy* packet)
 {
     if (packet == nullptr)
         return nullptr;
-    return {{"packet", packet->number}, {"time", packet->time}, {"length", packet->bytes.size()}};
+    ordered_json json = {{"packet", packet->number}, {"time", packet->time}, {"length", packet->bytes.size()}};
+    if (packet->result)
+        json["result"] = *packet->result;
+    return json;
 }
 
 ordered_json pairs_json(const std::vector<Pair>& pairs, bool with_change)
@@ -348,6 +380,7 @@ ordered_json comparison_json(const CapturedSide& sent, const CapturedSide& recei
     return {{"sent", side_json(sent)},
             {"received", side_json(received)},
             {"as_sent", comparison.as_sent},
+            {"refused_by_mesh", pairs_json(comparison.refused_by_mesh, false)},
             {"missing", pairs_json(comparison.missing, false)},
             {"twice", pairs_json(comparison.twice, false)},
             {"changed", pairs_json(comparison.changed, true)},
@@ -369,10 +402,11 @@ public:
                      ? ""
                      : fmt::format("; {} {} left out", side->left_out, side == &sent ? "received" : "sent"));
         line("{}\n", colours_.good(fmt::format("{} arrived as sent", counted(comparison.as_sent, "packet"))));
-        add_section("did not arrive", comparison.missing);
-        add_section("arrived more often than sent", comparison.twice);
-        add_section("arrived changed", comparison.changed, pairing_remark);
-        add_section("arrived without having been sent", comparison.unexpected);
+        add_section(&Colours::odd, refused_by_mesh_text, comparison.refused_by_mesh);
+        add_section(&Colours::bad, "did not arrive", comparison.missing);
+        add_section(&Colours::bad, "arrived more often than sent", comparison.twice);
+        add_section(&Colours::bad, "arrived changed", comparison.changed, pairing_remark);
+        add_section(&Colours::bad, "arrived without having been sent", comparison.unexpected);
         return out_;
     }
 
@@ -383,11 +417,13 @@ private:
         fmt::format_to(std::back_inserter(out_), format, std::forward<Values>(values)...);
     }
 
-    void add_section(const char* head, const std::vector<Pair>& pairs, const char* remark = "")
+    using Colour = std::string (Colours::*)(std::string_view) const;
+
+    void add_section(Colour colour, const char* head, const std::vector<Pair>& pairs, const char* remark = "")
     {
         if (pairs.empty())
             return;
-        line("\n{}\n{}{}", colours_.bad(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark,
+        line("\n{}\n{}{}", (colours_.*colour)(fmt::format("{} {}", counted(pairs.size(), "packet"), head)), remark,
              *remark == 0 ? "" : "\n");
         const std::size_t shown = choices_.whole ? pairs.size() : std::min(pairs.size(), most_pairs);
         for (std::size_t i = 0; i < shown; ++i)
@@ -402,7 +438,9 @@ private:
         line("    {}\n", colours_.bold(message_title(packet.id, packet.message)));
         for (const auto& [side, each] : {std::pair("sent    ", pair.first), std::pair("received", pair.second)})
             if (each != nullptr)
-                line("        {} {:>6}, {}, {}\n", side, each->number, each->time, counted(each->bytes.size(), "byte"));
+                line("        {} {:>6}, {}, {}{}\n", side, each->number, each->time,
+                     counted(each->bytes.size(), "byte"),
+                     each->is_refused_by_mesh() ? fmt::format(", result {}", *each->result) : "");
         if (!with_change)
             return;
         const Change change = change_of(pair);
@@ -430,7 +468,7 @@ int summarise_capture(const std::string& file, const GlanceChoices& choices)
     if (choices.json)
         print(json_text(summary_json(file, summary), 2) + "\n");
     else if (choices.html.empty())
-        print(summary_text(file, summary, colours_for(choices.colour)));
+        print(folded_for_terminal(summary_text(file, summary, colours_for(choices.colour)), 11));
     if (!choices.html.empty())
         write_text(choices.html, summary_html(summary_json(file, summary)));
     return summary.refused == 0 ? accepted : refused;
@@ -451,7 +489,7 @@ int compare_captures(const std::string& sent, const std::string& received, const
         if (!choices.html.empty())
             write_text(choices.html, comparison_html(json));
     } else {
-        print(ComparisonText(choices).of(left, right, comparison));
+        print(folded_for_terminal(ComparisonText(choices).of(left, right, comparison), 12));
     }
     return comparison.is_same() ? accepted : refused;
 }
@@ -462,7 +500,7 @@ PacketCopy message_packet(const std::string& file, u64 number)
     for_every_packet(file, number, [&](const PacketView& packet) {
         found = {packet.number,  packet.time,  packet.id,
                  packet.message, packet.fault, {packet.bytes.begin(), packet.bytes.end()},
-                 packet.is_sent};
+                 packet.is_sent, packet.result};
     });
     if (found.number == 0)
         throw Fault(fmt::format("{} has no packet {}", file, number));

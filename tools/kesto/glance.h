@@ -17,8 +17,11 @@ struct GlanceChoices {
 // What a capture holds, message by message. 1 if a packet is refused or no message.
 int summarise_capture(const std::string& file, const GlanceChoices& choices);
 
-// Which packets of `sent` are missing, doubled or changed in `received`. 1 if any is. Holds both in memory.
+// Which packets of `sent` are missing, doubled or changed in `received`. 1 if any is. Packets that MESH refused to send
+// are counted on their own. Holds both captures in memory.
 int compare_captures(const std::string& sent, const std::string& received, const GlanceChoices& choices);
+
+inline constexpr const char refused_by_mesh_text[] = "refused by MESH when sent";
 
 inline constexpr const char pairing_remark[] =
     "Packets pair by id and bytes. What is left pairs by place and order within an id: a guess.";
@@ -36,6 +39,9 @@ struct PacketCopy {
     const char* fault = nullptr;
     Bytes bytes;
     std::optional<bool> is_sent;
+    std::optional<std::int32_t> result;
+
+    bool is_refused_by_mesh() const { return result.value_or(0) != 0; }
 };
 PacketCopy message_packet(const std::string& file, u64 number);
 

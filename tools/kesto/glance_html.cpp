@@ -45,8 +45,10 @@ std::string packet_cell(const ordered_json& packet)
 {
     if (packet.is_null())
         return "<td>";
-    return fmt::format("<td>packet {}, {}<br><i>{}</i>", packet["packet"].get<u64>(),
-                       counted(packet["length"].get<u64>(), "byte"), escaped(packet["time"].get<std::string>()));
+    const int result = packet.value("result", 0);
+    return fmt::format(
+        "<td>packet {}, {}{}<br><i>{}</i>", packet["packet"].get<u64>(), counted(packet["length"].get<u64>(), "byte"),
+        result == 0 ? "" : fmt::format(", result {}", result), escaped(packet["time"].get<std::string>()));
 }
 
 std::string change_cell(const ordered_json& pair)
@@ -89,20 +91,37 @@ std::string summary_html(const ordered_json& summary)
                        cell(reason["path"]) + cell(reason["first_packet"]) + "</tr>\n";
         end_table(out);
     }
+    if (summary["refused_by_mesh"] != 0) {
+        fmt::format_to(std::back_inserter(out), "<h1>{} {}</h1>\n",
+                       counted(summary["refused_by_mesh"].get<u64>(), "packet"), refused_by_mesh_text);
+        begin_table(out, {"packets", "message", "result", "first in packet"});
+        for (const ordered_json& of : summary["messages"])
+            for (const ordered_json& refusals : of["refused_by_mesh"])
+                out += "<tr>" + cell(refusals["packets"]) + message_cell(of) + cell(refusals["result"]) +
+                       cell(refusals["first_packet"]) + "</tr>\n";
+        end_table(out);
+    }
     return page_of(file, out);
 }
 
 std::string comparison_html(const ordered_json& comparison)
 {
-    const auto sections = {std::pair("missing", "did not arrive"), std::pair("twice", "arrived more often than sent"),
-                           std::pair("changed", "arrived changed"),
-                           std::pair("unexpected", "arrived without having been sent")};
+    const struct {
+        const char *key, *head;
+        bool is_difference = true;
+    } sections[] = {{"refused_by_mesh", refused_by_mesh_text, false},
+                    {"missing", "did not arrive"},
+                    {"twice", "arrived more often than sent"},
+                    {"changed", "arrived changed"},
+                    {"unexpected", "arrived without having been sent"}};
     const ordered_json &sent = comparison["sent"], &received = comparison["received"];
     std::string lists;
-    for (const auto& [key, head] : sections) {
+    bool is_same = true;
+    for (const auto& [key, head, is_difference] : sections) {
         const ordered_json& pairs = comparison[key];
         if (pairs.empty())
             continue;
+        is_same = is_same && !is_difference;
         fmt::format_to(std::back_inserter(lists), "<h1>{} {}</h1>\n", counted(pairs.size(), "packet"), head);
         const bool with_change = pairs[0].contains("fields");
         if (with_change)
@@ -117,7 +136,7 @@ std::string comparison_html(const ordered_json& comparison)
     return page_of(
         fmt::format("{} and {}", sent["capture"].get<std::string>(), received["capture"].get<std::string>()),
         fmt::format("<h1>Sent and received</h1>\n{}{}",
-                    verdict(lists.empty(), counted(comparison["as_sent"].get<u64>(), "packet") + " arrived as sent",
+                    verdict(is_same, counted(comparison["as_sent"].get<u64>(), "packet") + " arrived as sent",
                             fmt::format("sent {}; received {}", side_text(sent), side_text(received))),
                     lists));
 }

@@ -5,11 +5,13 @@
 #include <functional>
 #include <map>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 #include "model/json.h"
 #include "tools/kesto/glance.h"
 #include "tools/kesto/names.h"
 #include "tools/kesto/quoting.h"
+#include "tools/kesto/terminal.h"
 
 namespace {
 
@@ -20,6 +22,8 @@ const std::map<std::string, InputFormat> input_formats{
 const std::map<std::string, ColourChoice> colour_choices{
     {"auto", ColourChoice::automatic}, {"always", ColourChoice::always}, {"never", ColourChoice::never}};
 const std::map<std::string, Form> forms{{"sent", Form::as_sent}, {"compact", Form::compact}, {"fixed", Form::fixed}};
+
+constexpr std::size_t help_column = 30;   // where CLI11 begins to describe an option
 
 constexpr const char message_help[] = "the message: its name, its id, a routine of it, or the log line that names one";
 
@@ -370,8 +374,12 @@ int run(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        if (error.get_exit_code() == 0)
-            return app.exit(error);   // help and version
+        if (error.get_exit_code() == 0) {   // help and version
+            std::ostringstream text;
+            app.exit(error, text);
+            print(folded_for_terminal(text.str(), help_column));
+            return accepted;
+        }
         std::string reason = error.what();
         if (app.get_subcommands().empty() && dynamic_cast<const CLI::RequiredError*>(&error) != nullptr) {
             std::string all;

@@ -62,9 +62,19 @@ bool fits(const Slot& slot, Display display)
 
 // ---- the file ----
 
+constexpr std::string_view blanks = " \t\r";
+
+// Throws the reason only.
+void need_text(std::string_view line)
+{
+    for (const char character : line)
+        if (const u8 byte = static_cast<u8>(character);
+            (byte < 0x20 && blanks.find(character) == std::string_view::npos) || byte == 0x7f)
+            throw Fault(fmt::format("byte {:#04x}: the file is not text", byte));
+}
+
 std::vector<std::string_view> fields_of(std::string_view line)
 {
-    constexpr std::string_view blanks = " \t\r";
     line = line.substr(0, line.find('#'));
     std::vector<std::string_view> fields;
     for (;;) {
@@ -401,9 +411,10 @@ void Names::read(std::string_view text, const std::string& where)
         text.remove_prefix(std::min(line.size() + 1, text.size()));
         ++number;
         const std::vector<std::string_view> words = fields_of(line);
-        if (words.empty())
-            continue;
         try {
+            need_text(line);
+            if (words.empty())
+                continue;
             if (line[0] != ' ' && line[0] != '\t') {
                 message = catalogue().find(words[0]);
                 if (message == nullptr || words.size() > 1)

@@ -218,8 +218,8 @@ int explain_packet(const Reading& reading, const ExplainChoices& choices, const 
         json.update(explanation_json(explanation));
         print_line(json);
     } else if (choices.html.empty()) {
-        print(fmt::format("{}\n{}\n", head_text(reading.packet),
-                          explanation_text(explanation, {colours, choices.whole})));
+        print(fmt::format("{}{}\n", folded_for_terminal(head_text(reading.packet) + "\n", 4),
+                          explanation_text(explanation, {colours, choices.whole, terminal_width()})));
     }
     return explanation.refused ? refused : accepted;
 }
@@ -235,7 +235,8 @@ void for_every_packet(const std::string& file, u64 number, const std::function<v
         const CapturedPacket& packet = reading.packet;
         see({packet.number, time_text(packet), packet.id, reading.message,
              is_message(reading) ? nullptr : fault_name(reading), packet.bytes,
-             packet.call ? std::optional(packet.call->is_sent) : std::nullopt});
+             packet.call ? std::optional(packet.call->is_sent) : std::nullopt,
+             packet.call ? packet.call->result : std::nullopt});
         return int{accepted};
     });
 }
@@ -249,7 +250,7 @@ int explain_packets(const PacketChoices& which, const ExplainChoices& choices)
         if (choices.json)
             print_line(fault_json(reading));
         else
-            print(fault_line(reading, colours) + "\n");
+            print(folded_for_terminal(fault_line(reading, colours), 4) + "\n");
         return int{refused};
     });
 }
@@ -263,7 +264,8 @@ int explain_raw_packets(const PacketChoices& which, bool as_json)
             json.update(raw_json(view));
             print_line(json);
         } else {
-            print(fmt::format("{}\n{}\n", head_text(reading.packet), raw_text(view)));
+            print(fmt::format("{}{}\n", folded_for_terminal(head_text(reading.packet) + "\n", 4),
+                              raw_text(view, terminal_width())));
         }
         return view.has_root_table ? int{accepted} : int{refused};
     });

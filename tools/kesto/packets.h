@@ -17,10 +17,11 @@ struct PacketView {
     u64 number = 0;   // from 1
     std::string time;
     u32 id = 0;
-    const Message* message = nullptr;   // found by id, null if there is none
-    const char* fault = nullptr;        // why it is no message, null if it is one
-    std::span<const u8> bytes;          // after the head; valid until the next packet is read
-    std::optional<bool> is_sent;        // or received; unknown without a call head
+    const Message* message = nullptr;     // found by id, null if there is none
+    const char* fault = nullptr;          // why it is no message, null if it is one
+    std::span<const u8> bytes;            // after the head; valid until the next packet is read
+    std::optional<bool> is_sent;          // or received; unknown without a call head
+    std::optional<std::int32_t> result;   // of the send operation; unknown without a call head
 };
 
 // All packets, or the one with this number. Throws a Fault if the file cannot be read.

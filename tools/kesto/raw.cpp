@@ -10,6 +10,7 @@
 #include "model/utf8.h"
 #include "tools/kesto/quoting.h"
 #include "tools/kesto/raw.h"
+#include "tools/kesto/terminal.h"
 
 namespace kesto::command {
 
@@ -266,17 +267,17 @@ RawView look_at(std::span<const u8> bytes)
     return view;
 }
 
-std::string raw_text(const RawView& view)
+std::string raw_text(const RawView& view, std::size_t width)
 {
     std::string out = fmt::format("{}\n\n", counted(view.length, "byte"));
     if (view.packet_head)
-        fmt::format_to(std::back_inserter(out), "{}, and positions count from there\n\n",
-                       packet_head_text(*view.packet_head));
+        out += folded(packet_head_text(*view.packet_head) + ", and positions count from there\n\n", width, 4);
     for (const RawLine& line : view.lines)
-        fmt::format_to(std::back_inserter(out), "{:>6}  {:{}}{}\n", line.position, "", 2 * line.depth, line.text);
+        out += folded(fmt::format("{:>6}  {:{}}{}\n", line.position, "", 2 * line.depth, line.text), width,
+                      8 + 2 * line.depth + 4);
     out += "\n";
     if (view.fitting)
-        out += fitting_text(*view.fitting);
+        out += folded(fitting_text(*view.fitting), width, 4);
     return out;
 }
 
@@ -303,7 +304,7 @@ nlohmann::ordered_json raw_json(const RawView& view)
 int explain_raw(std::span<const u8> bytes, bool json)
 {
     const RawView view = look_at(bytes);
-    print(json ? json_text(raw_json(view), 2) + "\n" : raw_text(view));
+    print(json ? json_text(raw_json(view), 2) + "\n" : raw_text(view, terminal_width()));
     return view.has_root_table ? accepted : refused;
 }
 

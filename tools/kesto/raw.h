@@ -24,7 +24,7 @@ struct RawView {
 };
 
 RawView look_at(std::span<const u8> bytes);
-std::string raw_text(const RawView& view);
+std::string raw_text(const RawView& view, std::size_t width);   // of the terminal, 0 for none
 nlohmann::ordered_json raw_json(const RawView& view);
 
 }   // namespace kesto::command
