@@ -266,7 +266,7 @@ Comparison comparison_of(const CapturedSide& sent, const CapturedSide& received)
     Comparison comparison;
     std::unordered_map<const PacketCopy*, u64> paired;   // to the number of the sent packet; 0: arrived once too often
     for (auto& [content, copies] : by_content) {
-        std::ranges::stable_partition(copies.sent, std::not_fn(&PacketCopy::is_refused_by_mesh));
+        std::stable_partition(copies.sent.begin(), copies.sent.end(), std::not_fn(&PacketCopy::is_refused_by_mesh));
         const std::size_t both = std::min(copies.sent.size(), copies.received.size());
         comparison.as_sent += both;
         for (std::size_t i = 0; i < both; ++i)
