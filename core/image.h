@@ -291,10 +291,12 @@ private:
     // The constants to compare with, each at a multiple of its width.
     static constexpr auto compared_at = [] {
         std::array<u32, comparing.size() + 1> positions{};
-        for (u32 m = 0, end = 0; m < comparing.size(); ++m, positions[m] = end) {
+        u32 end = 0;
+        for (u32 m = 0; m < comparing.size(); ++m) {
             positions[m] = rounded_up(end, std::min(comparing[m].bytes, detail::compared_bytes));
             end = positions[m] + comparing[m].bytes;
         }
+        positions.back() = end;
         return positions;
     }();
 
