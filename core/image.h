@@ -291,19 +291,20 @@ private:
     // The constants to compare with, each at a multiple of its width.
     static constexpr auto compared_at = [] {
         std::array<u32, comparing.size() + 1> positions{};
-        u32 end = 0;
-        for (u32 m = 0; m < comparing.size(); ++m) {
-            positions[m] = rounded_up(end, std::min(comparing[m].bytes, detail::compared_bytes));
-            end = positions[m] + comparing[m].bytes;
+        u32 m = 0, end = 0;
+        for (const detail::Move& move : comparing) {
+            positions[m] = rounded_up(end, std::min(move.bytes, detail::compared_bytes));
+            end = positions[m++] + move.bytes;
         }
-        positions.back() = end;
+        positions[m] = end;
         return positions;
     }();
 
     alignas(16) static constexpr auto compared = [] {
         std::array<u8, compared_at.back()> all{};
-        for (u32 m = 0; m < comparing.size(); ++m)
-            std::copy_n(constants.begin() + comparing[m].from, comparing[m].bytes, all.begin() + compared_at[m]);
+        u32 m = 0;
+        for (const detail::Move& move : comparing)
+            std::copy_n(constants.begin() + move.from, move.bytes, all.begin() + compared_at[m++]);
         return all;
     }();
 
