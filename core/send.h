@@ -88,7 +88,7 @@ template <class L>
 // X__sendsingle for a message that has a fixed form. No stack protector: nothing but the image is written to the stack,
 // at offsets that are asserted at compile time.
 template <class L>
-[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY int
+[[gnu::noinline]] __attribute__((no_stack_protector)) KESTO_ENTRY int
 send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
                                      u32 destination))
 {
@@ -123,7 +123,7 @@ send_single_inline(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const 
         [&](u8* vtable) { return layout.write(vtable, record, encoder.nested); });
 }
 
-[[gnu::noinline, gnu::no_stack_protector]] KESTO_ENTRY inline int
+[[gnu::noinline]] __attribute__((no_stack_protector)) KESTO_ENTRY inline int
 send_single_fixed(KESTO_WITH_UNUSED(const Encoder& encoder, u32 channel, const u8* record, [[maybe_unused]] u32 unused,
                                     u32 destination))
 {
