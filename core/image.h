@@ -81,11 +81,12 @@ struct Piece {
 struct Move {
     u32 to;
     u32 from;
-    u32 bytes;   // a power of two up to move_bytes, or the whole of a long piece
+    u32 bytes;   // a power of two, or the whole of a long piece
     bool constant;
 };
 
-// Calls visit(move) for the moves of one piece, of `widest` bytes at most. No move passes the given ends.
+// Calls visit(move) for the moves of one piece: the whole of a long one, else moves of `widest` bytes at most. No move
+// passes the given ends.
 template <class Visit>
 constexpr void each_move_of(const Piece& piece, u32 target_end, u32 source_end, u32 widest, Visit&& visit)
 {
