@@ -14,8 +14,8 @@ enum class Measure : bool { exactly, bound };
 using Size = std::size_t;
 constexpr Size too_large = 0xFFFFFFFF;
 
-// Sums and products of 64 bits stay far from wrapping, as the loop over elements ends at the first size that is too_large.
-// Those of 32 bits stop at too_large itself.
+// Sums and products of 64 bits stay far from wrapping, as the loop over elements ends at the first size that is
+// too_large. Those of 32 bits stop at too_large itself.
 inline Size sum(Size left, Size right)
 {
     Size both;

@@ -28,8 +28,8 @@ struct Unit {
     std::atomic<u32> memory_ready{0};
     Allocate allocate = plain_allocate;
     Release release = plain_release;
-    // MESH's, resolved when the library is loaded. For a call by name, code for 32-bit machines would first have to find its
-    // table of addresses.
+    // MESH's, resolved when the library is loaded. For a call by name, code for 32-bit machines would first have to find
+    // its table of addresses.
     decltype(&MESH_SendMsg) send_msg = MESH_SendMsg;
     decltype(&MESH_SendToMsg) send_to_msg = MESH_SendToMsg;
     OsalLogDescriptor log{"KESTO", "KESTO_MARLOCK_SERIAL", 0x6200, 0};
